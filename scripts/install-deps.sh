@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Installs what building and testing Lullet needs on Debian 12. Safe to run again: it does
+# nothing (and asks no mirror) when every package is already there.
+set -euo pipefail
+
+packages=(
+  build-essential cmake ninja-build ccache pkg-config git
+  qt6-base-dev qt6-base-dev-tools
+  libicu-dev libsqlite3-dev libgl-dev
+  xvfb xauth dbus dbus-x11 clang-format
+)
+
+missing=()
+for p in "${packages[@]}"; do
+  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+sudo=""
+[ "$(id -u)" -ne 0 ] && sudo="sudo"
+export DEBIAN_FRONTEND=noninteractive
+$sudo apt-get update -qq
+$sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"

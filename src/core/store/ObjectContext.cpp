@@ -1,0 +1,399 @@
+#include "core/store/ObjectContext.h"
+
+#include "core/store/Db.h"
+#include "core/store/RecordColumns.h"
+#include "core/store/Stmt.h"
+#include "core/store/Transaction.h"
+
+#include <QByteArray>
+#include <QHash>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace lullet {
+
+namespace {
+
+template <class T>
+const std::vector<Column<T>>& columnsOf();
+template <>
+const std::vector<Column<Project>>& columnsOf<Project>()
+{
+    return RecordColumns::project();
+}
+template <>
+const std::vector<Column<RepeatReminderInfo>>& columnsOf<RepeatReminderInfo>()
+{
+    return RecordColumns::repeatReminderInfo();
+}
+template <>
+const std::vector<Column<ReminderInfo>>& columnsOf<ReminderInfo>()
+{
+    return RecordColumns::reminderInfo();
+}
+
+const char* tableOf(Record::Entity entity)
+{
+    switch (entity) {
+    case Record::Entity::Project:
+        return "Project";
+    case Record::Entity::RepeatReminderInfo:
+        return "RepeatReminderInfo";
+    case Record::Entity::ReminderInfo:
+        return "ReminderInfo";
+    }
+    return "";
+}
+
+template <class T>
+QByteArray columnList()
+{
+    QByteArray list;
+    for (const auto& c : columnsOf<T>()) {
+        if (!list.isEmpty())
+            list += ", ";
+        list += c.name;
+    }
+    if constexpr (std::is_same_v<T, ReminderInfo>)
+        list += ", toProject";
+    return list;
+}
+
+template <class T>
+QByteArray insertSql(const char* table)
+{
+    const qsizetype count = qsizetype(columnsOf<T>().size()) + (std::is_same_v<T, ReminderInfo> ? 1 : 0);
+    QByteArray marks;
+    for (qsizetype i = 0; i < count; ++i)
+        marks += i ? ", ?" : "?";
+    return QByteArray("INSERT INTO ") + table + " (" + columnList<T>() + ") VALUES (" + marks + ")";
+}
+
+template <class T>
+QByteArray updateSql(const char* table)
+{
+    QByteArray set;
+    for (const auto& c : columnsOf<T>())
+        set += QByteArray(set.isEmpty() ? "" : ", ") + c.name + " = ?";
+    if constexpr (std::is_same_v<T, ReminderInfo>)
+        set += ", toProject = ?";
+    return QByteArray("UPDATE ") + table + " SET " + set + " WHERE id = ?";
+}
+
+// Binds every attribute and, for an item, its project link; answers the next free index.
+template <class T>
+int bindAll(Stmt& stmt, const T& record)
+{
+    int i = 0;
+    for (const auto& c : columnsOf<T>())
+        c.bind(stmt, i++, record);
+    if constexpr (std::is_same_v<T, ReminderInfo>) {
+        const Project* project = record.toProject();
+        stmt.bind(i++, project && project->rowId() ? std::optional<qint64>(project->rowId())
+                                                   : std::nullopt);
+    }
+    return i;
+}
+
+// Calls f with the record as its own type.
+template <class F>
+bool visit(Record* record, F&& f)
+{
+    switch (record->entity()) {
+    case Record::Entity::Project:
+        return f(*static_cast<Project*>(record));
+    case Record::Entity::RepeatReminderInfo:
+        return f(*static_cast<RepeatReminderInfo*>(record));
+    case Record::Entity::ReminderInfo:
+        return f(*static_cast<ReminderInfo*>(record));
+    }
+    return false;
+}
+
+template <class T>
+void eraseFrom(std::vector<T*>& list, Record* record)
+{
+    const auto it = std::find(list.begin(), list.end(), record);
+    if (it != list.end())
+        list.erase(it);
+}
+
+} // namespace
+
+void Record::changed()
+{
+    if (m_context && !m_deleted)
+        m_context->recordChanged(this);
+}
+
+ObjectContext::ObjectContext(Db& db)
+    : m_db(db)
+{
+}
+
+ObjectContext::~ObjectContext() = default;
+
+bool ObjectContext::fail()
+{
+    m_errorCode = m_db.errorCode();
+    m_errorMessage = m_db.errorMessage();
+    return false;
+}
+
+template <class T>
+T* ObjectContext::adopt(std::vector<T*>& live)
+{
+    auto owned = std::make_unique<T>();
+    T* record = owned.get();
+    record->m_context = this;
+    m_owned.push_back(std::move(owned));
+    live.push_back(record);
+    return record;
+}
+
+bool ObjectContext::load()
+{
+    if (m_loaded)
+        return true;
+    QHash<qint64, Project*> projectsById;
+
+    const auto loadTable = [this](auto& live, const char* table, auto&& extra) {
+        using T = std::remove_pointer_t<typename std::decay_t<decltype(live)>::value_type>;
+        const QByteArray sql = QByteArray("SELECT id, ") + columnList<T>() + " FROM " + table;
+        Stmt stmt(m_db, sql.constData());
+        if (!stmt.isValid())
+            return false;
+        const auto& columns = columnsOf<T>();
+        while (stmt.step()) {
+            T* record = adopt(live);
+            record->m_rowId = stmt.columnInt64(0);
+            int i = 1;
+            for (const auto& c : columns)
+                c.read(stmt, i++, *record);
+            extra(record, stmt, i);
+        }
+        return !stmt.failed();
+    };
+
+    const bool ok =
+        loadTable(m_projects, "Project",
+                  [&](Project* p, const Stmt&, int) { projectsById.insert(p->rowId(), p); }) &&
+        loadTable(m_rules, "RepeatReminderInfo", [](RepeatReminderInfo*, const Stmt&, int) {}) &&
+        loadTable(m_reminders, "ReminderInfo", [&](ReminderInfo* r, const Stmt& s, int i) {
+            if (s.isNull(i))
+                return;
+            if (Project* p = projectsById.value(s.columnInt64(i))) {
+                r->m_toProject = p;
+                p->m_toReminders.push_back(r);
+            }
+        });
+    if (!ok) {
+        fail();
+        reset();
+        return false;
+    }
+    m_loaded = true;
+    return true;
+}
+
+const std::vector<Project*>& ObjectContext::projects()
+{
+    load();
+    return m_projects;
+}
+
+const std::vector<RepeatReminderInfo*>& ObjectContext::repeatReminderInfos()
+{
+    load();
+    return m_rules;
+}
+
+const std::vector<ReminderInfo*>& ObjectContext::reminderInfos()
+{
+    load();
+    return m_reminders;
+}
+
+Project* ObjectContext::insertProject()
+{
+    load();
+    Project* p = adopt(m_projects);
+    p->m_inserted = true;
+    m_inserted.push_back(p);
+    return p;
+}
+
+RepeatReminderInfo* ObjectContext::insertRepeatReminderInfo()
+{
+    load();
+    RepeatReminderInfo* r = adopt(m_rules);
+    r->m_inserted = true;
+    m_inserted.push_back(r);
+    return r;
+}
+
+ReminderInfo* ObjectContext::insertReminderInfo()
+{
+    load();
+    ReminderInfo* r = adopt(m_reminders);
+    r->m_inserted = true;
+    r->m_hasFinished = false;
+    m_inserted.push_back(r);
+    return r;
+}
+
+void ObjectContext::recordChanged(Record* record)
+{
+    if (record->m_inserted || record->m_updated)
+        return;
+    record->m_updated = true;
+    m_updated.push_back(record);
+}
+
+void ObjectContext::deleteObject(Record* record)
+{
+    if (!record || record->m_context != this || record->m_deleted)
+        return;
+    record->m_deleted = true;
+    switch (record->entity()) {
+    case Record::Entity::Project: {
+        auto* project = static_cast<Project*>(record);
+        // The items stay; they only leave the project.
+        for (ReminderInfo* item : std::vector<ReminderInfo*>(project->m_toReminders))
+            item->setToProject(nullptr);
+        eraseFrom(m_projects, record);
+        break;
+    }
+    case Record::Entity::RepeatReminderInfo:
+        eraseFrom(m_rules, record);
+        break;
+    case Record::Entity::ReminderInfo:
+        static_cast<ReminderInfo*>(record)->setToProject(nullptr);
+        eraseFrom(m_reminders, record);
+        break;
+    }
+    eraseFrom(m_updated, record);
+    record->m_updated = false;
+    if (record->m_inserted) {
+        eraseFrom(m_inserted, record);
+        record->m_inserted = false;
+        record->m_context = nullptr;
+    } else {
+        m_deleted.push_back(record);
+    }
+}
+
+bool ObjectContext::hasChanges() const
+{
+    return !m_inserted.empty() || !m_updated.empty() || !m_deleted.empty();
+}
+
+bool ObjectContext::writeInserts()
+{
+    // Projects first, so that items can refer to their rows.
+    std::vector<Record*> ordered(m_inserted);
+    std::stable_sort(ordered.begin(), ordered.end(), [](const Record* a, const Record* b) {
+        return int(a->entity()) < int(b->entity());
+    });
+    std::array<std::optional<Stmt>, 3> statements;
+    for (Record* record : ordered) {
+        const bool ok = visit(record, [&](auto& typed) {
+            using T = std::decay_t<decltype(typed)>;
+            auto& stmt = statements[std::size_t(record->entity())];
+            if (!stmt)
+                stmt.emplace(m_db, insertSql<T>(tableOf(record->entity())).constData());
+            bindAll(*stmt, typed);
+            return stmt->run();
+        });
+        if (!ok)
+            return false;
+        record->m_rowId = sqlite3_last_insert_rowid(m_db.handle());
+    }
+    return true;
+}
+
+bool ObjectContext::writeUpdates()
+{
+    std::array<std::optional<Stmt>, 3> statements;
+    for (Record* record : m_updated) {
+        const bool ok = visit(record, [&](auto& typed) {
+            using T = std::decay_t<decltype(typed)>;
+            auto& stmt = statements[std::size_t(record->entity())];
+            if (!stmt)
+                stmt.emplace(m_db, updateSql<T>(tableOf(record->entity())).constData());
+            stmt->bind(bindAll(*stmt, typed), std::optional<qint64>(record->m_rowId));
+            return stmt->run();
+        });
+        if (!ok)
+            return false;
+    }
+    return true;
+}
+
+bool ObjectContext::writeDeletes()
+{
+    for (Record* record : m_deleted) {
+        const QByteArray sql =
+            QByteArray("DELETE FROM ") + tableOf(record->entity()) + " WHERE id = ?";
+        Stmt stmt(m_db, sql.constData());
+        stmt.bind(0, std::optional<qint64>(record->m_rowId));
+        if (!stmt.run())
+            return false;
+    }
+    return true;
+}
+
+bool ObjectContext::save()
+{
+    if (!hasChanges())
+        return true;
+    Transaction txn(m_db);
+    if (!txn.isActive())
+        return fail();
+    if (!writeInserts() || !writeUpdates() || !writeDeletes()) {
+        fail();
+        // The rows written in this try are gone with the rollback.
+        for (Record* record : m_inserted)
+            record->m_rowId = 0;
+        return false;
+    }
+    if (!txn.commit()) {
+        fail();
+        for (Record* record : m_inserted)
+            record->m_rowId = 0;
+        return false;
+    }
+    for (Record* record : m_inserted)
+        record->m_inserted = false;
+    for (Record* record : m_updated)
+        record->m_updated = false;
+    for (Record* record : m_deleted)
+        record->m_context = nullptr;
+    m_inserted.clear();
+    m_updated.clear();
+    m_deleted.clear();
+    m_errorCode = 0;
+    m_errorMessage.clear();
+    return true;
+}
+
+void ObjectContext::reset()
+{
+    for (const auto& record : m_owned) {
+        record->m_context = nullptr;
+        record->m_inserted = record->m_updated = false;
+    }
+    m_projects.clear();
+    m_rules.clear();
+    m_reminders.clear();
+    m_inserted.clear();
+    m_updated.clear();
+    m_deleted.clear();
+    m_loaded = false;
+}
+
+} // namespace lullet

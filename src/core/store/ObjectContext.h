@@ -1,0 +1,77 @@
+#pragma once
+
+#include "core/model/Project.h"
+#include "core/model/ReminderInfo.h"
+#include "core/model/RepeatReminderInfo.h"
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace lullet {
+
+class Db;
+
+// The one object context of the application: an identity map over the store that owns every
+// record for the whole run, tracks inserts, changes and deletes, and writes them all in one
+// transaction on save(). A change is visible to everyone holding the record at once, before any
+// save. Belongs to the main thread.
+class ObjectContext {
+public:
+    explicit ObjectContext(Db& db);
+    ~ObjectContext();
+    ObjectContext(const ObjectContext&) = delete;
+    ObjectContext& operator=(const ObjectContext&) = delete;
+
+    // Reads every record of the store. False on a read error; errorCode() tells which.
+    bool load();
+    bool isLoaded() const { return m_loaded; }
+
+    // Every live record of one entity, in store order; loads the store on first use.
+    const std::vector<Project*>& projects();
+    const std::vector<RepeatReminderInfo*>& repeatReminderInfos();
+    const std::vector<ReminderInfo*>& reminderInfos();
+
+    Project* insertProject();
+    RepeatReminderInfo* insertRepeatReminderInfo();
+    // A new item starts unfinished: lists compare hasFinished with false.
+    ReminderInfo* insertReminderInfo();
+    // Takes the record out of the data. Its memory stays valid, flagged as deleted.
+    void deleteObject(Record* record);
+
+    bool hasChanges() const;
+    // Writes every change in one transaction. On failure nothing is written, the changes stay
+    // here for the next try, and errorMessage() says why.
+    bool save();
+    // Forgets every record, as after the store file was replaced: records lose their context and
+    // the next read loads the store again. Unsaved changes are dropped.
+    void reset();
+
+    int errorCode() const { return m_errorCode; }
+    QString errorMessage() const { return m_errorMessage; }
+
+private:
+    friend class Record;
+    void recordChanged(Record* record);
+    template <class T>
+    T* adopt(std::vector<T*>& live);
+    bool fail();
+    bool writeInserts();
+    bool writeUpdates();
+    bool writeDeletes();
+
+    Db& m_db;
+    bool m_loaded = false;
+    std::vector<std::unique_ptr<Record>> m_owned;
+    std::vector<Project*> m_projects;
+    std::vector<RepeatReminderInfo*> m_rules;
+    std::vector<ReminderInfo*> m_reminders;
+    std::vector<Record*> m_inserted;
+    std::vector<Record*> m_updated;
+    std::vector<Record*> m_deleted;
+    int m_errorCode = 0;
+    QString m_errorMessage;
+};
+
+} // namespace lullet

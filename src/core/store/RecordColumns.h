@@ -1,0 +1,32 @@
+#pragma once
+
+#include "core/model/Project.h"
+#include "core/model/ReminderInfo.h"
+#include "core/model/RepeatReminderInfo.h"
+
+#include <functional>
+#include <vector>
+
+namespace lullet {
+
+class Stmt;
+
+// How one attribute of a record maps to a column of its table.
+template <class T>
+struct Column {
+    const char* name;
+    std::function<void(Stmt&, int, const T&)> bind;
+    // Loading writes the attribute directly: a loaded record is not a changed one.
+    std::function<void(const Stmt&, int, T&)> read;
+};
+
+// The attribute columns of the three tables, in table order, without the row id and, for
+// ReminderInfo, without the toProject link, which the context resolves itself.
+class RecordColumns {
+public:
+    static const std::vector<Column<Project>>& project();
+    static const std::vector<Column<RepeatReminderInfo>>& repeatReminderInfo();
+    static const std::vector<Column<ReminderInfo>>& reminderInfo();
+};
+
+} // namespace lullet

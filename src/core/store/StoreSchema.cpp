@@ -1,0 +1,118 @@
+#include "core/store/StoreSchema.h"
+
+#include "core/store/Db.h"
+#include "core/store/Transaction.h"
+
+#include <QByteArray>
+
+#include <array>
+
+namespace lullet {
+
+namespace {
+
+// Each step takes the file from the version before it to its own number. Steps are never edited
+// once released: a change of layout is a new step.
+constexpr std::array<const char*, 1> steps = {
+    R"sql(
+CREATE TABLE Project (
+    id INTEGER PRIMARY KEY,
+    name TEXT,
+    createdDate REAL,
+    uniqueId TEXT
+);
+CREATE TABLE RepeatReminderInfo (
+    id INTEGER PRIMARY KEY,
+    uniqueId TEXT,
+    title TEXT,
+    notes TEXT,
+    durationHr INTEGER,
+    durationMin INTEGER,
+    shouldRemind INTEGER,
+    remindBefore INTEGER,
+    dtReminder REAL,
+    repeatInterval INTEGER,
+    repeatIntervalType INTEGER,
+    repeatOption INTEGER,
+    dtRepeatUpto REAL,
+    isCustom INTEGER,
+    isToDoOrJob INTEGER,
+    isActive INTEGER
+);
+CREATE TABLE ReminderInfo (
+    id INTEGER PRIMARY KEY,
+    uniqueId TEXT,
+    title TEXT,
+    notes TEXT,
+    durationHr INTEGER,
+    durationMin INTEGER,
+    shouldRemind INTEGER,
+    remindBefore INTEGER,
+    dtReminder REAL,
+    dtReminderPostponed REAL,
+    repeatInterval INTEGER,
+    repeatIntervalType INTEGER,
+    repeatOption INTEGER,
+    dtRepeatUpto REAL,
+    hasStarted INTEGER,
+    hasFinished INTEGER,
+    timeLimit INTEGER,
+    elapsedTime INTEGER,
+    timeLimitExtendedBy INTEGER,
+    runningTimeCovered INTEGER,
+    toProject INTEGER REFERENCES Project(id) ON DELETE SET NULL
+);
+CREATE INDEX ReminderInfo_toProject ON ReminderInfo(toProject);
+)sql",
+};
+
+} // namespace
+
+int StoreSchema::latestVersion()
+{
+    return int(steps.size());
+}
+
+bool StoreSchema::hasTables(Db& db)
+{
+    const auto count = db.queryInt(
+        "SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND name IN "
+        "('Project', 'RepeatReminderInfo', 'ReminderInfo')");
+    return count && *count == 3;
+}
+
+StoreSchema::Check StoreSchema::check(Db& db)
+{
+    const auto appId = db.queryInt("PRAGMA application_id");
+    const auto version = db.queryInt("PRAGMA user_version");
+    const auto objects = db.queryInt("SELECT count(*) FROM sqlite_schema");
+    if (!appId || !version || !objects)
+        return Check::Foreign;
+    if (*appId == 0 && *version == 0 && *objects == 0)
+        return Check::Fresh;
+    if (*appId != applicationId)
+        return Check::Foreign;
+    if (*version > latestVersion())
+        return Check::Newer;
+    return Check::Ours;
+}
+
+bool StoreSchema::migrate(Db& db)
+{
+    if (db.queryInt("PRAGMA application_id").value_or(0) == 0) {
+        const QByteArray stamp = "PRAGMA application_id = " + QByteArray::number(applicationId);
+        if (!db.exec(stamp.constData()))
+            return false;
+    }
+    int version = int(db.queryInt("PRAGMA user_version").value_or(0));
+    for (; version < latestVersion(); ++version) {
+        Transaction txn(db);
+        const QByteArray bump = "PRAGMA user_version = " + QByteArray::number(version + 1);
+        if (!txn.isActive() || !db.exec(steps[std::size_t(version)]) || !db.exec(bump.constData()) ||
+            !txn.commit())
+            return false;
+    }
+    return true;
+}
+
+} // namespace lullet

@@ -12,8 +12,7 @@
 
 using namespace lullet;
 
-int main(int argc, char* argv[])
-{
+int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lullet"));
     QApplication::setApplicationVersion(QStringLiteral(PROJECT_VERSION));
@@ -37,8 +36,8 @@ int main(int argc, char* argv[])
 
     bool terminated = false;
     const auto quit = [&] {
-        if (terminated || delegate.applicationShouldTerminate() ==
-                              AppDelegate::TerminateReply::TerminateCancel)
+        if (terminated ||
+            delegate.applicationShouldTerminate() == AppDelegate::TerminateReply::TerminateCancel)
             return;
         terminated = true;
         delegate.applicationWillTerminate();

@@ -9,8 +9,7 @@
 namespace lullet {
 
 MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent)
-{
+    : QMainWindow(parent) {
     setWindowTitle(QStringLiteral("Lullet"));
     auto* placeholder = new QLabel(this);
     placeholder->setAlignment(Qt::AlignCenter);
@@ -22,15 +21,15 @@ MainWindow::MainWindow(QWidget* parent)
     connect(quit, &QAction::triggered, this, &MainWindow::quitRequested);
 }
 
-void MainWindow::applyWelcomeSizing()
-{
-    setWindowFlag(Qt::WindowMinMaxButtonsHint, false);
+void MainWindow::applyWelcomeSizing() {
+    // Only a title and a close button: the welcome pages have one size.
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowCloseButtonHint);
     setMaximumSize(800, 600);
     resize(800, 600);
 }
 
-void MainWindow::applyWorkingSizing(bool locked)
-{
+void MainWindow::applyWorkingSizing(bool locked) {
     setMinimumSize(600, 600);
     // The largest width and the largest height over all screens, each taken separately.
     int maxWidth = 0;

@@ -13,14 +13,11 @@ namespace lullet {
 
 ShellHost::ShellHost(MainWindow& window, QObject* parent)
     : QObject(parent)
-    , m_window(window)
-{
-}
+    , m_window(window) {}
 
 ShellHost::~ShellHost() = default;
 
-void ShellHost::openStatusMenu()
-{
+void ShellHost::openStatusMenu() {
     m_tray = new QSystemTrayIcon(StatusIcon::make(), this);
     m_tray->setToolTip(QStringLiteral("Lullet"));
     auto* menu = new QMenu(&m_window);
@@ -38,16 +35,14 @@ void ShellHost::openStatusMenu()
     m_tray->show();
 }
 
-void ShellHost::prepareMainWindow(bool welcomeDone, bool locked)
-{
+void ShellHost::prepareMainWindow(bool welcomeDone, bool locked) {
     if (welcomeDone)
         m_window.applyWorkingSizing(locked);
     else
         m_window.applyWelcomeSizing();
 }
 
-void ShellHost::bringMainWindowForward(const std::function<void()>& whenShown)
-{
+void ShellHost::bringMainWindowForward(const std::function<void()>& whenShown) {
     m_window.show();
     m_window.raise();
     m_window.activateWindow();
@@ -55,8 +50,7 @@ void ShellHost::bringMainWindowForward(const std::function<void()>& whenShown)
         QTimer::singleShot(0, this, whenShown);
 }
 
-bool ShellHost::askQuitAnyway(const QString& message, const QString& information)
-{
+bool ShellHost::askQuitAnyway(const QString& message, const QString& information) {
     QMessageBox box(QMessageBox::Warning, QStringLiteral("Lullet"), message, QMessageBox::NoButton,
                     &m_window);
     box.setInformativeText(information);
@@ -66,8 +60,7 @@ bool ShellHost::askQuitAnyway(const QString& message, const QString& information
     return box.clickedButton() == quit;
 }
 
-void ShellHost::presentError(const QString& message)
-{
+void ShellHost::presentError(const QString& message) {
     QMessageBox::warning(&m_window, QStringLiteral("Lullet"), message);
 }
 

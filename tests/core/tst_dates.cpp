@@ -6,6 +6,10 @@
 #include "support/FakeClock.h"
 #include "support/TestMain.h"
 
+#include <unicode/calendar.h>
+
+#include <cmath>
+#include <random>
 #include <thread>
 #include <vector>
 
@@ -13,8 +17,7 @@ using namespace lullet;
 using lullet::test::FakeClock;
 
 namespace {
-Date at(int y, int mo, int d, int h = 0, int mi = 0, int s = 0)
-{
+Date at(int y, int mo, int d, int h = 0, int mi = 0, int s = 0) {
     return Date::dateFromComponents(y, mo, d, h, mi, s);
 }
 constexpr double hour = 3600;
@@ -23,14 +26,12 @@ constexpr double hour = 3600;
 class TestDates : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
+    void init() {
         CalendarContext::setLocale(QStringLiteral("en_US"));
         CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
     }
 
-    void comparisonsAreInclusive()
-    {
+    void comparisonsAreInclusive() {
         const Date d = at(2026, 11, 22, 10, 15);
         QVERIFY(d.isEarlierThanDate(d));
         QVERIFY(d.isLaterThanDate(d));
@@ -41,8 +42,7 @@ private Q_SLOTS:
         QVERIFY(d.isInPast(clock));
     }
 
-    void dayNeighboursFollowTheClock()
-    {
+    void dayNeighboursFollowTheClock() {
         FakeClock clock(at(2026, 11, 22, 23, 59, 59));
         QVERIFY(at(2026, 11, 22, 0, 0, 0).isToday(clock));
         QVERIFY(!at(2026, 11, 23, 0, 0, 0).isToday(clock));
@@ -57,8 +57,7 @@ private Q_SLOTS:
         QVERIFY(!at(2025, 11, 5).isSameMonthAsDate(clock.now()));
     }
 
-    void sameWeekNeedsTheWeekNumberAndLessThanSevenDays()
-    {
+    void sameWeekNeedsTheWeekNumberAndLessThanSevenDays() {
         const Date sunday = at(2026, 11, 22, 12);
         QVERIFY(sunday.isSameWeekAsDate(at(2026, 11, 28, 12)));
         QVERIFY(!sunday.isSameWeekAsDate(at(2026, 11, 29, 12)));
@@ -69,8 +68,7 @@ private Q_SLOTS:
         QVERIFY(at(2026, 11, 16).isLastWeek(clock));
     }
 
-    void monthAndYearStepsShortenAtTheMonthEnd()
-    {
+    void monthAndYearStepsShortenAtTheMonthEnd() {
         const Date jan31 = at(2027, 1, 31, 9, 30);
         QCOMPARE(jan31.dateByAddingMonths(1), at(2027, 2, 28, 9, 30));
         QCOMPARE(at(2028, 1, 31, 9, 30).dateByAddingMonths(1), at(2028, 2, 29, 9, 30));
@@ -81,15 +79,16 @@ private Q_SLOTS:
         QCOMPARE(jan31.dateByAddingWeeks(2), at(2027, 2, 14, 9, 30));
     }
 
-    void daySuffersNoDaylightSavingDrift()
-    {
+    void daySuffersNoDaylightSavingDrift() {
         // Europe/Berlin springs forward on 29 March 2026 and falls back on 25 October 2026.
         const Date spring = at(2026, 3, 28, 10);
         QCOMPARE(spring.dateByAddingDays(1), at(2026, 3, 29, 10));
-        QCOMPARE(spring.dateByAddingDays(1).timeIntervalSince1970() - spring.timeIntervalSince1970(),
+        QCOMPARE(spring.dateByAddingDays(1).timeIntervalSince1970() -
+                     spring.timeIntervalSince1970(),
                  23 * hour);
         const Date autumn = at(2026, 10, 24, 10);
-        QCOMPARE(autumn.dateByAddingDays(1).timeIntervalSince1970() - autumn.timeIntervalSince1970(),
+        QCOMPARE(autumn.dateByAddingDays(1).timeIntervalSince1970() -
+                     autumn.timeIntervalSince1970(),
                  25 * hour);
         QCOMPARE(autumn.dateByAddingWeeks(1), at(2026, 10, 31, 10));
         QCOMPARE(at(2026, 3, 15, 10).dateByAddingMonths(1), at(2026, 4, 15, 10));
@@ -99,18 +98,17 @@ private Q_SLOTS:
         QCOMPARE(at(2026, 3, 29, 12).dateAtStartOfDay(), at(2026, 3, 29, 0));
     }
 
-    void weekAnchorsAroundNewYear_data()
-    {
+    void weekAnchorsAroundNewYear_data() {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<Date>("day");
         QTest::addColumn<Date>("start");
         QTest::addColumn<Date>("end");
         QTest::newRow("en_US Thu 31 Dec") << QStringLiteral("en_US") << at(2026, 12, 31, 15)
                                           << at(2026, 12, 27) << at(2027, 1, 2);
-        QTest::newRow("en_US Fri 1 Jan") << QStringLiteral("en_US") << at(2027, 1, 1, 8)
-                                         << at(2026, 12, 27) << at(2027, 1, 2);
-        QTest::newRow("en_US Sun 3 Jan") << QStringLiteral("en_US") << at(2027, 1, 3, 8)
-                                         << at(2027, 1, 3) << at(2027, 1, 9);
+        QTest::newRow("en_US Fri 1 Jan")
+            << QStringLiteral("en_US") << at(2027, 1, 1, 8) << at(2026, 12, 27) << at(2027, 1, 2);
+        QTest::newRow("en_US Sun 3 Jan")
+            << QStringLiteral("en_US") << at(2027, 1, 3, 8) << at(2027, 1, 3) << at(2027, 1, 9);
         QTest::newRow("de_DE Thu 31 Dec") << QStringLiteral("de_DE") << at(2026, 12, 31, 15)
                                           << at(2026, 12, 28) << at(2027, 1, 3);
         QTest::newRow("de_DE Sun 3 Jan") << QStringLiteral("de_DE") << at(2027, 1, 3, 23, 59)
@@ -119,8 +117,7 @@ private Q_SLOTS:
                                          << at(2027, 1, 4) << at(2027, 1, 10);
     }
 
-    void weekAnchorsAroundNewYear()
-    {
+    void weekAnchorsAroundNewYear() {
         QFETCH(QString, locale);
         QFETCH(Date, day);
         QFETCH(Date, start);
@@ -131,8 +128,7 @@ private Q_SLOTS:
         QCOMPARE(day.dateAtEndOfWeek(), end);
     }
 
-    void anchorsOfDayMonthAndYear()
-    {
+    void anchorsOfDayMonthAndYear() {
         const Date d = at(2026, 2, 14, 13, 45, 30);
         QCOMPARE(d.dateAtStartOfDay(), at(2026, 2, 14));
         QCOMPARE(d.dateAtEndOfDay(), at(2026, 2, 14, 23, 59, 59));
@@ -148,8 +144,7 @@ private Q_SLOTS:
         QCOMPARE(at(2028, 2, 3).monthDays(), 29);
     }
 
-    void differencesTruncateTowardZero()
-    {
+    void differencesTruncateTowardZero() {
         const Date late = at(2026, 11, 22, 23);
         QCOMPARE(at(2026, 11, 23, 1).daysAfterDate(late), 0);
         QCOMPARE(late.dateByAddingHours(36).daysAfterDate(late), 1);
@@ -160,8 +155,7 @@ private Q_SLOTS:
         QCOMPARE(late.secondsBeforeDate(Date(late.timeIntervalSince1970() + 2.9)), 2);
     }
 
-    void fieldReaders()
-    {
+    void fieldReaders() {
         const Date d = at(2026, 11, 25, 10, 40, 10);
         const DateComponents c = d.components();
         QCOMPARE(*c.year, 2026);
@@ -184,8 +178,7 @@ private Q_SLOTS:
         QCOMPARE(at(2026, 3, 1).monthToString(), QStringLiteral("März"));
     }
 
-    void relativeTimeTexts()
-    {
+    void relativeTimeTexts() {
         const Date now = at(2026, 11, 22, 12);
         FakeClock clock(now);
         QCOMPARE(now.dateBySubtractingSeconds(9).relativeTimeToString(clock),
@@ -196,15 +189,15 @@ private Q_SLOTS:
                  QStringLiteral("1 minute ago"));
         QCOMPARE(now.dateBySubtractingMinutes(45).relativeTimeToString(clock),
                  QStringLiteral("45 minutes ago"));
-        QCOMPARE(now.dateByAddingHours(5).relativeTimeToString(clock), QStringLiteral("in 5 hours"));
+        QCOMPARE(now.dateByAddingHours(5).relativeTimeToString(clock),
+                 QStringLiteral("in 5 hours"));
         QCOMPARE(now.dateBySubtractingDays(1).relativeTimeToString(clock),
                  QStringLiteral("1 day ago"));
         const Date eightDaysAgo = now.dateBySubtractingDays(8);
         QCOMPARE(eightDaysAgo.relativeTimeToString(clock), eightDaysAgo.toString());
     }
 
-    void styledTexts()
-    {
+    void styledTexts() {
         const Date now = at(2026, 11, 22, 12);
         FakeClock clock(now);
         const Date tenFifteen = at(2026, 11, 22, 10, 15);
@@ -219,7 +212,8 @@ private Q_SLOTS:
                  QStringLiteral("Yesterday"));
         QCOMPARE(at(2026, 11, 25).toString(DateStyle::mediumStyle, DateStyle::none, &clock),
                  QStringLiteral("Nov 25, 2026"));
-        const QString both = tenFifteen.toString(DateStyle::mediumStyle, DateStyle::shortStyle, &clock);
+        const QString both =
+            tenFifteen.toString(DateStyle::mediumStyle, DateStyle::shortStyle, &clock);
         QVERIFY2(both.startsWith(QStringLiteral("Today")) && both.contains(time), qPrintable(both));
         // Without a clock nothing is relative.
         QCOMPARE(tenFifteen.toString(DateStyle::mediumStyle, DateStyle::none),
@@ -234,13 +228,13 @@ private Q_SLOTS:
                  QStringLiteral("10:15"));
     }
 
-    void parsingFallsBackToNow()
-    {
+    void parsingFallsBackToNow() {
         const Date now = at(2026, 11, 22, 12);
         FakeClock clock(now);
         QCOMPARE(Date::fromString(u"", DateFormat::iso8601(), clock), now);
         QCOMPARE(Date::fromString(u"not a date", DateFormat::iso8601(), clock), now);
-        QCOMPARE(Date::fromString(u"2026-11-22 trailing", DateFormat::custom(QStringLiteral("yyyy-MM-dd")), clock),
+        QCOMPARE(Date::fromString(u"2026-11-22 trailing",
+                                  DateFormat::custom(QStringLiteral("yyyy-MM-dd")), clock),
                  now);
         QCOMPARE(Date::fromString(u"/Date(5000)/", DateFormat::dotNet(), clock), Date(5));
         QCOMPARE(Date::fromString(u"/Date(x)/", DateFormat::dotNet(), clock), now);
@@ -250,14 +244,15 @@ private Q_SLOTS:
                  Date(1795305600 + 9 * 3600 + 15 * 60 + 30));
         QCOMPARE(Date::fromString(u"Sun, 22 Nov 2026 00:00:00 Z", DateFormat::rss(), clock),
                  Date(1795305600));
-        QCOMPARE(Date::fromString(u"22.11.2026", DateFormat::custom(QStringLiteral("dd.MM.yyyy")), clock),
+        QCOMPARE(Date::fromString(u"22.11.2026", DateFormat::custom(QStringLiteral("dd.MM.yyyy")),
+                                  clock),
                  at(2026, 11, 22));
-        QCOMPARE(iso8601FormatForDateString(u"2026-11-22T10:15:30"), ISO8601Format::DateTimeMilliSec);
+        QCOMPARE(iso8601FormatForDateString(u"2026-11-22T10:15:30"),
+                 ISO8601Format::DateTimeMilliSec);
         QCOMPARE(iso8601FormatForDateString(u"2026-11"), ISO8601Format::YearMonth);
     }
 
-    void formatting()
-    {
+    void formatting() {
         const Date d(1795305600); // 2026-11-22 00:00:00 UTC
         QCOMPARE(d.toString(DateFormat::iso8601(ISO8601Format::Date), TimeZone::utc),
                  QStringLiteral("2026-11-22"));
@@ -268,8 +263,7 @@ private Q_SLOTS:
                  QStringLiteral("Sun, 22 Nov 2026 00:00:00 +0000"));
     }
 
-    void projectFuncHelpers()
-    {
+    void projectFuncHelpers() {
         QCOMPARE(projectFunc::getDayName(QStringLiteral("1")), QStringLiteral("SUNDAY"));
         QCOMPARE(projectFunc::getDayName(QStringLiteral("7")), QStringLiteral("SATURDAY"));
         QCOMPARE(projectFunc::getDayName(QStringLiteral("8")), QString());
@@ -285,9 +279,11 @@ private Q_SLOTS:
         QCOMPARE(projectFunc::returnDateTimeComp(d), at(2026, 3, 9, 14));
         FakeClock clock(at(2026, 3, 10, 0, 30));
         QCOMPARE(projectFunc::transformedValue(d, clock), QStringLiteral("Yesterday"));
-        QCOMPARE(projectFunc::transformedValue(at(2026, 3, 10, 23), clock), QStringLiteral("Today"));
+        QCOMPARE(projectFunc::transformedValue(at(2026, 3, 10, 23), clock),
+                 QStringLiteral("Today"));
         CalendarContext::setLocale(QStringLiteral("en_US"));
-        QCOMPARE(projectFunc::transformedValue(at(2026, 3, 1), clock), QStringLiteral("01 Mar 2026"));
+        QCOMPARE(projectFunc::transformedValue(at(2026, 3, 1), clock),
+                 QStringLiteral("01 Mar 2026"));
         QCOMPARE(projectFunc::stringFromTimeInterval(3723.5), QStringLiteral("01:02:03.500"));
         QCOMPARE(projectFunc::stringFromTimeInterval(0), QStringLiteral("00:00:00.000"));
 
@@ -298,8 +294,50 @@ private Q_SLOTS:
         QCOMPARE(transformer.transformedValue(QVariant()), QString());
     }
 
-    void formattersAreSafeAcrossThreads()
-    {
+    // The arithmetic shortcuts must give the calendar's own answers, in zones with midnight
+    // changes, half-hour changes and a skipped day.
+    void shortcutsAgreeWithTheCalendar_data() {
+        QTest::addColumn<QString>("zone");
+        for (const char* zone : {"Europe/Berlin", "America/Sao_Paulo", "Asia/Beirut",
+                                 "Australia/Lord_Howe", "Pacific/Apia", "America/New_York", "UTC"})
+            QTest::newRow(zone) << QString::fromLatin1(zone);
+    }
+
+    void shortcutsAgreeWithTheCalendar() {
+        QFETCH(QString, zone);
+        CalendarContext::setTimeZone(zone);
+        icu::Calendar& cal = CalendarContext::calendar();
+        std::mt19937 rng(7);
+        // 1995 to 2040, past the end of every zone's table of changes.
+        std::uniform_real_distribution<double> moment(788'918'400.0, 2'209'075'200.0);
+        std::uniform_int_distribution<int> days(-800, 800);
+        for (int i = 0; i < 20000; ++i) {
+            const Date d(std::floor(moment(rng)));
+            const int n = i % 3 ? days(rng) : (i % 2 ? 1 : -1);
+            UErrorCode status = U_ZERO_ERROR;
+            cal.setTime(d.timeIntervalSince1970() * 1000.0, status);
+            cal.add(UCAL_DATE, n, status);
+            const Date added(cal.getTime(status) / 1000.0);
+            QCOMPARE(d.dateByAddingDays(n), added);
+
+            cal.setTime(d.timeIntervalSince1970() * 1000.0, status);
+            cal.set(UCAL_HOUR_OF_DAY, 0);
+            cal.set(UCAL_MINUTE, 0);
+            cal.set(UCAL_SECOND, 0);
+            cal.set(UCAL_MILLISECOND, 0);
+            const Date start(cal.getTime(status) / 1000.0);
+            QCOMPARE(d.dateAtStartOfDay(), start);
+
+            const Date other(d.timeIntervalSince1970() + (i % 2 ? 1 : -1) * (i % 100000));
+            const DateComponents a = d.components();
+            const DateComponents b = other.components();
+            QCOMPARE(d.isEqualToDateIgnoringTime(other),
+                     a.year == b.year && a.month == b.month && a.day == b.day);
+            QVERIFY(U_SUCCESS(status));
+        }
+    }
+
+    void formattersAreSafeAcrossThreads() {
         const Date d(1795305600);
         const QString expected = d.toString(DateFormat::iso8601(), TimeZone::utc);
         std::vector<std::thread> threads;

@@ -15,21 +15,18 @@ using lullet::test::FakeClock;
 
 namespace {
 
-QByteArray readAll(const QString& path)
-{
+QByteArray readAll(const QString& path) {
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
-void writeFile(const QString& path, const QByteArray& bytes)
-{
+void writeFile(const QString& path, const QByteArray& bytes) {
     QFile f(path);
     QVERIFY(f.open(QIODevice::WriteOnly));
     f.write(bytes);
 }
 
-QStringList asideFiles(const QString& folder)
-{
+QStringList asideFiles(const QString& folder) {
     QStringList stores;
     for (const QString& name :
          QDir(folder).entryList({QStringLiteral("Lullet.sqlite.unreadable-*")}, QDir::Files)) {
@@ -49,14 +46,12 @@ class TestStore : public QObject {
     QString folder() const { return m_dir.filePath(QStringLiteral("data/Lullet")); }
 
 private Q_SLOTS:
-    void init()
-    {
+    void init() {
         QDir(m_dir.path()).removeRecursively();
         QVERIFY(QDir().mkpath(m_dir.path()));
     }
 
-    void firstRunCreatesTheFolderAndAWalStore()
-    {
+    void firstRunCreatesTheFolderAndAWalStore() {
         StoreStack store(folder(), m_clock);
         const auto result = store.build();
         QCOMPARE(result.outcome, StoreStack::Outcome::Opened);
@@ -73,8 +68,7 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(store.storePath() + QStringLiteral("-shm")));
     }
 
-    void everyAttributeSurvivesAReload()
-    {
+    void everyAttributeSurvivesAReload() {
         {
             StoreStack store(folder(), m_clock);
             QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
@@ -132,8 +126,8 @@ private Q_SLOTS:
         QCOMPARE(*rule->isCustom(), false);
         QCOMPARE(*rule->isActive(), true);
         QVERIFY(!rule->notes());
-        ReminderInfo* item = ctx.reminderInfos()[0]->title() ? ctx.reminderInfos()[0]
-                                                             : ctx.reminderInfos()[1];
+        ReminderInfo* item =
+            ctx.reminderInfos()[0]->title() ? ctx.reminderInfos()[0] : ctx.reminderInfos()[1];
         QCOMPARE(*item->title(), QStringLiteral("Write report — ünïcode"));
         QCOMPARE(item->notes(), std::optional<QString>(QString()));
         QCOMPARE(*item->durationMin(), 30);
@@ -144,14 +138,13 @@ private Q_SLOTS:
         QCOMPARE(item->toProject(), home);
         QCOMPARE(home->toReminders().size(), std::size_t(1));
         QCOMPARE(home->toReminders().front(), item);
-        const ReminderInfo* bare = item == ctx.reminderInfos()[0] ? ctx.reminderInfos()[1]
-                                                                  : ctx.reminderInfos()[0];
+        const ReminderInfo* bare =
+            item == ctx.reminderInfos()[0] ? ctx.reminderInfos()[1] : ctx.reminderInfos()[0];
         QVERIFY(!bare->hasFinished());
         QVERIFY(!bare->toProject());
     }
 
-    void onlyRealChangesCount()
-    {
+    void onlyRealChangesCount() {
         StoreStack store(folder(), m_clock);
         QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
         ObjectContext& ctx = store.context();
@@ -171,8 +164,7 @@ private Q_SLOTS:
         QCOMPARE(store.db().queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 1);
     }
 
-    void deletingKeepsMemoryAndRelationshipsInStep()
-    {
+    void deletingKeepsMemoryAndRelationshipsInStep() {
         StoreStack store(folder(), m_clock);
         QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
         ObjectContext& ctx = store.context();
@@ -191,7 +183,8 @@ private Q_SLOTS:
         QCOMPARE(ctx.reminderInfos(), std::vector<ReminderInfo*>{b});
         QVERIFY(ctx.save());
         QCOMPARE(store.db().queryInt("SELECT count(*) FROM Project").value_or(-1), 0);
-        QCOMPARE(store.db().queryInt("SELECT count(*) FROM ReminderInfo WHERE toProject IS NULL")
+        QCOMPARE(store.db()
+                     .queryInt("SELECT count(*) FROM ReminderInfo WHERE toProject IS NULL")
                      .value_or(-1),
                  1);
         // Writing to a deleted record changes nothing.
@@ -199,8 +192,7 @@ private Q_SLOTS:
         QVERIFY(!ctx.hasChanges());
     }
 
-    void aFailedSaveKeepsEveryChangeForTheNextTry()
-    {
+    void aFailedSaveKeepsEveryChangeForTheNextTry() {
         StoreStack store(folder(), m_clock);
         QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
         ObjectContext& ctx = store.context();
@@ -216,11 +208,11 @@ private Q_SLOTS:
         QCOMPARE(store.db().queryInt("SELECT count(*) FROM Project").value_or(-1), 0);
         QVERIFY(store.db().exec("DROP TRIGGER refuse"));
         QVERIFY(ctx.save());
-        QCOMPARE(store.db().queryInt("SELECT toProject FROM ReminderInfo").value_or(-1), p->rowId());
+        QCOMPARE(store.db().queryInt("SELECT toProject FROM ReminderInfo").value_or(-1),
+                 p->rowId());
     }
 
-    void aFileWhereTheFolderShouldBeEndsTheBuild()
-    {
+    void aFileWhereTheFolderShouldBeEndsTheBuild() {
         QVERIFY(QDir().mkpath(m_dir.filePath(QStringLiteral("data"))));
         writeFile(folder(), "not a folder");
         StoreStack store(folder(), m_clock);
@@ -233,8 +225,7 @@ private Q_SLOTS:
         QVERIFY(!store.isOpen());
     }
 
-    void unusableFilesAreMovedAsideNeverDeleted_data()
-    {
+    void unusableFilesAreMovedAsideNeverDeleted_data() {
         QTest::addColumn<QByteArray>("setupSql");
         QTest::addColumn<QByteArray>("garbage");
         QTest::newRow("not a database") << QByteArray() << QByteArray(8192, 'x');
@@ -248,8 +239,7 @@ private Q_SLOTS:
             << QByteArray();
     }
 
-    void unusableFilesAreMovedAsideNeverDeleted()
-    {
+    void unusableFilesAreMovedAsideNeverDeleted() {
         QFETCH(QByteArray, setupSql);
         QFETCH(QByteArray, garbage);
         QVERIFY(QDir().mkpath(folder()));
@@ -281,8 +271,7 @@ private Q_SLOTS:
         QCOMPARE(asideFiles(folder()).size(), 1);
     }
 
-    void impossibleValuesOnDiskReadAsMissing()
-    {
+    void impossibleValuesOnDiskReadAsMissing() {
         {
             StoreStack store(folder(), m_clock);
             QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
@@ -304,8 +293,7 @@ private Q_SLOTS:
         QVERIFY(!item->toProject());
     }
 
-    void resetDetachesRecordsAndReloads()
-    {
+    void resetDetachesRecordsAndReloads() {
         StoreStack store(folder(), m_clock);
         QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
         ObjectContext& ctx = store.context();

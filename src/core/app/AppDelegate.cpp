@@ -9,6 +9,7 @@
 #include "core/settings/UserDefaults.h"
 #include "core/store/ObjectContext.h"
 #include "core/store/StoreStack.h"
+#include "core/text/LocalizedText.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -25,8 +26,7 @@ namespace {
 // items after them. Dates that are equal keep their order, which the stable sort preserves, so
 // this is a strict weak ordering with the outcome of the inclusive comparisons for distinct
 // dates.
-bool lulletBefore(const ReminderInfo* a, const ReminderInfo* b)
-{
+bool lulletBefore(const ReminderInfo* a, const ReminderInfo* b) {
     const bool aDone = a->hasFinished().value_or(false);
     const bool bDone = b->hasFinished().value_or(false);
     if (aDone != bDone)
@@ -36,6 +36,13 @@ bool lulletBefore(const ReminderInfo* a, const ReminderInfo* b)
     if (!da || !db)
         return da.has_value() && !db.has_value();
     return aDone ? *db < *da : *da < *db;
+}
+
+void sortProjects(std::vector<Project*>& projects) {
+    std::stable_sort(projects.begin(), projects.end(), [](const Project* a, const Project* b) {
+        return LocalizedText::compare(a->name().value_or(QString()),
+                                      b->name().value_or(QString())) < 0;
+    });
 }
 
 } // namespace
@@ -49,14 +56,11 @@ AppDelegate::AppDelegate(const Services& services, QObject* parent)
     , m_notifCenter(services.notifCenter)
     , m_store(services.store)
     , m_host(services.host)
-    , m_inhibitor(services.inhibitor)
-{
-}
+    , m_inhibitor(services.inhibitor) {}
 
 AppDelegate::~AppDelegate() = default;
 
-bool AppDelegate::awakeFromNib()
-{
+bool AppDelegate::awakeFromNib() {
     m_defaults.registerDefaults({
         {SettingsKeys::isShowFirst, 0},
         {SettingsKeys::openAtLogIn, 0},
@@ -93,10 +97,9 @@ bool AppDelegate::awakeFromNib()
     return true;
 }
 
-void AppDelegate::applicationWillFinishLaunching()
-{
-    const bool welcomeDone =
-        m_defaults.hasValue(SettingsKeys::isShowFirst) && m_defaults.boolean(SettingsKeys::isShowFirst);
+void AppDelegate::applicationWillFinishLaunching() {
+    const bool welcomeDone = m_defaults.hasValue(SettingsKeys::isShowFirst) &&
+                             m_defaults.boolean(SettingsKeys::isShowFirst);
     if (welcomeDone) {
         const QVariantMap password = m_defaults.dictionary(SettingsKeys::passwordValues);
         if (password.value(SettingsKeys::isPassword).toBool())
@@ -107,13 +110,13 @@ void AppDelegate::applicationWillFinishLaunching()
     m_host.bringMainWindowForward({});
 }
 
-void AppDelegate::applicationDidFinishLaunching()
-{
+void AppDelegate::applicationDidFinishLaunching() {
     QPointer<AppDelegate> self(this);
-    m_inhibitor.inhibit(QStringLiteral("Reason for activity"), [self](std::optional<quint32> cookie) {
-        if (self && cookie)
-            self->assertionIDInHold = cookie;
-    });
+    m_inhibitor.inhibit(QStringLiteral("Reason for activity"),
+                        [self](std::optional<quint32> cookie) {
+                            if (self && cookie)
+                                self->assertionIDInHold = cookie;
+                        });
 
     monitorTime = std::make_unique<QTimer>();
     monitorTime->setTimerType(Qt::PreciseTimer);
@@ -122,24 +125,20 @@ void AppDelegate::applicationDidFinishLaunching()
     monitorTime->start();
 }
 
-void AppDelegate::applicationDidBecomeActive()
-{
+void AppDelegate::applicationDidBecomeActive() {
     post(notification::onApplicationBecomeActive);
 }
 
-void AppDelegate::applicationDidResignActive()
-{
+void AppDelegate::applicationDidResignActive() {
     post(notification::onApplicationResignActive);
 }
 
-bool AppDelegate::applicationShouldHandleReopen()
-{
+bool AppDelegate::applicationShouldHandleReopen() {
     m_host.bringMainWindowForward({});
     return false;
 }
 
-AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
-{
+AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate() {
     // Quitting finishes the running item, whatever its time; nothing more is recorded of it.
     if (objReminderRunningNow) {
         objReminderRunningNow->setHasStarted(false);
@@ -160,8 +159,7 @@ AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
     return quit ? TerminateReply::TerminateNow : TerminateReply::TerminateCancel;
 }
 
-void AppDelegate::applicationWillTerminate()
-{
+void AppDelegate::applicationWillTerminate() {
     if (monitorTime)
         monitorTime->stop();
     if (assertionIDInHold) {
@@ -170,63 +168,49 @@ void AppDelegate::applicationWillTerminate()
     }
 }
 
-void AppDelegate::saveAction()
-{
+void AppDelegate::saveAction() {
     ObjectContext& context = managedObjectContext();
     if (context.hasChanges() && !context.save())
         m_host.presentError(context.errorMessage());
 }
 
-ObjectContext& AppDelegate::managedObjectContext()
-{
+ObjectContext& AppDelegate::managedObjectContext() {
     return m_store.context();
 }
 
-bool AppDelegate::haveDuration(const ReminderInfo& item)
-{
+bool AppDelegate::haveDuration(const ReminderInfo& item) {
     return item.durationHr().value_or(0) > 0 || item.durationMin().value_or(0) > 0;
 }
 
-bool AppDelegate::haveDuration(const RepeatReminderInfo& rule)
-{
+bool AppDelegate::haveDuration(const RepeatReminderInfo& rule) {
     return rule.durationHr().value_or(0) > 0 || rule.durationMin().value_or(0) > 0;
 }
 
-void AppDelegate::prepareAllProjectLists()
-{
+void AppDelegate::prepareAllProjectLists() {
     mArrAllProjects = managedObjectContext().projects();
-    std::stable_sort(mArrAllProjects.begin(), mArrAllProjects.end(),
-                     [](const Project* a, const Project* b) {
-                         return QString::localeAwareCompare(a->name().value_or(QString()),
-                                                            b->name().value_or(QString())) < 0;
-                     });
+    sortProjects(mArrAllProjects);
 }
 
-void AppDelegate::prepareAllLulletLists()
-{
+void AppDelegate::prepareAllLulletLists() {
     mArrAllLullets = managedObjectContext().reminderInfos();
     reSortLulletObjects();
 }
 
-void AppDelegate::prepareAllRepeatData()
-{
+void AppDelegate::prepareAllRepeatData() {
     mArrAllRepeatingData = managedObjectContext().repeatReminderInfos();
 }
 
-void AppDelegate::reSortLulletObjects()
-{
+void AppDelegate::reSortLulletObjects() {
     std::stable_sort(mArrAllLullets.begin(), mArrAllLullets.end(), lulletBefore);
 }
 
-void AppDelegate::addLulletObject(ReminderInfo* item)
-{
+void AppDelegate::addLulletObject(ReminderInfo* item) {
     if (std::find(mArrAllLullets.begin(), mArrAllLullets.end(), item) == mArrAllLullets.end())
         mArrAllLullets.push_back(item);
     reSortLulletObjects();
 }
 
-void AppDelegate::removeLulletObject(ReminderInfo* item)
-{
+void AppDelegate::removeLulletObject(ReminderInfo* item) {
     mArrAllLullets.erase(std::remove(mArrAllLullets.begin(), mArrAllLullets.end(), item),
                          mArrAllLullets.end());
     if (item && item == objReminderRunningNow) {
@@ -235,20 +219,14 @@ void AppDelegate::removeLulletObject(ReminderInfo* item)
     }
 }
 
-void AppDelegate::addProjectObject(Project* project)
-{
+void AppDelegate::addProjectObject(Project* project) {
     if (std::find(mArrAllProjects.begin(), mArrAllProjects.end(), project) == mArrAllProjects.end())
         mArrAllProjects.push_back(project);
-    std::stable_sort(mArrAllProjects.begin(), mArrAllProjects.end(),
-                     [](const Project* a, const Project* b) {
-                         return QString::localeAwareCompare(a->name().value_or(QString()),
-                                                            b->name().value_or(QString())) < 0;
-                     });
+    sortProjects(mArrAllProjects);
     postQueued(notification::onProjectAddedOrRemoved);
 }
 
-void AppDelegate::removeProjectObject(Project* project)
-{
+void AppDelegate::removeProjectObject(Project* project) {
     mArrAllProjects.erase(std::remove(mArrAllProjects.begin(), mArrAllProjects.end(), project),
                           mArrAllProjects.end());
     if (project) {
@@ -260,8 +238,7 @@ void AppDelegate::removeProjectObject(Project* project)
     postQueued(notification::onProjectAddedOrRemoved);
 }
 
-void AppDelegate::storesWillChange()
-{
+void AppDelegate::storesWillChange() {
     ObjectContext& context = managedObjectContext();
     if (context.hasChanges() && !context.save()) {
         std::fprintf(stderr, "\nSave error: %s\n", qPrintable(context.errorMessage()));
@@ -271,8 +248,7 @@ void AppDelegate::storesWillChange()
 }
 
 void AppDelegate::importedUbiquitousContentChanges(
-    const std::function<void(ObjectContext&)>& merge)
-{
+    const std::function<void(ObjectContext&)>& merge) {
     const std::optional<QString> selectedName =
         objProjectSelectedNow ? objProjectSelectedNow->name() : std::nullopt;
     merge(managedObjectContext());
@@ -287,24 +263,20 @@ void AppDelegate::importedUbiquitousContentChanges(
     post(notification::onSynciCloud, selectedName ? QVariant(*selectedName) : QVariant());
 }
 
-void AppDelegate::doMonitorTime()
-{
+void AppDelegate::doMonitorTime() {
     post(notification::onMonitoringDone);
 }
 
-bool AppDelegate::isMonitorTimerRunning() const
-{
+bool AppDelegate::isMonitorTimerRunning() const {
     return monitorTime && monitorTime->isActive();
 }
 
-void AppDelegate::post(QLatin1String name, const QVariant& object)
-{
+void AppDelegate::post(QLatin1String name, const QVariant& object) {
     m_notifCenter.post(name, object);
 }
 
 // Reaches the observers after the caller's work is done, as the lists expect.
-void AppDelegate::postQueued(QLatin1String name, const QVariant& object)
-{
+void AppDelegate::postQueued(QLatin1String name, const QVariant& object) {
     QPointer<NotificationCenter> center(&m_notifCenter);
     QMetaObject::invokeMethod(
         this,

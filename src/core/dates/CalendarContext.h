@@ -2,9 +2,9 @@
 
 #include <QString>
 
-#include <memory>
-
 #include <unicode/uversion.h>
+
+#include <memory>
 
 U_NAMESPACE_BEGIN
 class Calendar;

@@ -4,8 +4,7 @@
 
 namespace lullet {
 
-void ReminderInfo::setToProject(Project* project)
-{
+void ReminderInfo::setToProject(Project* project) {
     if (m_toProject == project)
         return;
     if (m_toProject) {

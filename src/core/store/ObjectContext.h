@@ -54,8 +54,7 @@ public:
 private:
     friend class Record;
     void recordChanged(Record* record);
-    template <class T>
-    T* adopt(std::vector<T*>& live);
+    template <class T> T* adopt(std::vector<T*>& live);
     bool fail();
     bool writeInserts();
     bool writeUpdates();

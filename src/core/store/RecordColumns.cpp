@@ -8,27 +8,23 @@ namespace lullet {
 
 namespace {
 
-template <class T, class V>
-Column<T> column(const char* name, std::optional<V> T::*member)
-{
-    return Column<T>{
-        name, [member](Stmt& s, int i, const T& r) { s.bind(i, r.*member); },
-        [member](const Stmt& s, int i, T& r) {
-            if constexpr (std::is_same_v<V, QString>)
-                r.*member = s.columnText(i);
-            else if constexpr (std::is_same_v<V, int>)
-                r.*member = s.columnInt(i);
-            else if constexpr (std::is_same_v<V, bool>)
-                r.*member = s.columnBool(i);
-            else
-                r.*member = s.columnDate(i);
-        }};
+template <class T, class V> Column<T> column(const char* name, std::optional<V> T::*member) {
+    return Column<T>{name, [member](Stmt& s, int i, const T& r) { s.bind(i, r.*member); },
+                     [member](const Stmt& s, int i, T& r) {
+                         if constexpr (std::is_same_v<V, QString>)
+                             r.*member = s.columnText(i);
+                         else if constexpr (std::is_same_v<V, int>)
+                             r.*member = s.columnInt(i);
+                         else if constexpr (std::is_same_v<V, bool>)
+                             r.*member = s.columnBool(i);
+                         else
+                             r.*member = s.columnDate(i);
+                     }};
 }
 
 } // namespace
 
-const std::vector<Column<Project>>& RecordColumns::project()
-{
+const std::vector<Column<Project>>& RecordColumns::project() {
     using P = Project;
     static const std::vector<Column<P>> columns = {
         column("name", &P::m_name),
@@ -38,8 +34,7 @@ const std::vector<Column<Project>>& RecordColumns::project()
     return columns;
 }
 
-const std::vector<Column<RepeatReminderInfo>>& RecordColumns::repeatReminderInfo()
-{
+const std::vector<Column<RepeatReminderInfo>>& RecordColumns::repeatReminderInfo() {
     using R = RepeatReminderInfo;
     static const std::vector<Column<R>> columns = {
         column("uniqueId", &R::m_uniqueId),
@@ -61,8 +56,7 @@ const std::vector<Column<RepeatReminderInfo>>& RecordColumns::repeatReminderInfo
     return columns;
 }
 
-const std::vector<Column<ReminderInfo>>& RecordColumns::reminderInfo()
-{
+const std::vector<Column<ReminderInfo>>& RecordColumns::reminderInfo() {
     using R = ReminderInfo;
     static const std::vector<Column<R>> columns = {
         column("uniqueId", &R::m_uniqueId),

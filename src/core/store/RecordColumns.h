@@ -12,8 +12,7 @@ namespace lullet {
 class Stmt;
 
 // How one attribute of a record maps to a column of its table.
-template <class T>
-struct Column {
+template <class T> struct Column {
     const char* name;
     std::function<void(Stmt&, int, const T&)> bind;
     // Loading writes the attribute directly: a loaded record is not a changed one.

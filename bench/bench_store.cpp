@@ -1,0 +1,88 @@
+// Start-up and save costs of a large store, and the date operations used in loops.
+#include "BenchClock.h"
+#include "StoreGenerator.h"
+#include "core/dates/CalendarContext.h"
+#include "core/dates/Clock.h"
+#include "core/store/ObjectContext.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+
+using namespace lullet;
+using namespace lullet::bench;
+
+namespace {
+
+class FixedClock final : public Clock {
+public:
+    explicit FixedClock(Date now)
+        : m_now(now) {}
+    Date now() const override { return m_now; }
+
+private:
+    Date m_now;
+};
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QCoreApplication app(argc, argv);
+    CalendarContext::setLocale(QStringLiteral("en_US"));
+    CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
+    const Date now = Date::dateFromComponents(2026, 11, 23, 10, 15);
+    FixedClock clock(now);
+    QTemporaryDir dir;
+
+    {
+        StoreStack store(dir.path(), clock);
+        store.build();
+        generateStore(store, now, 50'000, 100, 50);
+    }
+
+    // Open and load: the folder, the file, the checks and every record, as at launch.
+    const double load = medianNanos(7, [&] {
+        StoreStack store(dir.path(), clock);
+        store.build();
+        std::vector<ReminderInfo*> items = store.context().reminderInfos();
+        std::stable_sort(
+            items.begin(), items.end(), [](const ReminderInfo* a, const ReminderInfo* b) {
+                return a->effectiveDate().value_or(Date()) < b->effectiveDate().value_or(Date());
+            });
+    });
+    report("open and load 50,000 items (median)", load, 250e6);
+
+    StoreStack store(dir.path(), clock);
+    store.build();
+    ReminderInfo* item = store.context().reminderInfos()[1234];
+    int n = 0;
+    const double save = medianNanos(101, [&] {
+        item->setElapsedTime(++n);
+        store.context().save();
+    });
+    report("save of one changed record (median)", save, 5e6);
+
+    constexpr int ops = 100'000;
+    volatile double sink = 0;
+    const Date base = now;
+    const double addDays = medianNanos(9, [&] {
+        for (int i = 0; i < ops; ++i)
+            sink = sink + base.dateByAddingDays(i % 400).timeIntervalSince1970();
+    });
+    report("dateByAddingDays (median per call)", addDays / ops, 1000);
+    const double isToday = medianNanos(9, [&] {
+        for (int i = 0; i < ops; ++i)
+            sink = sink + (Date(base.timeIntervalSince1970() + i * 61.0).isToday(clock) ? 1 : 0);
+    });
+    report("isToday (median per call)", isToday / ops, 1000);
+    const double startOfDay = medianNanos(9, [&] {
+        for (int i = 0; i < ops; ++i)
+            sink = sink + Date(base.timeIntervalSince1970() + i * 61.0)
+                              .dateAtStartOfDay()
+                              .timeIntervalSince1970();
+    });
+    report("dateAtStartOfDay (median per call)", startOfDay / ops, 1000);
+    return 0;
+}

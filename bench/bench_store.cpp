@@ -6,6 +6,8 @@
 #include "core/store/ObjectContext.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -40,6 +42,24 @@ int main(int argc, char* argv[]) {
         StoreStack store(dir.path(), clock);
         store.build();
         generateStore(store, now, 50'000, 100, 50);
+    }
+    // With --keep FILE the generated store is copied out, for measuring the running program.
+    const QStringList args = QCoreApplication::arguments();
+    if (const qsizetype at = args.indexOf(QStringLiteral("--keep"));
+        at >= 0 && at + 1 < args.size()) {
+        StoreStack flushed(dir.path(), clock);
+        flushed.build();
+        flushed.db().exec("PRAGMA wal_checkpoint(TRUNCATE)");
+        QFile::remove(args[at + 1]);
+        QFile::copy(flushed.storePath(), args[at + 1]);
+    }
+
+    {
+        const double before = residentMiB();
+        StoreStack first(dir.path(), clock);
+        first.build();
+        std::printf("%-48s %10.1f MiB\n", "resident size added by loading the store",
+                    residentMiB() - before);
     }
 
     // Open and load: the folder, the file, the checks and every record, as at launch.

@@ -3,6 +3,7 @@
 #include "core/store/Db.h"
 #include "core/store/RecordColumns.h"
 #include "core/store/Stmt.h"
+#include "core/store/StringPool.h"
 #include "core/store/Transaction.h"
 
 #include <QByteArray>
@@ -134,8 +135,9 @@ bool ObjectContext::load() {
     if (m_loaded)
         return true;
     QHash<qint64, Project*> projectsById;
+    StringPool pool;
 
-    const auto loadTable = [this](auto& live, const char* table, auto&& extra) {
+    const auto loadTable = [this, &pool](auto& live, const char* table, auto&& extra) {
         using T = std::remove_pointer_t<typename std::decay_t<decltype(live)>::value_type>;
         const QByteArray sql = QByteArray("SELECT id, ") + columnList<T>() + " FROM " + table;
         Stmt stmt(m_db, sql.constData());
@@ -147,7 +149,7 @@ bool ObjectContext::load() {
             record->m_rowId = stmt.columnInt64(0);
             int i = 1;
             for (const auto& c : columns)
-                c.read(stmt, i++, *record);
+                c.read(stmt, i++, *record, pool);
             extra(record, stmt, i);
         }
         return !stmt.failed();

@@ -1,6 +1,7 @@
 #include "core/store/RecordColumns.h"
 
 #include "core/store/Stmt.h"
+#include "core/store/StringPool.h"
 
 #include <type_traits>
 
@@ -10,15 +11,18 @@ namespace {
 
 template <class T, class V> Column<T> column(const char* name, std::optional<V> T::*member) {
     return Column<T>{name, [member](Stmt& s, int i, const T& r) { s.bind(i, r.*member); },
-                     [member](const Stmt& s, int i, T& r) {
-                         if constexpr (std::is_same_v<V, QString>)
-                             r.*member = s.columnText(i);
-                         else if constexpr (std::is_same_v<V, int>)
+                     [member](const Stmt& s, int i, T& r, StringPool& pool) {
+                         if constexpr (std::is_same_v<V, QString>) {
+                             const std::optional<QString> text = s.columnText(i);
+                             r.*member =
+                                 text ? std::optional<QString>(pool.intern(*text)) : std::nullopt;
+                         } else if constexpr (std::is_same_v<V, int>) {
                              r.*member = s.columnInt(i);
-                         else if constexpr (std::is_same_v<V, bool>)
+                         } else if constexpr (std::is_same_v<V, bool>) {
                              r.*member = s.columnBool(i);
-                         else
+                         } else {
                              r.*member = s.columnDate(i);
+                         }
                      }};
 }
 

@@ -10,13 +10,14 @@
 namespace lullet {
 
 class Stmt;
+class StringPool;
 
 // How one attribute of a record maps to a column of its table.
 template <class T> struct Column {
     const char* name;
     std::function<void(Stmt&, int, const T&)> bind;
     // Loading writes the attribute directly: a loaded record is not a changed one.
-    std::function<void(const Stmt&, int, T&)> read;
+    std::function<void(const Stmt&, int, T&, StringPool&)> read;
 };
 
 // The attribute columns of the three tables, in table order, without the row id and, for

@@ -9,7 +9,8 @@
 namespace lullet::bench {
 
 // Runs body `rounds` times and answers the median duration of one run, in nanoseconds.
-inline double medianNanos(int rounds, const std::function<void()>& body) {
+inline double medianNanos(int rounds, const std::function<void()>& body)
+{
     std::vector<double> samples;
     samples.reserve(std::size_t(rounds));
     for (int i = 0; i < rounds; ++i) {
@@ -22,7 +23,8 @@ inline double medianNanos(int rounds, const std::function<void()>& body) {
     return samples[std::size_t(rounds / 2)];
 }
 
-inline void report(const char* what, double nanos, double targetNanos) {
+inline void report(const char* what, double nanos, double targetNanos)
+{
     const char* unit = "ns";
     double value = nanos;
     if (nanos >= 1e6) {

@@ -8,7 +8,8 @@
 
 namespace lullet::bench {
 
-void generateStore(StoreStack& store, Date now, int items, int rules, int projects) {
+void generateStore(StoreStack& store, Date now, int items, int rules, int projects)
+{
     std::mt19937 rng(42);
     ObjectContext& ctx = store.context();
     std::vector<Project*> made;

@@ -21,7 +21,9 @@ namespace {
 class FixedClock final : public Clock {
 public:
     explicit FixedClock(Date now)
-        : m_now(now) {}
+        : m_now(now)
+    {
+    }
     Date now() const override { return m_now; }
 
 private:
@@ -30,7 +32,8 @@ private:
 
 } // namespace
 
-int main(int argc, char* argv[]) {
+int main(int argc, char* argv[])
+{
     QCoreApplication app(argc, argv);
     CalendarContext::setLocale(QStringLiteral("en_US"));
     CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));

@@ -12,7 +12,8 @@
 
 using namespace lullet;
 
-int main(int argc, char* argv[]) {
+int main(int argc, char* argv[])
+{
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lullet"));
     QApplication::setApplicationVersion(QStringLiteral(PROJECT_VERSION));

@@ -9,7 +9,8 @@
 namespace lullet {
 
 MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent) {
+    : QMainWindow(parent)
+{
     setWindowTitle(QStringLiteral("Lullet"));
     auto* placeholder = new QLabel(this);
     placeholder->setAlignment(Qt::AlignCenter);
@@ -21,7 +22,8 @@ MainWindow::MainWindow(QWidget* parent)
     connect(quit, &QAction::triggered, this, &MainWindow::quitRequested);
 }
 
-void MainWindow::applyWelcomeSizing() {
+void MainWindow::applyWelcomeSizing()
+{
     // Only a title and a close button: the welcome pages have one size.
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowCloseButtonHint);
@@ -29,7 +31,8 @@ void MainWindow::applyWelcomeSizing() {
     resize(800, 600);
 }
 
-void MainWindow::applyWorkingSizing(bool locked) {
+void MainWindow::applyWorkingSizing(bool locked)
+{
     setMinimumSize(600, 600);
     // The largest width and the largest height over all screens, each taken separately.
     int maxWidth = 0;

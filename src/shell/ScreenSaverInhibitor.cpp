@@ -15,10 +15,13 @@ const QString interface = QStringLiteral("org.freedesktop.ScreenSaver");
 } // namespace
 
 ScreenSaverInhibitor::ScreenSaverInhibitor(QObject* parent)
-    : QObject(parent) {}
+    : QObject(parent)
+{
+}
 
 void ScreenSaverInhibitor::inhibit(const QString& reason,
-                                   std::function<void(std::optional<quint32>)> done) {
+                                   std::function<void(std::optional<quint32>)> done)
+{
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
         done(std::nullopt);
@@ -37,7 +40,8 @@ void ScreenSaverInhibitor::inhibit(const QString& reason,
             });
 }
 
-void ScreenSaverInhibitor::release(quint32 cookie) {
+void ScreenSaverInhibitor::release(quint32 cookie)
+{
     QDBusMessage call =
         QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("UnInhibit"));
     call << cookie;

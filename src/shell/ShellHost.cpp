@@ -13,11 +13,14 @@ namespace lullet {
 
 ShellHost::ShellHost(MainWindow& window, QObject* parent)
     : QObject(parent)
-    , m_window(window) {}
+    , m_window(window)
+{
+}
 
 ShellHost::~ShellHost() = default;
 
-void ShellHost::openStatusMenu() {
+void ShellHost::openStatusMenu()
+{
     m_tray = new QSystemTrayIcon(StatusIcon::make(), this);
     m_tray->setToolTip(QStringLiteral("Lullet"));
     auto* menu = new QMenu(&m_window);
@@ -35,14 +38,16 @@ void ShellHost::openStatusMenu() {
     m_tray->show();
 }
 
-void ShellHost::prepareMainWindow(bool welcomeDone, bool locked) {
+void ShellHost::prepareMainWindow(bool welcomeDone, bool locked)
+{
     if (welcomeDone)
         m_window.applyWorkingSizing(locked);
     else
         m_window.applyWelcomeSizing();
 }
 
-void ShellHost::bringMainWindowForward(const std::function<void()>& whenShown) {
+void ShellHost::bringMainWindowForward(const std::function<void()>& whenShown)
+{
     m_window.show();
     m_window.raise();
     m_window.activateWindow();
@@ -50,7 +55,8 @@ void ShellHost::bringMainWindowForward(const std::function<void()>& whenShown) {
         QTimer::singleShot(0, this, whenShown);
 }
 
-bool ShellHost::askQuitAnyway(const QString& message, const QString& information) {
+bool ShellHost::askQuitAnyway(const QString& message, const QString& information)
+{
     QMessageBox box(QMessageBox::Warning, QStringLiteral("Lullet"), message, QMessageBox::NoButton,
                     &m_window);
     box.setInformativeText(information);
@@ -60,7 +66,8 @@ bool ShellHost::askQuitAnyway(const QString& message, const QString& information
     return box.clickedButton() == quit;
 }
 
-void ShellHost::presentError(const QString& message) {
+void ShellHost::presentError(const QString& message)
+{
     QMessageBox::warning(&m_window, QStringLiteral("Lullet"), message);
 }
 

@@ -8,7 +8,8 @@
 
 namespace lullet {
 
-QIcon StatusIcon::make() {
+QIcon StatusIcon::make()
+{
     const QColor ink = QGuiApplication::palette().color(QPalette::WindowText);
     QIcon icon;
     for (const int size : {16, 22, 24, 32, 48, 64}) {

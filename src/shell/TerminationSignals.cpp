@@ -12,7 +12,8 @@ namespace {
 
 int pipeEnds[2] = {-1, -1};
 
-void onSignal(int) {
+void onSignal(int)
+{
     const char byte = 1;
     // Only async-signal-safe work here: wake the main loop through the socket.
     [[maybe_unused]] const ssize_t written = ::write(pipeEnds[0], &byte, 1);
@@ -21,7 +22,8 @@ void onSignal(int) {
 } // namespace
 
 TerminationSignals::TerminationSignals(QObject* parent)
-    : QObject(parent) {
+    : QObject(parent)
+{
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, pipeEnds) != 0)
         return;
     m_notifier = new QSocketNotifier(pipeEnds[1], QSocketNotifier::Read, this);
@@ -35,7 +37,8 @@ TerminationSignals::TerminationSignals(QObject* parent)
         ::sigaction(sig, &action, nullptr);
 }
 
-TerminationSignals::~TerminationSignals() {
+TerminationSignals::~TerminationSignals()
+{
     struct sigaction action = {};
     action.sa_handler = SIG_DFL;
     for (const int sig : {SIGTERM, SIGINT, SIGHUP})
@@ -47,7 +50,8 @@ TerminationSignals::~TerminationSignals() {
     }
 }
 
-void TerminationSignals::onReadable() {
+void TerminationSignals::onReadable()
+{
     char byte = 0;
     [[maybe_unused]] const ssize_t got = ::read(pipeEnds[1], &byte, 1);
     Q_EMIT terminationRequested();

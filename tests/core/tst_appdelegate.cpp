@@ -10,6 +10,7 @@
 #include "support/DatePrinting.h"
 #include "support/FakeClock.h"
 #include "support/RecordingHost.h"
+#include "support/TestLaunch.h"
 #include "support/TestMain.h"
 
 #include <QDir>
@@ -23,28 +24,10 @@ using namespace lullet::test;
 
 namespace {
 
-Date at(int y, int mo, int d, int h = 0, int mi = 0, int s = 0) {
-    return Date::dateFromComponents(y, mo, d, h, mi, s);
-}
+using Launch = TestLaunch;
 
-// One launch of the program over a folder, with every service faked but the store.
-struct Launch {
-    Launch(const QString& dir, Date now)
-        : clock(now)
-        , defaults(QDir(dir).filePath(QStringLiteral("Lullet.conf")))
-        , store(QDir(dir).filePath(QStringLiteral("data")), clock)
-        , delegate({clock, defaults, center, store, host, inhibitor}) {}
-
-    FakeClock clock;
-    UserDefaults defaults;
-    NotificationCenter center;
-    StoreStack store;
-    RecordingHost host;
-    FakeInhibitor inhibitor;
-    AppDelegate delegate;
-};
-
-QByteArray fileText(const QString& path) {
+QByteArray fileText(const QString& path)
+{
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
@@ -58,13 +41,15 @@ class TestAppDelegate : public QObject {
     QString dir() const { return m_dir->path(); }
 
 private Q_SLOTS:
-    void init() {
+    void init()
+    {
         CalendarContext::setLocale(QStringLiteral("en_US"));
         CalendarContext::setTimeZone(QStringLiteral("America/New_York"));
         m_dir = std::make_unique<QTemporaryDir>();
     }
 
-    void launchRoundsTheIdleClockToTheNearestMinute_data() {
+    void launchRoundsTheIdleClockToTheNearestMinute_data()
+    {
         QTest::addColumn<Date>("launch");
         QTest::addColumn<Date>("expected");
         QTest::newRow("hh:mm:30 rounds down")
@@ -78,7 +63,8 @@ private Q_SLOTS:
             << at(2026, 11, 23, 10, 59, 59) << at(2026, 11, 23, 11, 0);
     }
 
-    void launchRoundsTheIdleClockToTheNearestMinute() {
+    void launchRoundsTheIdleClockToTheNearestMinute()
+    {
         QFETCH(Date, launch);
         QFETCH(Date, expected);
         Launch app(dir(), launch);
@@ -90,7 +76,8 @@ private Q_SLOTS:
         QCOMPARE(app.delegate.cDate, launch);
     }
 
-    void registeredDefaultsAnswerButAreNeverWritten() {
+    void registeredDefaultsAnswerButAreNeverWritten()
+    {
         {
             Launch app(dir(), at(2026, 11, 23, 9));
             QVERIFY(app.delegate.awakeFromNib());
@@ -115,7 +102,8 @@ private Q_SLOTS:
         QCOMPARE(again.delegate.intNoTaskDuration, 40);
     }
 
-    void thePasswordIsNeverWrittenInClearText() {
+    void thePasswordIsNeverWrittenInClearText()
+    {
         UserDefaults defaults(QDir(dir()).filePath(QStringLiteral("p.conf")));
         defaults.setDictionary(SettingsKeys::passwordValues,
                                {{QString(SettingsKeys::isPassword), true},
@@ -127,7 +115,8 @@ private Q_SLOTS:
         QCOMPARE(read.value(SettingsKeys::password).toString(), QString());
     }
 
-    void theWindowFollowsTheWelcomeAndPasswordState_data() {
+    void theWindowFollowsTheWelcomeAndPasswordState_data()
+    {
         QTest::addColumn<int>("isShowFirst");
         QTest::addColumn<bool>("password");
         QTest::addColumn<QString>("expectedCall");
@@ -142,7 +131,8 @@ private Q_SLOTS:
             << 1 << true << QStringLiteral("prepareMainWindow(welcomeDone,locked)") << false;
     }
 
-    void theWindowFollowsTheWelcomeAndPasswordState() {
+    void theWindowFollowsTheWelcomeAndPasswordState()
+    {
         QFETCH(int, isShowFirst);
         QFETCH(bool, password);
         QFETCH(QString, expectedCall);
@@ -159,7 +149,8 @@ private Q_SLOTS:
         QCOMPARE(app.delegate.isLogin, isLogin);
     }
 
-    void theRunHoldsTheDisplayAwakeAndTicks() {
+    void theRunHoldsTheDisplayAwakeAndTicks()
+    {
         Launch app(dir(), at(2026, 11, 23, 9));
         QVERIFY(app.delegate.awakeFromNib());
         app.delegate.applicationWillFinishLaunching();
@@ -183,7 +174,8 @@ private Q_SLOTS:
         QCOMPARE(app.inhibitor.released, std::vector<quint32>{77});
     }
 
-    void aDesktopWithoutTheServiceIsNoError() {
+    void aDesktopWithoutTheServiceIsNoError()
+    {
         Launch app(dir(), at(2026, 11, 23, 9));
         app.inhibitor.cookie.reset();
         QVERIFY(app.delegate.awakeFromNib());
@@ -193,7 +185,8 @@ private Q_SLOTS:
         QVERIFY(app.inhibitor.released.empty());
     }
 
-    void quittingFinishesTheRunningItem() {
+    void quittingFinishesTheRunningItem()
+    {
         {
             Launch app(dir(), at(2026, 11, 23, 9));
             QVERIFY(app.delegate.awakeFromNib());
@@ -218,7 +211,8 @@ private Q_SLOTS:
         QCOMPARE(*item->elapsedTime(), 120);
     }
 
-    void aFailedSaveAtQuitAsksTheUser() {
+    void aFailedSaveAtQuitAsksTheUser()
+    {
         Launch app(dir(), at(2026, 11, 23, 9));
         QVERIFY(app.delegate.awakeFromNib());
         QVERIFY(app.store.db().exec("CREATE TRIGGER refuse BEFORE INSERT ON ReminderInfo "
@@ -245,7 +239,8 @@ private Q_SLOTS:
         QVERIFY(app.delegate.managedObjectContext().hasChanges());
     }
 
-    void aStoreThatCannotBeBuiltEndsTheLaunchSilently() {
+    void aStoreThatCannotBeBuiltEndsTheLaunchSilently()
+    {
         QVERIFY(QFile(QDir(dir()).filePath(QStringLiteral("data"))).open(QIODevice::WriteOnly));
         Launch app(dir(), at(2026, 11, 23, 9));
         QVERIFY(!app.delegate.awakeFromNib());
@@ -255,7 +250,8 @@ private Q_SLOTS:
                  AppDelegate::TerminateReply::TerminateNow);
     }
 
-    void sharedListsStayOrdered() {
+    void sharedListsStayOrdered()
+    {
         Launch app(dir(), at(2026, 11, 23, 9));
         QVERIFY(app.delegate.awakeFromNib());
         ObjectContext& ctx = app.delegate.managedObjectContext();
@@ -304,7 +300,8 @@ private Q_SLOTS:
         QCOMPARE(app.delegate.mArrAllLullets.size(), std::size_t(7));
     }
 
-    void projectsAreListedByNameAndLeaveCleanly() {
+    void projectsAreListedByNameAndLeaveCleanly()
+    {
         Launch app(dir(), at(2026, 11, 23, 9));
         QVERIFY(app.delegate.awakeFromNib());
         ObjectContext& ctx = app.delegate.managedObjectContext();
@@ -337,7 +334,8 @@ private Q_SLOTS:
         QCOMPARE(posted, 1);
     }
 
-    void anImportReloadsAndTellsWhatWasSelected() {
+    void anImportReloadsAndTellsWhatWasSelected()
+    {
         Launch app(dir(), at(2026, 11, 23, 9));
         QVERIFY(app.delegate.awakeFromNib());
         ObjectContext& ctx = app.delegate.managedObjectContext();

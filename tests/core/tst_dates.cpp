@@ -17,7 +17,8 @@ using namespace lullet;
 using lullet::test::FakeClock;
 
 namespace {
-Date at(int y, int mo, int d, int h = 0, int mi = 0, int s = 0) {
+Date at(int y, int mo, int d, int h = 0, int mi = 0, int s = 0)
+{
     return Date::dateFromComponents(y, mo, d, h, mi, s);
 }
 constexpr double hour = 3600;
@@ -26,12 +27,17 @@ constexpr double hour = 3600;
 class TestDates : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void init() {
+    // Data functions run before init(), so the zone is set for them here as well.
+    void initTestCase() { init(); }
+
+    void init()
+    {
         CalendarContext::setLocale(QStringLiteral("en_US"));
         CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
     }
 
-    void comparisonsAreInclusive() {
+    void comparisonsAreInclusive()
+    {
         const Date d = at(2026, 11, 22, 10, 15);
         QVERIFY(d.isEarlierThanDate(d));
         QVERIFY(d.isLaterThanDate(d));
@@ -42,7 +48,8 @@ private Q_SLOTS:
         QVERIFY(d.isInPast(clock));
     }
 
-    void dayNeighboursFollowTheClock() {
+    void dayNeighboursFollowTheClock()
+    {
         FakeClock clock(at(2026, 11, 22, 23, 59, 59));
         QVERIFY(at(2026, 11, 22, 0, 0, 0).isToday(clock));
         QVERIFY(!at(2026, 11, 23, 0, 0, 0).isToday(clock));
@@ -57,7 +64,8 @@ private Q_SLOTS:
         QVERIFY(!at(2025, 11, 5).isSameMonthAsDate(clock.now()));
     }
 
-    void sameWeekNeedsTheWeekNumberAndLessThanSevenDays() {
+    void sameWeekNeedsTheWeekNumberAndLessThanSevenDays()
+    {
         const Date sunday = at(2026, 11, 22, 12);
         QVERIFY(sunday.isSameWeekAsDate(at(2026, 11, 28, 12)));
         QVERIFY(!sunday.isSameWeekAsDate(at(2026, 11, 29, 12)));
@@ -68,7 +76,8 @@ private Q_SLOTS:
         QVERIFY(at(2026, 11, 16).isLastWeek(clock));
     }
 
-    void monthAndYearStepsShortenAtTheMonthEnd() {
+    void monthAndYearStepsShortenAtTheMonthEnd()
+    {
         const Date jan31 = at(2027, 1, 31, 9, 30);
         QCOMPARE(jan31.dateByAddingMonths(1), at(2027, 2, 28, 9, 30));
         QCOMPARE(at(2028, 1, 31, 9, 30).dateByAddingMonths(1), at(2028, 2, 29, 9, 30));
@@ -79,7 +88,8 @@ private Q_SLOTS:
         QCOMPARE(jan31.dateByAddingWeeks(2), at(2027, 2, 14, 9, 30));
     }
 
-    void daySuffersNoDaylightSavingDrift() {
+    void daySuffersNoDaylightSavingDrift()
+    {
         // Europe/Berlin springs forward on 29 March 2026 and falls back on 25 October 2026.
         const Date spring = at(2026, 3, 28, 10);
         QCOMPARE(spring.dateByAddingDays(1), at(2026, 3, 29, 10));
@@ -98,7 +108,8 @@ private Q_SLOTS:
         QCOMPARE(at(2026, 3, 29, 12).dateAtStartOfDay(), at(2026, 3, 29, 0));
     }
 
-    void weekAnchorsAroundNewYear_data() {
+    void weekAnchorsAroundNewYear_data()
+    {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<Date>("day");
         QTest::addColumn<Date>("start");
@@ -117,7 +128,8 @@ private Q_SLOTS:
                                          << at(2027, 1, 4) << at(2027, 1, 10);
     }
 
-    void weekAnchorsAroundNewYear() {
+    void weekAnchorsAroundNewYear()
+    {
         QFETCH(QString, locale);
         QFETCH(Date, day);
         QFETCH(Date, start);
@@ -128,7 +140,8 @@ private Q_SLOTS:
         QCOMPARE(day.dateAtEndOfWeek(), end);
     }
 
-    void anchorsOfDayMonthAndYear() {
+    void anchorsOfDayMonthAndYear()
+    {
         const Date d = at(2026, 2, 14, 13, 45, 30);
         QCOMPARE(d.dateAtStartOfDay(), at(2026, 2, 14));
         QCOMPARE(d.dateAtEndOfDay(), at(2026, 2, 14, 23, 59, 59));
@@ -144,7 +157,8 @@ private Q_SLOTS:
         QCOMPARE(at(2028, 2, 3).monthDays(), 29);
     }
 
-    void differencesTruncateTowardZero() {
+    void differencesTruncateTowardZero()
+    {
         const Date late = at(2026, 11, 22, 23);
         QCOMPARE(at(2026, 11, 23, 1).daysAfterDate(late), 0);
         QCOMPARE(late.dateByAddingHours(36).daysAfterDate(late), 1);
@@ -155,7 +169,8 @@ private Q_SLOTS:
         QCOMPARE(late.secondsBeforeDate(Date(late.timeIntervalSince1970() + 2.9)), 2);
     }
 
-    void fieldReaders() {
+    void fieldReaders()
+    {
         const Date d = at(2026, 11, 25, 10, 40, 10);
         const DateComponents c = d.components();
         QCOMPARE(*c.year, 2026);
@@ -178,7 +193,8 @@ private Q_SLOTS:
         QCOMPARE(at(2026, 3, 1).monthToString(), QStringLiteral("März"));
     }
 
-    void relativeTimeTexts() {
+    void relativeTimeTexts()
+    {
         const Date now = at(2026, 11, 22, 12);
         FakeClock clock(now);
         QCOMPARE(now.dateBySubtractingSeconds(9).relativeTimeToString(clock),
@@ -197,7 +213,8 @@ private Q_SLOTS:
         QCOMPARE(eightDaysAgo.relativeTimeToString(clock), eightDaysAgo.toString());
     }
 
-    void styledTexts() {
+    void styledTexts()
+    {
         const Date now = at(2026, 11, 22, 12);
         FakeClock clock(now);
         const Date tenFifteen = at(2026, 11, 22, 10, 15);
@@ -228,7 +245,8 @@ private Q_SLOTS:
                  QStringLiteral("10:15"));
     }
 
-    void parsingFallsBackToNow() {
+    void parsingFallsBackToNow()
+    {
         const Date now = at(2026, 11, 22, 12);
         FakeClock clock(now);
         QCOMPARE(Date::fromString(u"", DateFormat::iso8601(), clock), now);
@@ -252,7 +270,8 @@ private Q_SLOTS:
         QCOMPARE(iso8601FormatForDateString(u"2026-11"), ISO8601Format::YearMonth);
     }
 
-    void formatting() {
+    void formatting()
+    {
         const Date d(1795305600); // 2026-11-22 00:00:00 UTC
         QCOMPARE(d.toString(DateFormat::iso8601(ISO8601Format::Date), TimeZone::utc),
                  QStringLiteral("2026-11-22"));
@@ -263,7 +282,8 @@ private Q_SLOTS:
                  QStringLiteral("Sun, 22 Nov 2026 00:00:00 +0000"));
     }
 
-    void projectFuncHelpers() {
+    void projectFuncHelpers()
+    {
         QCOMPARE(projectFunc::getDayName(QStringLiteral("1")), QStringLiteral("SUNDAY"));
         QCOMPARE(projectFunc::getDayName(QStringLiteral("7")), QStringLiteral("SATURDAY"));
         QCOMPARE(projectFunc::getDayName(QStringLiteral("8")), QString());
@@ -296,14 +316,16 @@ private Q_SLOTS:
 
     // The arithmetic shortcuts must give the calendar's own answers, in zones with midnight
     // changes, half-hour changes and a skipped day.
-    void shortcutsAgreeWithTheCalendar_data() {
+    void shortcutsAgreeWithTheCalendar_data()
+    {
         QTest::addColumn<QString>("zone");
         for (const char* zone : {"Europe/Berlin", "America/Sao_Paulo", "Asia/Beirut",
                                  "Australia/Lord_Howe", "Pacific/Apia", "America/New_York", "UTC"})
             QTest::newRow(zone) << QString::fromLatin1(zone);
     }
 
-    void shortcutsAgreeWithTheCalendar() {
+    void shortcutsAgreeWithTheCalendar()
+    {
         QFETCH(QString, zone);
         CalendarContext::setTimeZone(zone);
         icu::Calendar& cal = CalendarContext::calendar();
@@ -337,7 +359,8 @@ private Q_SLOTS:
         }
     }
 
-    void formattersAreSafeAcrossThreads() {
+    void formattersAreSafeAcrossThreads()
+    {
         const Date d(1795305600);
         const QString expected = d.toString(DateFormat::iso8601(), TimeZone::utc);
         std::vector<std::thread> threads;

@@ -9,7 +9,8 @@ using namespace lullet;
 class TestNotifications : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void deliversSynchronouslyInOrderWithTheObject() {
+    void deliversSynchronouslyInOrderWithTheObject()
+    {
         NotificationCenter center;
         QObject a, b;
         QStringList heard;
@@ -27,7 +28,8 @@ private Q_SLOTS:
         QCOMPARE(heard.size(), 2);
     }
 
-    void observersEndWithTheirOwner() {
+    void observersEndWithTheirOwner()
+    {
         NotificationCenter center;
         int calls = 0;
         {
@@ -53,7 +55,8 @@ private Q_SLOTS:
         QCOMPARE(calls, 1);
     }
 
-    void changesDuringAPostAreSafe() {
+    void changesDuringAPostAreSafe()
+    {
         NotificationCenter center;
         auto first = std::make_unique<QObject>();
         auto second = std::make_unique<QObject>();
@@ -76,7 +79,8 @@ private Q_SLOTS:
         QCOMPARE(heard, (QStringList{QStringLiteral("first"), QStringLiteral("late")}));
     }
 
-    void namesWithoutListenersAreHarmless() {
+    void namesWithoutListenersAreHarmless()
+    {
         NotificationCenter center;
         center.post(notification::onIndividualRestoreDone);
         center.post(notification::showHideChart, true);

@@ -15,18 +15,21 @@ using lullet::test::FakeClock;
 
 namespace {
 
-QByteArray readAll(const QString& path) {
+QByteArray readAll(const QString& path)
+{
     QFile f(path);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
-void writeFile(const QString& path, const QByteArray& bytes) {
+void writeFile(const QString& path, const QByteArray& bytes)
+{
     QFile f(path);
     QVERIFY(f.open(QIODevice::WriteOnly));
     f.write(bytes);
 }
 
-QStringList asideFiles(const QString& folder) {
+QStringList asideFiles(const QString& folder)
+{
     QStringList stores;
     for (const QString& name :
          QDir(folder).entryList({QStringLiteral("Lullet.sqlite.unreadable-*")}, QDir::Files)) {
@@ -46,12 +49,14 @@ class TestStore : public QObject {
     QString folder() const { return m_dir.filePath(QStringLiteral("data/Lullet")); }
 
 private Q_SLOTS:
-    void init() {
+    void init()
+    {
         QDir(m_dir.path()).removeRecursively();
         QVERIFY(QDir().mkpath(m_dir.path()));
     }
 
-    void firstRunCreatesTheFolderAndAWalStore() {
+    void firstRunCreatesTheFolderAndAWalStore()
+    {
         StoreStack store(folder(), m_clock);
         const auto result = store.build();
         QCOMPARE(result.outcome, StoreStack::Outcome::Opened);
@@ -68,7 +73,8 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(store.storePath() + QStringLiteral("-shm")));
     }
 
-    void everyAttributeSurvivesAReload() {
+    void everyAttributeSurvivesAReload()
+    {
         {
             StoreStack store(folder(), m_clock);
             QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
@@ -144,7 +150,8 @@ private Q_SLOTS:
         QVERIFY(!bare->toProject());
     }
 
-    void onlyRealChangesCount() {
+    void onlyRealChangesCount()
+    {
         StoreStack store(folder(), m_clock);
         QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
         ObjectContext& ctx = store.context();
@@ -164,7 +171,8 @@ private Q_SLOTS:
         QCOMPARE(store.db().queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 1);
     }
 
-    void deletingKeepsMemoryAndRelationshipsInStep() {
+    void deletingKeepsMemoryAndRelationshipsInStep()
+    {
         StoreStack store(folder(), m_clock);
         QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
         ObjectContext& ctx = store.context();
@@ -192,7 +200,8 @@ private Q_SLOTS:
         QVERIFY(!ctx.hasChanges());
     }
 
-    void aFailedSaveKeepsEveryChangeForTheNextTry() {
+    void aFailedSaveKeepsEveryChangeForTheNextTry()
+    {
         StoreStack store(folder(), m_clock);
         QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
         ObjectContext& ctx = store.context();
@@ -212,7 +221,8 @@ private Q_SLOTS:
                  p->rowId());
     }
 
-    void aFileWhereTheFolderShouldBeEndsTheBuild() {
+    void aFileWhereTheFolderShouldBeEndsTheBuild()
+    {
         QVERIFY(QDir().mkpath(m_dir.filePath(QStringLiteral("data"))));
         writeFile(folder(), "not a folder");
         StoreStack store(folder(), m_clock);
@@ -225,7 +235,8 @@ private Q_SLOTS:
         QVERIFY(!store.isOpen());
     }
 
-    void unusableFilesAreMovedAsideNeverDeleted_data() {
+    void unusableFilesAreMovedAsideNeverDeleted_data()
+    {
         QTest::addColumn<QByteArray>("setupSql");
         QTest::addColumn<QByteArray>("garbage");
         QTest::newRow("not a database") << QByteArray() << QByteArray(8192, 'x');
@@ -239,7 +250,8 @@ private Q_SLOTS:
             << QByteArray();
     }
 
-    void unusableFilesAreMovedAsideNeverDeleted() {
+    void unusableFilesAreMovedAsideNeverDeleted()
+    {
         QFETCH(QByteArray, setupSql);
         QFETCH(QByteArray, garbage);
         QVERIFY(QDir().mkpath(folder()));
@@ -271,7 +283,8 @@ private Q_SLOTS:
         QCOMPARE(asideFiles(folder()).size(), 1);
     }
 
-    void impossibleValuesOnDiskReadAsMissing() {
+    void impossibleValuesOnDiskReadAsMissing()
+    {
         {
             StoreStack store(folder(), m_clock);
             QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
@@ -293,7 +306,8 @@ private Q_SLOTS:
         QVERIFY(!item->toProject());
     }
 
-    void resetDetachesRecordsAndReloads() {
+    void resetDetachesRecordsAndReloads()
+    {
         StoreStack store(folder(), m_clock);
         QCOMPARE(store.build().outcome, StoreStack::Outcome::Opened);
         ObjectContext& ctx = store.context();

@@ -12,7 +12,8 @@
 class TestLifecycle : public QObject {
     Q_OBJECT
 
-    static QProcessEnvironment environmentFor(const QString& home) {
+    static QProcessEnvironment environmentFor(const QString& home)
+    {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("HOME"), home);
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
@@ -21,12 +22,14 @@ class TestLifecycle : public QObject {
         return env;
     }
 
-    static QString storePath(const QString& home) {
+    static QString storePath(const QString& home)
+    {
         return QDir(home).filePath(QStringLiteral(".local/share/Lullet/Lullet.sqlite"));
     }
 
 private Q_SLOTS:
-    void sigtermSavesAndExitsCleanly() {
+    void sigtermSavesAndExitsCleanly()
+    {
         QTemporaryDir home;
         QProcess lullet;
         lullet.setProcessEnvironment(environmentFor(home.path()));
@@ -45,7 +48,8 @@ private Q_SLOTS:
         QCOMPARE(db.queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 0);
     }
 
-    void aFileInPlaceOfTheDataFolderEndsAtOnce() {
+    void aFileInPlaceOfTheDataFolderEndsAtOnce()
+    {
         QTemporaryDir home;
         const QString folder = QDir(home.path()).filePath(QStringLiteral(".local/share/Lullet"));
         QVERIFY(QDir().mkpath(QFileInfo(folder).path()));

@@ -13,7 +13,8 @@ using namespace lullet;
 namespace {
 
 // Presses the button with the given text on the next modal box that opens.
-void answerNextBox(const QString& buttonText) {
+void answerNextBox(const QString& buttonText)
+{
     QTimer::singleShot(0, [buttonText] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         QVERIFY(box);
@@ -29,7 +30,8 @@ void answerNextBox(const QString& buttonText) {
 class TestShell : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void welcomeSizeIsFixed() {
+    void welcomeSizeIsFixed()
+    {
         MainWindow window;
         ShellHost host(window);
         host.prepareMainWindow(false, false);
@@ -38,7 +40,8 @@ private Q_SLOTS:
         QVERIFY(!(window.windowFlags() & Qt::WindowMinimizeButtonHint));
     }
 
-    void workingSizeUnlessLocked() {
+    void workingSizeUnlessLocked()
+    {
         MainWindow window;
         window.resize(700, 600);
         ShellHost host(window);
@@ -50,7 +53,8 @@ private Q_SLOTS:
         QVERIFY(window.maximumWidth() >= 600);
     }
 
-    void theQuitQuestionOffersBothWays() {
+    void theQuitQuestionOffersBothWays()
+    {
         MainWindow window;
         ShellHost host(window);
         answerNextBox(QStringLiteral("Quit anyway"));
@@ -59,7 +63,8 @@ private Q_SLOTS:
         QVERIFY(!host.askQuitAnyway(QStringLiteral("Could not save"), QStringLiteral("Info")));
     }
 
-    void theStatusMenuCanQuitAndOpen() {
+    void theStatusMenuCanQuitAndOpen()
+    {
         MainWindow window;
         ShellHost host(window);
         host.openStatusMenu();

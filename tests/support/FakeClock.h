@@ -8,7 +8,9 @@ namespace lullet::test {
 class FakeClock final : public Clock {
 public:
     explicit FakeClock(Date start = Date(1'800'000'000))
-        : m_now(start) {}
+        : m_now(start)
+    {
+    }
     Date now() const override { return m_now; }
     void set(Date now) { m_now = now; }
     void advance(double seconds) { m_now = Date(m_now.timeIntervalSince1970() + seconds); }

@@ -15,17 +15,20 @@ namespace lullet::test {
 class RecordingHost final : public PromptHost {
 public:
     void openStatusMenu() override { calls << QStringLiteral("openStatusMenu"); }
-    void prepareMainWindow(bool welcomeDone, bool locked) override {
+    void prepareMainWindow(bool welcomeDone, bool locked) override
+    {
         calls << QStringLiteral("prepareMainWindow(%1,%2)")
                      .arg(welcomeDone ? QStringLiteral("welcomeDone") : QStringLiteral("welcome"),
                           locked ? QStringLiteral("locked") : QStringLiteral("open"));
     }
-    void bringMainWindowForward(const std::function<void()>& whenShown) override {
+    void bringMainWindowForward(const std::function<void()>& whenShown) override
+    {
         calls << QStringLiteral("bringMainWindowForward");
         if (whenShown)
             whenShown();
     }
-    bool askQuitAnyway(const QString& message, const QString& information) override {
+    bool askQuitAnyway(const QString& message, const QString& information) override
+    {
         questions << message << information;
         return quitAnyway;
     }
@@ -39,7 +42,8 @@ public:
 
 class FakeInhibitor final : public DisplaySleepInhibitor {
 public:
-    void inhibit(const QString& reason, std::function<void(std::optional<quint32>)> done) override {
+    void inhibit(const QString& reason, std::function<void(std::optional<quint32>)> done) override
+    {
         reasons << reason;
         done(cookie);
     }

@@ -9,7 +9,8 @@
 // Every test runs with a temporary HOME and Qt's test paths, so that no test can ever read or
 // write the user's own settings or store.
 #define LULLET_TEST_MAIN_WITH(AppClass, TestClass)                                                 \
-    int main(int argc, char* argv[]) {                                                             \
+    int main(int argc, char* argv[])                                                               \
+    {                                                                                              \
         QTemporaryDir home;                                                                        \
         if (!home.isValid())                                                                       \
             return 2;                                                                              \

@@ -10,6 +10,11 @@
 #include "core/store/ObjectContext.h"
 #include "core/store/StoreStack.h"
 #include "core/text/LocalizedText.h"
+#include "scheduling/DefaultCatalogue.h"
+#include "scheduling/LulletGenerator.h"
+#include "scheduling/ScheduleNotes.h"
+#include "scheduling/WorkingHours.h"
+#include "scheduling/funcGetData.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -26,7 +31,8 @@ namespace {
 // items after them. Dates that are equal keep their order, which the stable sort preserves, so
 // this is a strict weak ordering with the outcome of the inclusive comparisons for distinct
 // dates.
-bool lulletBefore(const ReminderInfo* a, const ReminderInfo* b) {
+bool lulletBefore(const ReminderInfo* a, const ReminderInfo* b)
+{
     const bool aDone = a->hasFinished().value_or(false);
     const bool bDone = b->hasFinished().value_or(false);
     if (aDone != bDone)
@@ -38,7 +44,8 @@ bool lulletBefore(const ReminderInfo* a, const ReminderInfo* b) {
     return aDone ? *db < *da : *da < *db;
 }
 
-void sortProjects(std::vector<Project*>& projects) {
+void sortProjects(std::vector<Project*>& projects)
+{
     std::stable_sort(projects.begin(), projects.end(), [](const Project* a, const Project* b) {
         return LocalizedText::compare(a->name().value_or(QString()),
                                       b->name().value_or(QString())) < 0;
@@ -56,11 +63,19 @@ AppDelegate::AppDelegate(const Services& services, QObject* parent)
     , m_notifCenter(services.notifCenter)
     , m_store(services.store)
     , m_host(services.host)
-    , m_inhibitor(services.inhibitor) {}
+    , m_inhibitor(services.inhibitor)
+    , m_schedules(std::make_unique<funcGetData>(m_defaults, m_clock))
+    , m_workingHours(std::make_unique<WorkingHours>(*m_schedules, fetchedDate, cDate))
+    , m_scheduleNotes(std::make_unique<ScheduleNotes>(m_clock, *m_schedules, *m_workingHours))
+    , m_generator(std::make_unique<LulletGenerator>(*this))
+    , m_catalogue(std::make_unique<DefaultCatalogue>(*this))
+{
+}
 
 AppDelegate::~AppDelegate() = default;
 
-bool AppDelegate::awakeFromNib() {
+bool AppDelegate::awakeFromNib()
+{
     m_defaults.registerDefaults({
         {SettingsKeys::isShowFirst, 0},
         {SettingsKeys::openAtLogIn, 0},
@@ -82,7 +97,7 @@ bool AppDelegate::awakeFromNib() {
 
     prepareAllProjectLists();
     prepareAllLulletLists();
-    prepareAllRepeatData();
+    m_catalogue->prepareDefaultRepeats();
     m_host.openStatusMenu();
 
     // The idle clock starts at the nearest whole minute: seconds 0 to 30 round down, 31 to 59 up.
@@ -97,7 +112,8 @@ bool AppDelegate::awakeFromNib() {
     return true;
 }
 
-void AppDelegate::applicationWillFinishLaunching() {
+void AppDelegate::applicationWillFinishLaunching()
+{
     const bool welcomeDone = m_defaults.hasValue(SettingsKeys::isShowFirst) &&
                              m_defaults.boolean(SettingsKeys::isShowFirst);
     if (welcomeDone) {
@@ -110,7 +126,8 @@ void AppDelegate::applicationWillFinishLaunching() {
     m_host.bringMainWindowForward({});
 }
 
-void AppDelegate::applicationDidFinishLaunching() {
+void AppDelegate::applicationDidFinishLaunching()
+{
     QPointer<AppDelegate> self(this);
     m_inhibitor.inhibit(QStringLiteral("Reason for activity"),
                         [self](std::optional<quint32> cookie) {
@@ -125,20 +142,24 @@ void AppDelegate::applicationDidFinishLaunching() {
     monitorTime->start();
 }
 
-void AppDelegate::applicationDidBecomeActive() {
+void AppDelegate::applicationDidBecomeActive()
+{
     post(notification::onApplicationBecomeActive);
 }
 
-void AppDelegate::applicationDidResignActive() {
+void AppDelegate::applicationDidResignActive()
+{
     post(notification::onApplicationResignActive);
 }
 
-bool AppDelegate::applicationShouldHandleReopen() {
+bool AppDelegate::applicationShouldHandleReopen()
+{
     m_host.bringMainWindowForward({});
     return false;
 }
 
-AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate() {
+AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
+{
     // Quitting finishes the running item, whatever its time; nothing more is recorded of it.
     if (objReminderRunningNow) {
         objReminderRunningNow->setHasStarted(false);
@@ -159,7 +180,9 @@ AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate() {
     return quit ? TerminateReply::TerminateNow : TerminateReply::TerminateCancel;
 }
 
-void AppDelegate::applicationWillTerminate() {
+void AppDelegate::applicationWillTerminate()
+{
+    m_schedules->saveSchedules();
     if (monitorTime)
         monitorTime->stop();
     if (assertionIDInHold) {
@@ -168,49 +191,59 @@ void AppDelegate::applicationWillTerminate() {
     }
 }
 
-void AppDelegate::saveAction() {
+void AppDelegate::saveAction()
+{
     ObjectContext& context = managedObjectContext();
     if (context.hasChanges() && !context.save())
         m_host.presentError(context.errorMessage());
 }
 
-ObjectContext& AppDelegate::managedObjectContext() {
+ObjectContext& AppDelegate::managedObjectContext()
+{
     return m_store.context();
 }
 
-bool AppDelegate::haveDuration(const ReminderInfo& item) {
+bool AppDelegate::haveDuration(const ReminderInfo& item)
+{
     return item.durationHr().value_or(0) > 0 || item.durationMin().value_or(0) > 0;
 }
 
-bool AppDelegate::haveDuration(const RepeatReminderInfo& rule) {
+bool AppDelegate::haveDuration(const RepeatReminderInfo& rule)
+{
     return rule.durationHr().value_or(0) > 0 || rule.durationMin().value_or(0) > 0;
 }
 
-void AppDelegate::prepareAllProjectLists() {
+void AppDelegate::prepareAllProjectLists()
+{
     mArrAllProjects = managedObjectContext().projects();
     sortProjects(mArrAllProjects);
 }
 
-void AppDelegate::prepareAllLulletLists() {
+void AppDelegate::prepareAllLulletLists()
+{
     mArrAllLullets = managedObjectContext().reminderInfos();
     reSortLulletObjects();
 }
 
-void AppDelegate::prepareAllRepeatData() {
+void AppDelegate::prepareAllRepeatData()
+{
     mArrAllRepeatingData = managedObjectContext().repeatReminderInfos();
 }
 
-void AppDelegate::reSortLulletObjects() {
+void AppDelegate::reSortLulletObjects()
+{
     std::stable_sort(mArrAllLullets.begin(), mArrAllLullets.end(), lulletBefore);
 }
 
-void AppDelegate::addLulletObject(ReminderInfo* item) {
+void AppDelegate::addLulletObject(ReminderInfo* item)
+{
     if (std::find(mArrAllLullets.begin(), mArrAllLullets.end(), item) == mArrAllLullets.end())
         mArrAllLullets.push_back(item);
     reSortLulletObjects();
 }
 
-void AppDelegate::removeLulletObject(ReminderInfo* item) {
+void AppDelegate::removeLulletObject(ReminderInfo* item)
+{
     mArrAllLullets.erase(std::remove(mArrAllLullets.begin(), mArrAllLullets.end(), item),
                          mArrAllLullets.end());
     if (item && item == objReminderRunningNow) {
@@ -219,14 +252,16 @@ void AppDelegate::removeLulletObject(ReminderInfo* item) {
     }
 }
 
-void AppDelegate::addProjectObject(Project* project) {
+void AppDelegate::addProjectObject(Project* project)
+{
     if (std::find(mArrAllProjects.begin(), mArrAllProjects.end(), project) == mArrAllProjects.end())
         mArrAllProjects.push_back(project);
     sortProjects(mArrAllProjects);
     postQueued(notification::onProjectAddedOrRemoved);
 }
 
-void AppDelegate::removeProjectObject(Project* project) {
+void AppDelegate::removeProjectObject(Project* project)
+{
     mArrAllProjects.erase(std::remove(mArrAllProjects.begin(), mArrAllProjects.end(), project),
                           mArrAllProjects.end());
     if (project) {
@@ -238,7 +273,8 @@ void AppDelegate::removeProjectObject(Project* project) {
     postQueued(notification::onProjectAddedOrRemoved);
 }
 
-void AppDelegate::storesWillChange() {
+void AppDelegate::storesWillChange()
+{
     ObjectContext& context = managedObjectContext();
     if (context.hasChanges() && !context.save()) {
         std::fprintf(stderr, "\nSave error: %s\n", qPrintable(context.errorMessage()));
@@ -247,8 +283,8 @@ void AppDelegate::storesWillChange() {
     context.reset();
 }
 
-void AppDelegate::importedUbiquitousContentChanges(
-    const std::function<void(ObjectContext&)>& merge) {
+void AppDelegate::importedUbiquitousContentChanges(const std::function<void(ObjectContext&)>& merge)
+{
     const std::optional<QString> selectedName =
         objProjectSelectedNow ? objProjectSelectedNow->name() : std::nullopt;
     merge(managedObjectContext());
@@ -259,24 +295,28 @@ void AppDelegate::importedUbiquitousContentChanges(
         objReminderRunningNow = nullptr;
     prepareAllProjectLists();
     prepareAllLulletLists();
-    prepareAllRepeatData();
+    m_catalogue->prepareDefaultRepeats();
     post(notification::onSynciCloud, selectedName ? QVariant(*selectedName) : QVariant());
 }
 
-void AppDelegate::doMonitorTime() {
+void AppDelegate::doMonitorTime()
+{
     post(notification::onMonitoringDone);
 }
 
-bool AppDelegate::isMonitorTimerRunning() const {
+bool AppDelegate::isMonitorTimerRunning() const
+{
     return monitorTime && monitorTime->isActive();
 }
 
-void AppDelegate::post(QLatin1String name, const QVariant& object) {
+void AppDelegate::post(QLatin1String name, const QVariant& object)
+{
     m_notifCenter.post(name, object);
 }
 
 // Reaches the observers after the caller's work is done, as the lists expect.
-void AppDelegate::postQueued(QLatin1String name, const QVariant& object) {
+void AppDelegate::postQueued(QLatin1String name, const QVariant& object)
+{
     QPointer<NotificationCenter> center(&m_notifCenter);
     QMetaObject::invokeMethod(
         this,

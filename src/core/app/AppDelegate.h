@@ -19,7 +19,12 @@ class QTimer;
 namespace lullet {
 
 class Clock;
+class DefaultCatalogue;
 class DisplaySleepInhibitor;
+class LulletGenerator;
+class ScheduleNotes;
+class WorkingHours;
+class funcGetData;
 class NotificationCenter;
 class ObjectContext;
 class PromptHost;
@@ -88,6 +93,16 @@ public:
     // The one-second tick of the monitor timer.
     void doMonitorTime();
 
+    // Posts after the caller's work is done, as listeners of list changes expect.
+    void postQueued(QLatin1String name, const QVariant& object = {});
+
+    // Scheduling: the working schedule, rules and their occurrences, the catalogue.
+    funcGetData& schedules() { return *m_schedules; }
+    WorkingHours& workingHours() { return *m_workingHours; }
+    ScheduleNotes& scheduleNotes() { return *m_scheduleNotes; }
+    LulletGenerator& generator() { return *m_generator; }
+    DefaultCatalogue& catalogue() { return *m_catalogue; }
+
     const Clock& clock() const { return m_clock; }
     UserDefaults& defaults() { return m_defaults; }
     NotificationCenter& notifCenter() { return m_notifCenter; }
@@ -116,7 +131,6 @@ public:
 
 private:
     void post(QLatin1String name, const QVariant& object = {});
-    void postQueued(QLatin1String name, const QVariant& object = {});
 
     const Clock& m_clock;
     UserDefaults& m_defaults;
@@ -125,6 +139,11 @@ private:
     PromptHost& m_host;
     DisplaySleepInhibitor& m_inhibitor;
     std::unique_ptr<QTimer> monitorTime;
+    std::unique_ptr<funcGetData> m_schedules;
+    std::unique_ptr<WorkingHours> m_workingHours;
+    std::unique_ptr<ScheduleNotes> m_scheduleNotes;
+    std::unique_ptr<LulletGenerator> m_generator;
+    std::unique_ptr<DefaultCatalogue> m_catalogue;
 };
 
 } // namespace lullet

@@ -21,19 +21,22 @@ struct Settings {
     std::atomic<int> generation{1};
 };
 
-Settings& settings() {
+Settings& settings()
+{
     static Settings s;
     return s;
 }
 
-icu::Locale gregorian(icu::Locale locale) {
+icu::Locale gregorian(icu::Locale locale)
+{
     UErrorCode status = U_ZERO_ERROR;
     locale.setKeywordValue("calendar", "gregorian", status);
     return locale;
 }
 
 // Builds the prototype under the settings lock.
-std::unique_ptr<icu::Calendar> makePrototype(Settings& s) {
+std::unique_ptr<icu::Calendar> makePrototype(Settings& s)
+{
     UErrorCode status = U_ZERO_ERROR;
     auto cal = std::make_unique<icu::GregorianCalendar>(*s.zone, gregorian(s.locale), status);
     if (U_FAILURE(status))
@@ -51,7 +54,8 @@ struct ThreadCalendar {
 
 } // namespace
 
-icu::Calendar& CalendarContext::calendar() {
+icu::Calendar& CalendarContext::calendar()
+{
     thread_local ThreadCalendar local;
     Settings& s = settings();
     const int gen = s.generation.load(std::memory_order_acquire);
@@ -65,23 +69,27 @@ icu::Calendar& CalendarContext::calendar() {
     return *local.calendar;
 }
 
-icu::Locale CalendarContext::locale() {
+icu::Locale CalendarContext::locale()
+{
     Settings& s = settings();
     std::lock_guard lock(s.mutex);
     return gregorian(s.locale);
 }
 
-std::unique_ptr<icu::TimeZone> CalendarContext::timeZone() {
+std::unique_ptr<icu::TimeZone> CalendarContext::timeZone()
+{
     Settings& s = settings();
     std::lock_guard lock(s.mutex);
     return std::unique_ptr<icu::TimeZone>(s.zone->clone());
 }
 
-int CalendarContext::firstWeekday() {
+int CalendarContext::firstWeekday()
+{
     return calendar().getFirstDayOfWeek();
 }
 
-void CalendarContext::setLocale(const QString& name) {
+void CalendarContext::setLocale(const QString& name)
+{
     Settings& s = settings();
     std::lock_guard lock(s.mutex);
     s.locale =
@@ -90,7 +98,8 @@ void CalendarContext::setLocale(const QString& name) {
     s.generation.fetch_add(1, std::memory_order_release);
 }
 
-void CalendarContext::setTimeZone(const QString& ianaId) {
+void CalendarContext::setTimeZone(const QString& ianaId)
+{
     Settings& s = settings();
     std::lock_guard lock(s.mutex);
     if (ianaId.isEmpty()) {
@@ -104,7 +113,8 @@ void CalendarContext::setTimeZone(const QString& ianaId) {
     s.generation.fetch_add(1, std::memory_order_release);
 }
 
-int CalendarContext::generation() {
+int CalendarContext::generation()
+{
     return settings().generation.load(std::memory_order_acquire);
 }
 

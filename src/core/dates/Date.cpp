@@ -30,7 +30,8 @@ constexpr int weekInSeconds = 604800;
 constexpr double msPerDay = 86400000.0;
 
 // The calling thread's calendar, set to the given moment.
-icu::Calendar& calendarAt(Date d) {
+icu::Calendar& calendarAt(Date d)
+{
     icu::Calendar& cal = CalendarContext::calendar();
     UErrorCode status = U_ZERO_ERROR;
     cal.setTime(d.timeIntervalSince1970() * 1000.0, status);
@@ -39,7 +40,8 @@ icu::Calendar& calendarAt(Date d) {
     return cal;
 }
 
-int field(icu::Calendar& cal, UCalendarDateFields f) {
+int field(icu::Calendar& cal, UCalendarDateFields f)
+{
     UErrorCode status = U_ZERO_ERROR;
     const int value = cal.get(f, status);
     if (U_FAILURE(status))
@@ -47,7 +49,8 @@ int field(icu::Calendar& cal, UCalendarDateFields f) {
     return value;
 }
 
-Date timeOf(icu::Calendar& cal) {
+Date timeOf(icu::Calendar& cal)
+{
     UErrorCode status = U_ZERO_ERROR;
     const UDate ms = cal.getTime(status);
     if (U_FAILURE(status))
@@ -55,14 +58,16 @@ Date timeOf(icu::Calendar& cal) {
     return Date(ms / 1000.0);
 }
 
-void add(icu::Calendar& cal, UCalendarDateFields f, int amount) {
+void add(icu::Calendar& cal, UCalendarDateFields f, int amount)
+{
     UErrorCode status = U_ZERO_ERROR;
     cal.add(f, amount, status);
     if (U_FAILURE(status))
         qFatal("Calendar cannot add %d to field %d: %s", amount, int(f), u_errorName(status));
 }
 
-void setTime(icu::Calendar& cal, int hour, int minute, int second) {
+void setTime(icu::Calendar& cal, int hour, int minute, int second)
+{
     cal.set(UCAL_HOUR_OF_DAY, hour);
     cal.set(UCAL_MINUTE, minute);
     cal.set(UCAL_SECOND, second);
@@ -70,12 +75,14 @@ void setTime(icu::Calendar& cal, int hour, int minute, int second) {
 }
 
 // Days since 1970-01-01 of the local calendar day that holds the moment.
-double localDayNumber(Date d) {
+double localDayNumber(Date d)
+{
     const double ms = d.timeIntervalSince1970() * 1000.0;
     return std::floor((ms + ZoneOffsets::spanAt(ms).offset) / msPerDay);
 }
 
-qint64 truncated(double value) {
+qint64 truncated(double value)
+{
     const double t = std::trunc(value);
     if (!std::isfinite(t) || t < double(std::numeric_limits<qint64>::min()) ||
         t > double(std::numeric_limits<qint64>::max()))
@@ -83,7 +90,8 @@ qint64 truncated(double value) {
     return qint64(t);
 }
 
-const icu::DateFormatSymbols& defaultSymbols() {
+const icu::DateFormatSymbols& defaultSymbols()
+{
     thread_local int generation = 0;
     thread_local std::shared_ptr<const icu::SimpleDateFormat> formatter;
     if (generation != CalendarContext::generation() || !formatter) {
@@ -95,7 +103,8 @@ const icu::DateFormatSymbols& defaultSymbols() {
     return *formatter->getDateFormatSymbols();
 }
 
-QString symbol(int index, icu::DateFormatSymbols::DtWidthType width, bool weekday) {
+QString symbol(int index, icu::DateFormatSymbols::DtWidthType width, bool weekday)
+{
     const icu::DateFormatSymbols& symbols = defaultSymbols();
     int32_t count = 0;
     const icu::UnicodeString* list =
@@ -106,31 +115,36 @@ QString symbol(int index, icu::DateFormatSymbols::DtWidthType width, bool weekda
     return at >= 0 && at < count ? fromIcu(list[at]) : QString();
 }
 
-QString translated(const char* text) {
+QString translated(const char* text)
+{
     return QCoreApplication::translate("Date", text, "Show the relative time from a date");
 }
 
-std::unique_ptr<icu::TimeZone> zoneFor(TimeZone zone) {
+std::unique_ptr<icu::TimeZone> zoneFor(TimeZone zone)
+{
     if (zone == TimeZone::utc)
         return std::unique_ptr<icu::TimeZone>(icu::TimeZone::getGMT()->clone());
     return CalendarContext::timeZone();
 }
 
-icu::Locale localeFor(const DateFormat& format) {
+icu::Locale localeFor(const DateFormat& format)
+{
     if (format.locale.isEmpty())
         return CalendarContext::locale();
     return icu::Locale(
         (format.locale + QStringLiteral("@calendar=gregorian")).toLatin1().constData());
 }
 
-const icu::Locale& posixLocale() {
+const icu::Locale& posixLocale()
+{
     static const icu::Locale locale("en_US_POSIX@calendar=gregorian");
     return locale;
 }
 
 // A parse counts only when the whole text was read.
 std::optional<Date> parse(QStringView text, const QString& pattern, const icu::Locale& locale,
-                          TimeZone zone) {
+                          TimeZone zone)
+{
     const auto formatter = DateFormatterCache::formatter(pattern, *zoneFor(zone), locale);
     if (!formatter)
         return std::nullopt;
@@ -142,7 +156,8 @@ std::optional<Date> parse(QStringView text, const QString& pattern, const icu::L
     return Date(ms / 1000.0);
 }
 
-QString format(Date d, const QString& pattern, const icu::Locale& locale, TimeZone zone) {
+QString format(Date d, const QString& pattern, const icu::Locale& locale, TimeZone zone)
+{
     const auto formatter = DateFormatterCache::formatter(pattern, *zoneFor(zone), locale);
     if (!formatter)
         return {};
@@ -153,8 +168,8 @@ QString format(Date d, const QString& pattern, const icu::Locale& locale, TimeZo
 
 } // namespace
 
-Date Date::fromString(QStringView text, const DateFormat& format, const Clock& clock,
-                      TimeZone zone) {
+Date Date::fromString(QStringView text, const DateFormat& format, const Clock& clock, TimeZone zone)
+{
     if (text.isEmpty())
         return clock.now();
     std::optional<Date> parsed;
@@ -191,110 +206,134 @@ Date Date::fromString(QStringView text, const DateFormat& format, const Clock& c
     return parsed.value_or(clock.now());
 }
 
-Date Date::dateFromComponents(int year, int month, int day, int hour, int minute, int second) {
+Date Date::dateFromComponents(int year, int month, int day, int hour, int minute, int second)
+{
     icu::Calendar& cal = CalendarContext::calendar();
     cal.clear();
     cal.set(year, month - 1, day, hour, minute, second);
     return timeOf(cal);
 }
 
-Date Date::tomorrow(const Clock& clock) {
+Date Date::tomorrow(const Clock& clock)
+{
     return clock.now().dateByAddingDays(1).dateAtStartOfDay();
 }
 
-Date Date::yesterday(const Clock& clock) {
+Date Date::yesterday(const Clock& clock)
+{
     return clock.now().dateBySubtractingDays(1).dateAtStartOfDay();
 }
 
-bool Date::isInFuture(const Clock& clock) const {
+bool Date::isInFuture(const Clock& clock) const
+{
     return isLaterThanDate(clock.now());
 }
 
-bool Date::isInPast(const Clock& clock) const {
+bool Date::isInPast(const Clock& clock) const
+{
     return isEarlierThanDate(clock.now());
 }
 
-bool Date::isEqualToDateIgnoringTime(Date d) const {
+bool Date::isEqualToDateIgnoringTime(Date d) const
+{
     // Equal local day numbers are equal years, months and days in a proleptic Gregorian
     // calendar, and the offset look-up is far cheaper than a full field computation.
     return localDayNumber(*this) == localDayNumber(d);
 }
 
-bool Date::isToday(const Clock& clock) const {
+bool Date::isToday(const Clock& clock) const
+{
     return isEqualToDateIgnoringTime(clock.now());
 }
 
-bool Date::isTomorrow(const Clock& clock) const {
+bool Date::isTomorrow(const Clock& clock) const
+{
     return isEqualToDateIgnoringTime(clock.now().dateByAddingDays(1));
 }
 
-bool Date::isYesterday(const Clock& clock) const {
+bool Date::isYesterday(const Clock& clock) const
+{
     return isEqualToDateIgnoringTime(clock.now().dateBySubtractingDays(1));
 }
 
-bool Date::isSameWeekAsDate(Date d) const {
+bool Date::isSameWeekAsDate(Date d) const
+{
     if (week() != d.week())
         return false;
     return std::fabs(m_seconds - d.m_seconds) < weekInSeconds;
 }
 
-bool Date::isThisWeek(const Clock& clock) const {
+bool Date::isThisWeek(const Clock& clock) const
+{
     return isSameWeekAsDate(clock.now());
 }
 
-bool Date::isNextWeek(const Clock& clock) const {
+bool Date::isNextWeek(const Clock& clock) const
+{
     return isSameWeekAsDate(Date(clock.now().m_seconds + weekInSeconds));
 }
 
-bool Date::isLastWeek(const Clock& clock) const {
+bool Date::isLastWeek(const Clock& clock) const
+{
     return isSameWeekAsDate(Date(clock.now().m_seconds - weekInSeconds));
 }
 
-bool Date::isSameMonthAsDate(Date d) const {
+bool Date::isSameMonthAsDate(Date d) const
+{
     return month() == d.month() && year() == d.year();
 }
 
-bool Date::isSameYearAsDate(Date d) const {
+bool Date::isSameYearAsDate(Date d) const
+{
     return year() == d.year();
 }
 
-bool Date::isThisYear(const Clock& clock) const {
+bool Date::isThisYear(const Clock& clock) const
+{
     return isSameYearAsDate(clock.now());
 }
 
-bool Date::isNextYear(const Clock& clock) const {
+bool Date::isNextYear(const Clock& clock) const
+{
     return year() == clock.now().year() + 1;
 }
 
-bool Date::isLastYear(const Clock& clock) const {
+bool Date::isLastYear(const Clock& clock) const
+{
     return year() == clock.now().year() - 1;
 }
 
-bool Date::isWeekend() const {
+bool Date::isWeekend() const
+{
     icu::Calendar& cal = calendarAt(*this);
     const int dow = field(cal, UCAL_DAY_OF_WEEK);
     return dow == cal.getMinimum(UCAL_DAY_OF_WEEK) || dow == cal.getMaximum(UCAL_DAY_OF_WEEK);
 }
 
-bool Date::isWeekday() const {
+bool Date::isWeekday() const
+{
     return !isWeekend();
 }
 
 // Seconds, minutes and hours have one length in the Gregorian calendar, so adding them is plain
 // arithmetic, exactly as the calendar would do it.
-Date Date::dateByAddingSeconds(int n) const {
+Date Date::dateByAddingSeconds(int n) const
+{
     return Date(m_seconds + double(n));
 }
 
-Date Date::dateByAddingMinutes(int n) const {
+Date Date::dateByAddingMinutes(int n) const
+{
     return Date(m_seconds + double(n) * minuteInSeconds);
 }
 
-Date Date::dateByAddingHours(int n) const {
+Date Date::dateByAddingHours(int n) const
+{
     return Date(m_seconds + double(n) * hourInSeconds);
 }
 
-Date Date::dateByAddingDays(int n) const {
+Date Date::dateByAddingDays(int n) const
+{
     // The calendar keeps the wall time: it moves by whole days, then corrects by the change of
     // the zone's offset. Where that correction lands on the same wall time the answer is exact
     // without a calendar computation; only a wall time that doesn't exist needs the calendar.
@@ -314,13 +353,15 @@ Date Date::dateByAddingDays(int n) const {
     return timeOf(cal);
 }
 
-Date Date::dateByAddingMonths(int n) const {
+Date Date::dateByAddingMonths(int n) const
+{
     icu::Calendar& cal = calendarAt(*this);
     add(cal, UCAL_MONTH, n);
     return timeOf(cal);
 }
 
-Date Date::dateAtStartOfDay() const {
+Date Date::dateAtStartOfDay() const
+{
     // Local midnight by arithmetic, valid when no change of offset lies between it and self.
     const double ms = m_seconds * 1000.0;
     const ZoneOffsets::Span span = ZoneOffsets::spanAt(ms);
@@ -332,7 +373,8 @@ Date Date::dateAtStartOfDay() const {
     return timeOf(cal);
 }
 
-Date Date::dateAtEndOfDay() const {
+Date Date::dateAtEndOfDay() const
+{
     icu::Calendar& cal = calendarAt(*this);
     setTime(cal, 23, 59, 59);
     return timeOf(cal);
@@ -341,7 +383,8 @@ Date Date::dateAtEndOfDay() const {
 // The week is found by counting back to the locale's first weekday rather than by rebuilding it
 // from a year and a week number, which goes wrong around New Year when the week belongs to the
 // other year.
-Date Date::dateAtStartOfWeek() const {
+Date Date::dateAtStartOfWeek() const
+{
     icu::Calendar& cal = calendarAt(*this);
     const int back = (field(cal, UCAL_DAY_OF_WEEK) - cal.getFirstDayOfWeek() + 7) % 7;
     add(cal, UCAL_DATE, -back);
@@ -349,7 +392,8 @@ Date Date::dateAtStartOfWeek() const {
     return timeOf(cal);
 }
 
-Date Date::dateAtEndOfWeek() const {
+Date Date::dateAtEndOfWeek() const
+{
     icu::Calendar& cal = calendarAt(*this);
     const int back = (field(cal, UCAL_DAY_OF_WEEK) - cal.getFirstDayOfWeek() + 7) % 7;
     add(cal, UCAL_DATE, 6 - back);
@@ -357,56 +401,66 @@ Date Date::dateAtEndOfWeek() const {
     return timeOf(cal);
 }
 
-Date Date::dateAtTheStartOfMonth() const {
+Date Date::dateAtTheStartOfMonth() const
+{
     icu::Calendar& cal = calendarAt(*this);
     cal.set(UCAL_DATE, 1);
     return timeOf(cal);
 }
 
-Date Date::dateAtTheEndOfMonth() const {
+Date Date::dateAtTheEndOfMonth() const
+{
     icu::Calendar& cal = calendarAt(*this);
     UErrorCode status = U_ZERO_ERROR;
     cal.set(UCAL_DATE, cal.getActualMaximum(UCAL_DATE, status));
     return timeOf(cal);
 }
 
-Date Date::dateAtTheStartOfYear() const {
+Date Date::dateAtTheStartOfYear() const
+{
     icu::Calendar& cal = calendarAt(*this);
     cal.set(UCAL_MONTH, UCAL_JANUARY);
     cal.set(UCAL_DATE, 1);
     return timeOf(cal);
 }
 
-Date Date::dateAtTheEndOfYear() const {
+Date Date::dateAtTheEndOfYear() const
+{
     icu::Calendar& cal = calendarAt(*this);
     cal.set(UCAL_MONTH, UCAL_DECEMBER);
     cal.set(UCAL_DATE, 31);
     return timeOf(cal);
 }
 
-Date Date::setTimeOfDate(int hour, int minute, int second) const {
+Date Date::setTimeOfDate(int hour, int minute, int second) const
+{
     icu::Calendar& cal = calendarAt(*this);
     setTime(cal, hour, minute, second);
     return timeOf(cal);
 }
 
-qint64 Date::secondsAfterDate(Date d) const {
+qint64 Date::secondsAfterDate(Date d) const
+{
     return truncated(m_seconds - d.m_seconds);
 }
 
-qint64 Date::minutesAfterDate(Date d) const {
+qint64 Date::minutesAfterDate(Date d) const
+{
     return truncated((m_seconds - d.m_seconds) / minuteInSeconds);
 }
 
-qint64 Date::hoursAfterDate(Date d) const {
+qint64 Date::hoursAfterDate(Date d) const
+{
     return truncated((m_seconds - d.m_seconds) / hourInSeconds);
 }
 
-qint64 Date::daysAfterDate(Date d) const {
+qint64 Date::daysAfterDate(Date d) const
+{
     return truncated((m_seconds - d.m_seconds) / dayInSeconds);
 }
 
-DateComponents Date::components() const {
+DateComponents Date::components() const
+{
     icu::Calendar& cal = calendarAt(*this);
     DateComponents c;
     c.year = field(cal, UCAL_YEAR);
@@ -421,94 +475,116 @@ DateComponents Date::components() const {
     return c;
 }
 
-int Date::seconds() const {
+int Date::seconds() const
+{
     return field(calendarAt(*this), UCAL_SECOND);
 }
 
-int Date::minute() const {
+int Date::minute() const
+{
     return field(calendarAt(*this), UCAL_MINUTE);
 }
 
-int Date::hour() const {
+int Date::hour() const
+{
     return field(calendarAt(*this), UCAL_HOUR_OF_DAY);
 }
 
-int Date::day() const {
+int Date::day() const
+{
     return field(calendarAt(*this), UCAL_DATE);
 }
 
-int Date::month() const {
+int Date::month() const
+{
     return field(calendarAt(*this), UCAL_MONTH) + 1;
 }
 
-int Date::year() const {
+int Date::year() const
+{
     return field(calendarAt(*this), UCAL_YEAR);
 }
 
-int Date::week() const {
+int Date::week() const
+{
     return field(calendarAt(*this), UCAL_WEEK_OF_YEAR);
 }
 
-int Date::weekday() const {
+int Date::weekday() const
+{
     return field(calendarAt(*this), UCAL_DAY_OF_WEEK);
 }
 
-int Date::nthWeekday() const {
+int Date::nthWeekday() const
+{
     return field(calendarAt(*this), UCAL_DAY_OF_WEEK_IN_MONTH);
 }
 
-int Date::nearestHour() const {
+int Date::nearestHour() const
+{
     // Deliberately the seconds field decides, not the minutes.
     const double shift = seconds() < 30 ? -1800 : 1800;
     return Date(m_seconds + shift).hour();
 }
 
-int Date::monthDays() const {
+int Date::monthDays() const
+{
     UErrorCode status = U_ZERO_ERROR;
     return calendarAt(*this).getActualMaximum(UCAL_DATE, status);
 }
 
-int Date::firstDayOfWeek() const {
+int Date::firstDayOfWeek() const
+{
     return Date(m_seconds - double(weekday() - 1) * dayInSeconds).day();
 }
 
-int Date::lastDayOfWeek() const {
+int Date::lastDayOfWeek() const
+{
     return Date(m_seconds - double(weekday() - 1) * dayInSeconds + weekInSeconds).day();
 }
 
-QString Date::weekdayToString() const {
+QString Date::weekdayToString() const
+{
     return symbol(weekday() - 1, icu::DateFormatSymbols::WIDE, true);
 }
 
-QString Date::shortWeekdayToString() const {
+QString Date::shortWeekdayToString() const
+{
     return symbol(weekday() - 1, icu::DateFormatSymbols::ABBREVIATED, true);
 }
 
-QString Date::veryShortWeekdayToString() const {
+QString Date::veryShortWeekdayToString() const
+{
     return symbol(weekday() - 1, icu::DateFormatSymbols::NARROW, true);
 }
 
-QString Date::monthToString() const {
+QString Date::monthToString() const
+{
     return symbol(month() - 1, icu::DateFormatSymbols::WIDE, false);
 }
 
-QString Date::shortMonthToString() const {
+QString Date::shortMonthToString() const
+{
     return symbol(month() - 1, icu::DateFormatSymbols::ABBREVIATED, false);
 }
 
-QString Date::veryShortMonthToString() const {
+QString Date::veryShortMonthToString() const
+{
     return symbol(month() - 1, icu::DateFormatSymbols::NARROW, false);
 }
 
-QString Date::toString() const {
+QString Date::toString() const
+{
     return toString(DateStyle::shortStyle, DateStyle::shortStyle);
 }
 
-QString Date::toString(DateStyle dateStyle, DateStyle timeStyle, const Clock* relativeTo) const {
+QString Date::toString(DateStyle dateStyle, DateStyle timeStyle, const Clock* relativeTo) const
+{
     return StyledDateFormat::format(*this, dateStyle, timeStyle, relativeTo);
 }
 
-QString Date::toString(const DateFormat& fmt, TimeZone zone) const {
+QString Date::toString(const DateFormat& fmt, TimeZone zone) const
+{
     switch (fmt.kind) {
     case DateFormat::Kind::dotNet: {
         UErrorCode status = U_ZERO_ERROR;
@@ -531,7 +607,8 @@ QString Date::toString(const DateFormat& fmt, TimeZone zone) const {
     return {};
 }
 
-QString Date::relativeTimeToString(const Clock& clock) const {
+QString Date::relativeTimeToString(const Clock& clock) const
+{
     const double n = clock.now().m_seconds;
     const bool past = n - m_seconds > 0;
     const double sec = std::fabs(n - m_seconds);
@@ -559,7 +636,8 @@ QString Date::relativeTimeToString(const Clock& clock) const {
     return toString();
 }
 
-QString iso8601Pattern(ISO8601Format format) {
+QString iso8601Pattern(ISO8601Format format)
+{
     switch (format) {
     case ISO8601Format::Year:
         return QStringLiteral("yyyy");
@@ -577,7 +655,8 @@ QString iso8601Pattern(ISO8601Format format) {
     return {};
 }
 
-ISO8601Format iso8601FormatForDateString(QStringView dateString) {
+ISO8601Format iso8601FormatForDateString(QStringView dateString)
+{
     switch (dateString.size()) {
     case 4:
         return ISO8601Format::Year;

@@ -26,7 +26,9 @@ class Date {
 public:
     constexpr Date() = default;
     constexpr explicit Date(double secondsSince1970)
-        : m_seconds(secondsSince1970) {}
+        : m_seconds(secondsSince1970)
+    {
+    }
 
     // Reads a text in the given format; an empty text or one that doesn't parse yields now.
     static Date fromString(QStringView text, const DateFormat& format, const Clock& clock,

@@ -34,10 +34,12 @@ struct DateFormat {
     // For custom patterns: a fixed locale such as "en_US"; empty means the user's locale.
     QString locale;
 
-    static DateFormat iso8601(std::optional<ISO8601Format> format = std::nullopt) {
+    static DateFormat iso8601(std::optional<ISO8601Format> format = std::nullopt)
+    {
         return {Kind::iso8601, format, {}, {}};
     }
-    static DateFormat custom(QString pattern, QString locale = {}) {
+    static DateFormat custom(QString pattern, QString locale = {})
+    {
         return {Kind::custom, std::nullopt, std::move(pattern), std::move(locale)};
     }
     static DateFormat dotNet() { return {Kind::dotNet, std::nullopt, {}, {}}; }

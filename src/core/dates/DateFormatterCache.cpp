@@ -14,7 +14,8 @@ namespace lullet {
 
 std::shared_ptr<const icu::SimpleDateFormat>
 DateFormatterCache::formatter(const QString& pattern, const icu::TimeZone& zone,
-                              const icu::Locale& locale) {
+                              const icu::Locale& locale)
+{
     static std::mutex mutex;
     static QHash<QString, std::shared_ptr<const icu::SimpleDateFormat>> cache;
 

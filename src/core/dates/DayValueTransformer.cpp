@@ -4,7 +4,8 @@
 
 namespace lullet {
 
-QString DayValueTransformer::transformedValue(const QVariant& value) {
+QString DayValueTransformer::transformedValue(const QVariant& value)
+{
     static const std::array<QString, 7> names = {
         QStringLiteral("Sunday"),    QStringLiteral("Monday"),   QStringLiteral("Tuesday"),
         QStringLiteral("Wednesday"), QStringLiteral("Thursday"), QStringLiteral("Friday"),

@@ -18,7 +18,8 @@ namespace lullet {
 
 namespace {
 
-icu::DateFormat::EStyle icuStyle(DateStyle style) {
+icu::DateFormat::EStyle icuStyle(DateStyle style)
+{
     switch (style) {
     case DateStyle::none:
         return icu::DateFormat::kNone;
@@ -41,7 +42,8 @@ struct ThreadFormats {
     std::unique_ptr<icu::RelativeDateTimeFormatter> relative;
     icu::UnicodeString dateTimeGlue;
 
-    void refresh() {
+    void refresh()
+    {
         if (generation == CalendarContext::generation())
             return;
         generation = CalendarContext::generation();
@@ -54,7 +56,8 @@ struct ThreadFormats {
         dateTimeGlue = U_SUCCESS(status) ? generator->getDateTimeFormat() : u"{1}, {0}";
     }
 
-    icu::DateFormat* format(DateStyle dateStyle, DateStyle timeStyle) {
+    icu::DateFormat* format(DateStyle dateStyle, DateStyle timeStyle)
+    {
         auto& slot = formats[{dateStyle, timeStyle}];
         if (!slot) {
             slot.reset(icu::DateFormat::createDateTimeInstance(
@@ -65,7 +68,8 @@ struct ThreadFormats {
         return slot.get();
     }
 
-    icu::RelativeDateTimeFormatter* relativeFormatter() {
+    icu::RelativeDateTimeFormatter* relativeFormatter()
+    {
         if (!relative) {
             UErrorCode status = U_ZERO_ERROR;
             relative = std::make_unique<icu::RelativeDateTimeFormatter>(
@@ -78,13 +82,15 @@ struct ThreadFormats {
     }
 };
 
-ThreadFormats& threadFormats() {
+ThreadFormats& threadFormats()
+{
     thread_local ThreadFormats formats;
     formats.refresh();
     return formats;
 }
 
-QString formatWith(icu::DateFormat* format, Date date) {
+QString formatWith(icu::DateFormat* format, Date date)
+{
     if (!format)
         return {};
     icu::UnicodeString out;
@@ -94,7 +100,8 @@ QString formatWith(icu::DateFormat* format, Date date) {
 
 } // namespace
 
-QString StyledDateFormat::relativeDayWord(int dayOffset) {
+QString StyledDateFormat::relativeDayWord(int dayOffset)
+{
     static constexpr UDateDirection directions[] = {UDAT_DIRECTION_LAST_2, UDAT_DIRECTION_LAST,
                                                     UDAT_DIRECTION_THIS, UDAT_DIRECTION_NEXT,
                                                     UDAT_DIRECTION_NEXT_2};
@@ -116,7 +123,8 @@ QString StyledDateFormat::relativeDayWord(int dayOffset) {
 }
 
 QString StyledDateFormat::format(Date date, DateStyle dateStyle, DateStyle timeStyle,
-                                 const Clock* relativeTo) {
+                                 const Clock* relativeTo)
+{
     ThreadFormats& formats = threadFormats();
     if (!relativeTo || dateStyle == DateStyle::none)
         return formatWith(formats.format(dateStyle, timeStyle), date);

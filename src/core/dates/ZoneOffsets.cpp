@@ -11,7 +11,8 @@
 
 namespace lullet {
 
-ZoneOffsets::Span ZoneOffsets::spanAt(double utcMs) {
+ZoneOffsets::Span ZoneOffsets::spanAt(double utcMs)
+{
     // A few spans, since a step across a change of offset looks at both sides in turn.
     constexpr std::size_t slots = 4;
     thread_local int generation = 0;

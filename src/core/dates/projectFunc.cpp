@@ -8,7 +8,8 @@
 
 namespace lullet {
 
-QString projectFunc::getDayName(const QString& day) {
+QString projectFunc::getDayName(const QString& day)
+{
     static const std::array<QString, 7> names = {
         QStringLiteral("SUNDAY"),    QStringLiteral("MONDAY"),   QStringLiteral("TUESDAY"),
         QStringLiteral("WEDNESDAY"), QStringLiteral("THURSDAY"), QStringLiteral("FRIDAY"),
@@ -20,7 +21,8 @@ QString projectFunc::getDayName(const QString& day) {
     return names[std::size_t(index - 1)];
 }
 
-QString projectFunc::ChangeMonthName(int month) {
+QString projectFunc::ChangeMonthName(int month)
+{
     static const std::array<QString, 12> names = {
         QStringLiteral("JANUARY"), QStringLiteral("FEBRUARY"), QStringLiteral("MARCH"),
         QStringLiteral("APRIL"),   QStringLiteral("MAY"),      QStringLiteral("JUNE"),
@@ -31,7 +33,8 @@ QString projectFunc::ChangeMonthName(int month) {
     return names[std::size_t(month)];
 }
 
-QString projectFunc::dateStringFromDate(int option, Date date) {
+QString projectFunc::dateStringFromDate(int option, Date date)
+{
     QString pattern;
     switch (option) {
     case 0:
@@ -57,15 +60,18 @@ QString projectFunc::dateStringFromDate(int option, Date date) {
     return date.toString(DateFormat::custom(pattern, QStringLiteral("en_US")));
 }
 
-Date projectFunc::returnDateComp(Date date) {
+Date projectFunc::returnDateComp(Date date)
+{
     return date.dateAtStartOfDay();
 }
 
-Date projectFunc::returnDateTimeComp(Date date) {
+Date projectFunc::returnDateTimeComp(Date date)
+{
     return date.setTimeOfDate(date.hour(), 0, 0);
 }
 
-QString projectFunc::transformedValue(Date date, const Clock& clock) {
+QString projectFunc::transformedValue(Date date, const Clock& clock)
+{
     const Date now = clock.now();
     const Date yesterday(now.timeIntervalSince1970() - 86400);
     if (date.isEqualToDateIgnoringTime(yesterday))
@@ -75,7 +81,8 @@ QString projectFunc::transformedValue(Date date, const Clock& clock) {
     return date.toString(DateFormat::custom(QStringLiteral("dd MMM YYYY")));
 }
 
-QString projectFunc::stringFromTimeInterval(double interval) {
+QString projectFunc::stringFromTimeInterval(double interval)
+{
     const double ti = std::trunc(interval);
     const int ms = int(std::fmod(interval, 1.0) * 1000);
     const int seconds = int(std::fmod(ti, 60.0));

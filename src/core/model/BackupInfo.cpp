@@ -7,7 +7,8 @@
 
 namespace lullet {
 
-QJsonObject BackupInfo::toJson() const {
+QJsonObject BackupInfo::toJson() const
+{
     QJsonObject json{{QStringLiteral("path"), path},
                      {QStringLiteral("sizeDisplay"), sizeDisplay},
                      {QStringLiteral("type"), type},
@@ -17,7 +18,8 @@ QJsonObject BackupInfo::toJson() const {
     return json;
 }
 
-BackupInfo BackupInfo::fromJson(const QJsonObject& json) {
+BackupInfo BackupInfo::fromJson(const QJsonObject& json)
+{
     BackupInfo info;
     info.path = json.value(QStringLiteral("path")).toString();
     const QJsonValue created = json.value(QStringLiteral("createdDate"));
@@ -29,14 +31,16 @@ BackupInfo BackupInfo::fromJson(const QJsonObject& json) {
     return info;
 }
 
-QByteArray BackupInfo::archive(const std::vector<BackupInfo>& list) {
+QByteArray BackupInfo::archive(const std::vector<BackupInfo>& list)
+{
     QJsonArray array;
     for (const BackupInfo& info : list)
         array.append(info.toJson());
     return QJsonDocument(array).toJson(QJsonDocument::Compact);
 }
 
-std::vector<BackupInfo> BackupInfo::unarchive(const QByteArray& data) {
+std::vector<BackupInfo> BackupInfo::unarchive(const QByteArray& data)
+{
     std::vector<BackupInfo> list;
     const QJsonDocument doc = QJsonDocument::fromJson(data);
     if (!doc.isArray())

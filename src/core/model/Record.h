@@ -30,7 +30,8 @@ public:
 protected:
     Record() = default;
 
-    template <class T, class U> void assign(std::optional<T>& field, U&& value) {
+    template <class T, class U> void assign(std::optional<T>& field, U&& value)
+    {
         std::optional<T> next(std::forward<U>(value));
         if (field == next)
             return;

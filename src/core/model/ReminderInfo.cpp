@@ -4,7 +4,8 @@
 
 namespace lullet {
 
-void ReminderInfo::setToProject(Project* project) {
+void ReminderInfo::setToProject(Project* project)
+{
     if (m_toProject == project)
         return;
     if (m_toProject) {

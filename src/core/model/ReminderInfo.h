@@ -64,7 +64,8 @@ public:
     void setRunningTimeCovered(std::optional<int> v) { assign(m_runningTimeCovered, v); }
 
     // The date the item stands on: the postponed date when set, else the scheduled one.
-    std::optional<Date> effectiveDate() const {
+    std::optional<Date> effectiveDate() const
+    {
         return m_dtReminderPostponed ? m_dtReminderPostponed : m_dtReminder;
     }
 

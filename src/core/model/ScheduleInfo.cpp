@@ -9,7 +9,8 @@ namespace lullet {
 
 namespace {
 
-std::optional<Date> dateFrom(const QJsonValue& value) {
+std::optional<Date> dateFrom(const QJsonValue& value)
+{
     if (!value.isDouble() || !std::isfinite(value.toDouble()))
         return std::nullopt;
     return Date(value.toDouble());
@@ -17,7 +18,8 @@ std::optional<Date> dateFrom(const QJsonValue& value) {
 
 } // namespace
 
-QJsonObject ScheduleInfo::toJson() const {
+QJsonObject ScheduleInfo::toJson() const
+{
     QJsonObject json{{QStringLiteral("day"), day},
                      {QStringLiteral("isDaySelected"), isDaySelected}};
     // Times are written only when set.
@@ -28,7 +30,8 @@ QJsonObject ScheduleInfo::toJson() const {
     return json;
 }
 
-std::optional<ScheduleInfo> ScheduleInfo::fromJson(const QJsonObject& json) {
+std::optional<ScheduleInfo> ScheduleInfo::fromJson(const QJsonObject& json)
+{
     const QJsonValue day = json.value(QStringLiteral("day"));
     if (!day.isDouble())
         return std::nullopt;
@@ -40,14 +43,16 @@ std::optional<ScheduleInfo> ScheduleInfo::fromJson(const QJsonObject& json) {
     return info;
 }
 
-QByteArray ScheduleInfo::archive(const std::vector<ScheduleInfo>& list) {
+QByteArray ScheduleInfo::archive(const std::vector<ScheduleInfo>& list)
+{
     QJsonArray array;
     for (const ScheduleInfo& info : list)
         array.append(info.toJson());
     return QJsonDocument(array).toJson(QJsonDocument::Compact);
 }
 
-std::vector<ScheduleInfo> ScheduleInfo::unarchive(const QByteArray& data) {
+std::vector<ScheduleInfo> ScheduleInfo::unarchive(const QByteArray& data)
+{
     std::vector<ScheduleInfo> list;
     const QJsonDocument doc = QJsonDocument::fromJson(data);
     if (!doc.isArray())

@@ -5,14 +5,18 @@
 namespace lullet {
 
 NotificationCenter::NotificationCenter(QObject* parent)
-    : QObject(parent) {}
+    : QObject(parent)
+{
+}
 
-NotificationCenter::~NotificationCenter() {
+NotificationCenter::~NotificationCenter()
+{
     for (const auto& connection : std::as_const(m_ownerWatch))
         disconnect(connection);
 }
 
-void NotificationCenter::addObserver(QObject* owner, QLatin1String name, Handler handler) {
+void NotificationCenter::addObserver(QObject* owner, QLatin1String name, Handler handler)
+{
     Q_ASSERT(owner);
     m_observers[QString(name)].push_back(
         {owner, std::make_shared<const Handler>(std::move(handler)), std::make_shared<bool>(true)});
@@ -22,13 +26,15 @@ void NotificationCenter::addObserver(QObject* owner, QLatin1String name, Handler
     }
 }
 
-void NotificationCenter::removeObserver(QObject* owner) {
+void NotificationCenter::removeObserver(QObject* owner)
+{
     if (const auto connection = m_ownerWatch.take(owner))
         disconnect(connection);
     forget(owner);
 }
 
-void NotificationCenter::forget(QObject* owner) {
+void NotificationCenter::forget(QObject* owner)
+{
     m_ownerWatch.remove(owner);
     for (auto it = m_observers.begin(); it != m_observers.end();) {
         auto& entries = it.value();
@@ -43,7 +49,8 @@ void NotificationCenter::forget(QObject* owner) {
     }
 }
 
-void NotificationCenter::post(QLatin1String name, const QVariant& object) {
+void NotificationCenter::post(QLatin1String name, const QVariant& object)
+{
     const auto it = m_observers.constFind(QString(name));
     if (it == m_observers.constEnd())
         return;
@@ -54,7 +61,8 @@ void NotificationCenter::post(QLatin1String name, const QVariant& object) {
     }
 }
 
-int NotificationCenter::observerCount(QLatin1String name) const {
+int NotificationCenter::observerCount(QLatin1String name) const
+{
     const auto it = m_observers.constFind(QString(name));
     return it == m_observers.constEnd() ? 0 : int(it->size());
 }

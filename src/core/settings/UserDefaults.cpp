@@ -9,29 +9,36 @@
 
 namespace lullet {
 
-QString UserDefaults::defaultPath() {
+QString UserDefaults::defaultPath()
+{
     return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
         .filePath(QStringLiteral("Lullet/Lullet.conf"));
 }
 
 UserDefaults::UserDefaults(const QString& filePath)
-    : m_settings(filePath, QSettings::IniFormat) {}
+    : m_settings(filePath, QSettings::IniFormat)
+{
+}
 
-void UserDefaults::registerDefaults(const QVariantMap& defaults) {
+void UserDefaults::registerDefaults(const QVariantMap& defaults)
+{
     for (auto it = defaults.begin(); it != defaults.end(); ++it)
         m_registered.insert(it.key(), it.value());
 }
 
-bool UserDefaults::hasValue(QLatin1String key) const {
+bool UserDefaults::hasValue(QLatin1String key) const
+{
     return m_settings.contains(key);
 }
 
-QVariant UserDefaults::object(QLatin1String key) const {
+QVariant UserDefaults::object(QLatin1String key) const
+{
     const QVariant stored = m_settings.value(key);
     return stored.isValid() ? stored : m_registered.value(key);
 }
 
-int UserDefaults::integer(QLatin1String key) const {
+int UserDefaults::integer(QLatin1String key) const
+{
     bool ok = false;
     const int value = object(key).toInt(&ok);
     if (ok)
@@ -40,17 +47,20 @@ int UserDefaults::integer(QLatin1String key) const {
     return object(key).toBool() ? 1 : 0;
 }
 
-bool UserDefaults::boolean(QLatin1String key) const {
+bool UserDefaults::boolean(QLatin1String key) const
+{
     return object(key).toBool();
 }
 
-QByteArray UserDefaults::data(QLatin1String key) const {
+QByteArray UserDefaults::data(QLatin1String key) const
+{
     const QVariant value = object(key);
     return value.typeId() == QMetaType::QByteArray ? value.toByteArray() : QByteArray();
 }
 
 // Dictionaries are kept as JSON text, so that the file stays readable.
-QVariantMap UserDefaults::dictionary(QLatin1String key) const {
+QVariantMap UserDefaults::dictionary(QLatin1String key) const
+{
     const QVariant value = object(key);
     if (value.typeId() == QMetaType::QVariantMap)
         return value.toMap();
@@ -58,11 +68,13 @@ QVariantMap UserDefaults::dictionary(QLatin1String key) const {
     return doc.isObject() ? doc.object().toVariantMap() : QVariantMap();
 }
 
-void UserDefaults::set(QLatin1String key, const QVariant& value) {
+void UserDefaults::set(QLatin1String key, const QVariant& value)
+{
     m_settings.setValue(key, value);
 }
 
-void UserDefaults::setDictionary(QLatin1String key, const QVariantMap& value) {
+void UserDefaults::setDictionary(QLatin1String key, const QVariantMap& value)
+{
     QVariantMap stored = value;
     // The password itself lives in the keychain only; the settings file never holds it.
     if (key == SettingsKeys::passwordValues && stored.contains(SettingsKeys::password))
@@ -72,11 +84,13 @@ void UserDefaults::setDictionary(QLatin1String key, const QVariantMap& value) {
     m_settings.setValue(key, QString::fromUtf8(json));
 }
 
-void UserDefaults::remove(QLatin1String key) {
+void UserDefaults::remove(QLatin1String key)
+{
     m_settings.remove(key);
 }
 
-void UserDefaults::synchronize() {
+void UserDefaults::synchronize()
+{
     m_settings.sync();
 }
 

@@ -6,11 +6,13 @@
 
 namespace lullet {
 
-void Db::Closer::operator()(sqlite3* db) const {
+void Db::Closer::operator()(sqlite3* db) const
+{
     sqlite3_close_v2(db);
 }
 
-Db::Db(const QString& path, bool readOnly) {
+Db::Db(const QString& path, bool readOnly)
+{
     sqlite3* db = nullptr;
     const int flags =
         (readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE) |
@@ -26,28 +28,33 @@ Db::Db(const QString& path, bool readOnly) {
     m_db.reset(db);
 }
 
-int Db::errorCode() const {
+int Db::errorCode() const
+{
     return m_db ? sqlite3_errcode(m_db.get()) : m_openError;
 }
 
-QString Db::errorMessage() const {
+QString Db::errorMessage() const
+{
     if (!m_db)
         return QString::fromUtf8(sqlite3_errstr(m_openError));
     return QString::fromUtf8(sqlite3_errmsg(m_db.get()));
 }
 
-bool Db::exec(const char* sql) {
+bool Db::exec(const char* sql)
+{
     return m_db && sqlite3_exec(m_db.get(), sql, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
-std::optional<qint64> Db::queryInt(const char* sql) {
+std::optional<qint64> Db::queryInt(const char* sql)
+{
     Stmt stmt(*this, sql);
     if (!stmt.isValid() || !stmt.step())
         return std::nullopt;
     return stmt.columnInt64(0);
 }
 
-std::optional<QString> Db::queryText(const char* sql) {
+std::optional<QString> Db::queryText(const char* sql)
+{
     Stmt stmt(*this, sql);
     if (!stmt.isValid() || !stmt.step())
         return std::nullopt;

@@ -20,17 +20,21 @@ namespace lullet {
 namespace {
 
 template <class T> const std::vector<Column<T>>& columnsOf();
-template <> const std::vector<Column<Project>>& columnsOf<Project>() {
+template <> const std::vector<Column<Project>>& columnsOf<Project>()
+{
     return RecordColumns::project();
 }
-template <> const std::vector<Column<RepeatReminderInfo>>& columnsOf<RepeatReminderInfo>() {
+template <> const std::vector<Column<RepeatReminderInfo>>& columnsOf<RepeatReminderInfo>()
+{
     return RecordColumns::repeatReminderInfo();
 }
-template <> const std::vector<Column<ReminderInfo>>& columnsOf<ReminderInfo>() {
+template <> const std::vector<Column<ReminderInfo>>& columnsOf<ReminderInfo>()
+{
     return RecordColumns::reminderInfo();
 }
 
-const char* tableOf(Record::Entity entity) {
+const char* tableOf(Record::Entity entity)
+{
     switch (entity) {
     case Record::Entity::Project:
         return "Project";
@@ -42,7 +46,8 @@ const char* tableOf(Record::Entity entity) {
     return "";
 }
 
-template <class T> QByteArray columnList() {
+template <class T> QByteArray columnList()
+{
     QByteArray list;
     for (const auto& c : columnsOf<T>()) {
         if (!list.isEmpty())
@@ -54,7 +59,8 @@ template <class T> QByteArray columnList() {
     return list;
 }
 
-template <class T> QByteArray insertSql(const char* table) {
+template <class T> QByteArray insertSql(const char* table)
+{
     const qsizetype count =
         qsizetype(columnsOf<T>().size()) + (std::is_same_v<T, ReminderInfo> ? 1 : 0);
     QByteArray marks;
@@ -63,7 +69,8 @@ template <class T> QByteArray insertSql(const char* table) {
     return QByteArray("INSERT INTO ") + table + " (" + columnList<T>() + ") VALUES (" + marks + ")";
 }
 
-template <class T> QByteArray updateSql(const char* table) {
+template <class T> QByteArray updateSql(const char* table)
+{
     QByteArray set;
     for (const auto& c : columnsOf<T>())
         set += QByteArray(set.isEmpty() ? "" : ", ") + c.name + " = ?";
@@ -73,7 +80,8 @@ template <class T> QByteArray updateSql(const char* table) {
 }
 
 // Binds every attribute and, for an item, its project link; answers the next free index.
-template <class T> int bindAll(Stmt& stmt, const T& record) {
+template <class T> int bindAll(Stmt& stmt, const T& record)
+{
     int i = 0;
     for (const auto& c : columnsOf<T>())
         c.bind(stmt, i++, record);
@@ -86,7 +94,8 @@ template <class T> int bindAll(Stmt& stmt, const T& record) {
 }
 
 // Calls f with the record as its own type.
-template <class F> bool visit(Record* record, F&& f) {
+template <class F> bool visit(Record* record, F&& f)
+{
     switch (record->entity()) {
     case Record::Entity::Project:
         return f(*static_cast<Project*>(record));
@@ -98,7 +107,8 @@ template <class F> bool visit(Record* record, F&& f) {
     return false;
 }
 
-template <class T> void eraseFrom(std::vector<T*>& list, Record* record) {
+template <class T> void eraseFrom(std::vector<T*>& list, Record* record)
+{
     const auto it = std::find(list.begin(), list.end(), record);
     if (it != list.end())
         list.erase(it);
@@ -106,23 +116,28 @@ template <class T> void eraseFrom(std::vector<T*>& list, Record* record) {
 
 } // namespace
 
-void Record::changed() {
+void Record::changed()
+{
     if (m_context && !m_deleted)
         m_context->recordChanged(this);
 }
 
 ObjectContext::ObjectContext(Db& db)
-    : m_db(db) {}
+    : m_db(db)
+{
+}
 
 ObjectContext::~ObjectContext() = default;
 
-bool ObjectContext::fail() {
+bool ObjectContext::fail()
+{
     m_errorCode = m_db.errorCode();
     m_errorMessage = m_db.errorMessage();
     return false;
 }
 
-template <class T> T* ObjectContext::adopt(std::vector<T*>& live) {
+template <class T> T* ObjectContext::adopt(std::vector<T*>& live)
+{
     auto owned = std::make_unique<T>();
     T* record = owned.get();
     record->m_context = this;
@@ -131,7 +146,8 @@ template <class T> T* ObjectContext::adopt(std::vector<T*>& live) {
     return record;
 }
 
-bool ObjectContext::load() {
+bool ObjectContext::load()
+{
     if (m_loaded)
         return true;
     QHash<qint64, Project*> projectsById;
@@ -176,22 +192,26 @@ bool ObjectContext::load() {
     return true;
 }
 
-const std::vector<Project*>& ObjectContext::projects() {
+const std::vector<Project*>& ObjectContext::projects()
+{
     load();
     return m_projects;
 }
 
-const std::vector<RepeatReminderInfo*>& ObjectContext::repeatReminderInfos() {
+const std::vector<RepeatReminderInfo*>& ObjectContext::repeatReminderInfos()
+{
     load();
     return m_rules;
 }
 
-const std::vector<ReminderInfo*>& ObjectContext::reminderInfos() {
+const std::vector<ReminderInfo*>& ObjectContext::reminderInfos()
+{
     load();
     return m_reminders;
 }
 
-Project* ObjectContext::insertProject() {
+Project* ObjectContext::insertProject()
+{
     load();
     Project* p = adopt(m_projects);
     p->m_inserted = true;
@@ -199,7 +219,8 @@ Project* ObjectContext::insertProject() {
     return p;
 }
 
-RepeatReminderInfo* ObjectContext::insertRepeatReminderInfo() {
+RepeatReminderInfo* ObjectContext::insertRepeatReminderInfo()
+{
     load();
     RepeatReminderInfo* r = adopt(m_rules);
     r->m_inserted = true;
@@ -207,7 +228,8 @@ RepeatReminderInfo* ObjectContext::insertRepeatReminderInfo() {
     return r;
 }
 
-ReminderInfo* ObjectContext::insertReminderInfo() {
+ReminderInfo* ObjectContext::insertReminderInfo()
+{
     load();
     ReminderInfo* r = adopt(m_reminders);
     r->m_inserted = true;
@@ -216,14 +238,16 @@ ReminderInfo* ObjectContext::insertReminderInfo() {
     return r;
 }
 
-void ObjectContext::recordChanged(Record* record) {
+void ObjectContext::recordChanged(Record* record)
+{
     if (record->m_inserted || record->m_updated)
         return;
     record->m_updated = true;
     m_updated.push_back(record);
 }
 
-void ObjectContext::deleteObject(Record* record) {
+void ObjectContext::deleteObject(Record* record)
+{
     if (!record || record->m_context != this || record->m_deleted)
         return;
     record->m_deleted = true;
@@ -255,11 +279,13 @@ void ObjectContext::deleteObject(Record* record) {
     }
 }
 
-bool ObjectContext::hasChanges() const {
+bool ObjectContext::hasChanges() const
+{
     return !m_inserted.empty() || !m_updated.empty() || !m_deleted.empty();
 }
 
-bool ObjectContext::writeInserts() {
+bool ObjectContext::writeInserts()
+{
     // Projects first, so that items can refer to their rows.
     std::vector<Record*> ordered(m_inserted);
     std::stable_sort(ordered.begin(), ordered.end(), [](const Record* a, const Record* b) {
@@ -282,7 +308,8 @@ bool ObjectContext::writeInserts() {
     return true;
 }
 
-bool ObjectContext::writeUpdates() {
+bool ObjectContext::writeUpdates()
+{
     std::array<std::optional<Stmt>, 3> statements;
     for (Record* record : m_updated) {
         const bool ok = visit(record, [&](auto& typed) {
@@ -299,7 +326,8 @@ bool ObjectContext::writeUpdates() {
     return true;
 }
 
-bool ObjectContext::writeDeletes() {
+bool ObjectContext::writeDeletes()
+{
     for (Record* record : m_deleted) {
         const QByteArray sql =
             QByteArray("DELETE FROM ") + tableOf(record->entity()) + " WHERE id = ?";
@@ -311,7 +339,8 @@ bool ObjectContext::writeDeletes() {
     return true;
 }
 
-bool ObjectContext::save() {
+bool ObjectContext::save()
+{
     if (!hasChanges())
         return true;
     Transaction txn(m_db);
@@ -344,7 +373,8 @@ bool ObjectContext::save() {
     return true;
 }
 
-void ObjectContext::reset() {
+void ObjectContext::reset()
+{
     for (const auto& record : m_owned) {
         record->m_context = nullptr;
         record->m_inserted = record->m_updated = false;

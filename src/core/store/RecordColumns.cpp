@@ -9,7 +9,8 @@ namespace lullet {
 
 namespace {
 
-template <class T, class V> Column<T> column(const char* name, std::optional<V> T::*member) {
+template <class T, class V> Column<T> column(const char* name, std::optional<V> T::*member)
+{
     return Column<T>{name, [member](Stmt& s, int i, const T& r) { s.bind(i, r.*member); },
                      [member](const Stmt& s, int i, T& r, StringPool& pool) {
                          if constexpr (std::is_same_v<V, QString>) {
@@ -28,7 +29,8 @@ template <class T, class V> Column<T> column(const char* name, std::optional<V> 
 
 } // namespace
 
-const std::vector<Column<Project>>& RecordColumns::project() {
+const std::vector<Column<Project>>& RecordColumns::project()
+{
     using P = Project;
     static const std::vector<Column<P>> columns = {
         column("name", &P::m_name),
@@ -38,7 +40,8 @@ const std::vector<Column<Project>>& RecordColumns::project() {
     return columns;
 }
 
-const std::vector<Column<RepeatReminderInfo>>& RecordColumns::repeatReminderInfo() {
+const std::vector<Column<RepeatReminderInfo>>& RecordColumns::repeatReminderInfo()
+{
     using R = RepeatReminderInfo;
     static const std::vector<Column<R>> columns = {
         column("uniqueId", &R::m_uniqueId),
@@ -60,7 +63,8 @@ const std::vector<Column<RepeatReminderInfo>>& RecordColumns::repeatReminderInfo
     return columns;
 }
 
-const std::vector<Column<ReminderInfo>>& RecordColumns::reminderInfo() {
+const std::vector<Column<ReminderInfo>>& RecordColumns::reminderInfo()
+{
     using R = ReminderInfo;
     static const std::vector<Column<R>> columns = {
         column("uniqueId", &R::m_uniqueId),

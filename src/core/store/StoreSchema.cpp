@@ -68,18 +68,21 @@ CREATE INDEX ReminderInfo_toProject ON ReminderInfo(toProject);
 
 } // namespace
 
-int StoreSchema::latestVersion() {
+int StoreSchema::latestVersion()
+{
     return int(steps.size());
 }
 
-bool StoreSchema::hasTables(Db& db) {
+bool StoreSchema::hasTables(Db& db)
+{
     const auto count =
         db.queryInt("SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND name IN "
                     "('Project', 'RepeatReminderInfo', 'ReminderInfo')");
     return count && *count == 3;
 }
 
-StoreSchema::Check StoreSchema::check(Db& db) {
+StoreSchema::Check StoreSchema::check(Db& db)
+{
     const auto appId = db.queryInt("PRAGMA application_id");
     const auto version = db.queryInt("PRAGMA user_version");
     const auto objects = db.queryInt("SELECT count(*) FROM sqlite_schema");
@@ -94,7 +97,8 @@ StoreSchema::Check StoreSchema::check(Db& db) {
     return Check::Ours;
 }
 
-bool StoreSchema::migrate(Db& db) {
+bool StoreSchema::migrate(Db& db)
+{
     if (db.queryInt("PRAGMA application_id").value_or(0) == 0) {
         const QByteArray stamp = "PRAGMA application_id = " + QByteArray::number(applicationId);
         if (!db.exec(stamp.constData()))

@@ -16,28 +16,34 @@ namespace {
 
 // Damage and foreign files are moved aside; anything else (permissions, a full disk) is a
 // condition the user can fix, so the files stay where they are.
-bool isUnreadable(int code) {
+bool isUnreadable(int code)
+{
     const int primary = code & 0xff;
     return primary == SQLITE_NOTADB || primary == SQLITE_CORRUPT;
 }
 
 } // namespace
 
-QString StoreStack::defaultFolder() {
+QString StoreStack::defaultFolder()
+{
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
 
 StoreStack::StoreStack(QString folder, const Clock& clock)
     : m_folder(std::move(folder))
-    , m_clock(clock) {}
+    , m_clock(clock)
+{
+}
 
 StoreStack::~StoreStack() = default;
 
-QString StoreStack::storePath() const {
+QString StoreStack::storePath() const
+{
     return QDir(m_folder).filePath(QString::fromLatin1(storeFileName));
 }
 
-StoreStack::Result StoreStack::build() {
+StoreStack::Result StoreStack::build()
+{
     const QFileInfo info(m_folder);
     if (info.exists() && !info.isDir()) {
         return {Outcome::FolderIsFile,
@@ -57,7 +63,8 @@ StoreStack::Result StoreStack::build() {
 
 // Nothing is written to the file until it is known to be ours or new: a foreign or damaged
 // file is moved aside exactly as it was found.
-StoreStack::Result StoreStack::openStore() {
+StoreStack::Result StoreStack::openStore()
+{
     const auto failed = [this](const QString& what) {
         Result r{Outcome::OpenFailed,
                  QStringLiteral("There was an error creating or loading the application's saved "
@@ -106,7 +113,8 @@ StoreStack::Result StoreStack::openStore() {
     return {Outcome::Opened, {}, {}};
 }
 
-StoreStack::Inspection StoreStack::inspect() const {
+StoreStack::Inspection StoreStack::inspect() const
+{
     QFile file(storePath());
     if (!file.exists() || file.size() == 0)
         return Inspection::Usable;
@@ -133,7 +141,8 @@ StoreStack::Inspection StoreStack::inspect() const {
     return isUnreadable(db.errorCode()) ? Inspection::Damaged : Inspection::Foreign;
 }
 
-StoreStack::Result StoreStack::moveAside(const QString& why) {
+StoreStack::Result StoreStack::moveAside(const QString& why)
+{
     m_context.reset();
     m_db = Db();
     const QString stamp = m_clock.now().toString(

@@ -10,7 +10,8 @@ namespace lullet {
 // memory. Lives only for one load.
 class StringPool {
 public:
-    QString intern(const QString& text) {
+    QString intern(const QString& text)
+    {
         const auto it = m_texts.constFind(text);
         if (it != m_texts.constEnd())
             return *it;

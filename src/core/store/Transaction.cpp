@@ -5,16 +5,19 @@
 namespace lullet {
 
 Transaction::Transaction(Db& db)
-    : m_db(db) {
+    : m_db(db)
+{
     m_active = m_db.exec("BEGIN IMMEDIATE");
 }
 
-Transaction::~Transaction() {
+Transaction::~Transaction()
+{
     if (m_active)
         m_db.exec("ROLLBACK");
 }
 
-bool Transaction::commit() {
+bool Transaction::commit()
+{
     if (!m_active)
         return false;
     m_active = false;

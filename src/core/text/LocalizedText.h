@@ -10,6 +10,16 @@ public:
     // Negative, zero or positive, like a locale-aware "localizedCompare": accents and case are
     // ordered the way the user's language orders them.
     static int compare(const QString& a, const QString& b);
+
+    // Removes accents and other combining marks: "Crème" becomes "Creme".
+    static QString foldDiacritics(const QString& text);
+
+    // The whole text matches the regular expression, ignoring case and diacritics on both sides.
+    // A pattern that is no valid expression matches nothing.
+    static bool matchesCD(const QString& text, const QString& pattern);
+
+    // The text contains the other, ignoring case and diacritics on both sides.
+    static bool containsCD(const QString& text, const QString& part);
 };
 
 } // namespace lullet

@@ -3,6 +3,7 @@
 #include "StoreGenerator.h"
 #include "core/dates/CalendarContext.h"
 #include "core/dates/Clock.h"
+#include "support/FakeClock.h"
 #include "core/store/ObjectContext.h"
 
 #include <QCoreApplication>
@@ -16,21 +17,7 @@
 using namespace lullet;
 using namespace lullet::bench;
 
-namespace {
-
-class FixedClock final : public Clock {
-public:
-    explicit FixedClock(Date now)
-        : m_now(now)
-    {
-    }
-    Date now() const override { return m_now; }
-
-private:
-    Date m_now;
-};
-
-} // namespace
+using FixedClock = lullet::test::FakeClock;
 
 int main(int argc, char* argv[])
 {

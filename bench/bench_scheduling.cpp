@@ -4,14 +4,14 @@
 #include "core/app/AppDelegate.h"
 #include "core/dates/CalendarContext.h"
 #include "core/dates/Clock.h"
-#include "support/FakeClock.h"
-#include "support/RecordingHost.h"
 #include "core/notify/NotificationCenter.h"
 #include "core/settings/UserDefaults.h"
 #include "core/store/StoreStack.h"
 #include "scheduling/DefaultCatalogue.h"
 #include "scheduling/RepeatRules.h"
 #include "scheduling/RepeatTypes.h"
+#include "support/FakeClock.h"
+#include "support/RecordingHost.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -3,8 +3,8 @@
 #include "StoreGenerator.h"
 #include "core/dates/CalendarContext.h"
 #include "core/dates/Clock.h"
-#include "support/FakeClock.h"
 #include "core/store/ObjectContext.h"
+#include "support/FakeClock.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -29,6 +29,7 @@ int main(int argc, char* argv[])
     ShellHost host(window);
     ScreenSaverInhibitor inhibitor;
     AppDelegate delegate({clock, defaults, notifCenter, store, host, inhibitor});
+    host.attach(delegate);
 
     if (!delegate.awakeFromNib())
         return 1;

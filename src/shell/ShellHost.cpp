@@ -1,41 +1,63 @@
 #include "shell/ShellHost.h"
 
+#include "core/app/AppDelegate.h"
+#include "core/notify/NotificationCenter.h"
+#include "core/notify/Notifications.h"
+#include "prompts/AlertViewController.h"
+#include "prompts/LulletAlertViewController.h"
+#include "prompts/ReminderViewController.h"
+#include "prompts/TimeoverAlertViewController.h"
 #include "shell/MainWindow.h"
-#include "shell/StatusIcon.h"
+#include "shell/Popover.h"
+#include "shell/RunningRemindersView.h"
+#include "shell/StatusItem.h"
 
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSystemTrayIcon>
 #include <QTimer>
 
 namespace lullet {
 
+namespace {
+
+// A prompt raised for an item that has since been deleted has nothing to ask.
+bool gone(const ReminderInfo* item)
+{
+    return item && !item->hasContext();
+}
+
+} // namespace
+
 ShellHost::ShellHost(MainWindow& window, QObject* parent)
     : QObject(parent)
     , m_window(window)
+    , m_status(new StatusItem(window, this))
 {
+    connect(m_status, &StatusItem::clicked, this, [this] {
+        m_status->togglePopover([this]() -> QWidget* {
+            auto* view = new RunningRemindersView(*m_app);
+            connect(view, &RunningRemindersView::openWindowRequested, this, [this] {
+                closePopover();
+                bringMainWindowForward({});
+            });
+            connect(view, &RunningRemindersView::quitRequested, this, &ShellHost::quitRequested);
+            return view;
+        });
+    });
 }
 
 ShellHost::~ShellHost() = default;
 
 void ShellHost::openStatusMenu()
 {
-    m_tray = new QSystemTrayIcon(StatusIcon::make(), this);
-    m_tray->setToolTip(QStringLiteral("Lullet"));
     auto* menu = new QMenu(&m_window);
     connect(menu->addAction(tr("Open Lullet")), &QAction::triggered, this,
             [this] { bringMainWindowForward({}); });
     menu->addSeparator();
     connect(menu->addAction(tr("Quit Lullet")), &QAction::triggered, this,
             &ShellHost::quitRequested);
-    m_tray->setContextMenu(menu);
-    connect(m_tray, &QSystemTrayIcon::activated, this,
-            [this](QSystemTrayIcon::ActivationReason reason) {
-                if (reason == QSystemTrayIcon::Trigger)
-                    bringMainWindowForward({});
-            });
-    m_tray->show();
+    m_status->openStatusMenu(menu);
 }
 
 void ShellHost::prepareMainWindow(bool welcomeDone, bool locked)
@@ -69,6 +91,53 @@ bool ShellHost::askQuitAnyway(const QString& message, const QString& information
 void ShellHost::presentError(const QString& message)
 {
     QMessageBox::warning(&m_window, QStringLiteral("Lullet"), message);
+}
+
+void ShellHost::makeReminderPopOver(ReminderInfo* item, ReminderInfo* previous)
+{
+    if (!m_app || gone(item) || gone(previous))
+        return;
+    m_status->show(
+        [this, item, previous] { return new ReminderViewController(*m_app, item, previous); });
+}
+
+void ShellHost::makeIdleAlertPopOver(Date since, bool autoPromptMode)
+{
+    if (!m_app)
+        return;
+    // An idle question already on screen goes on counting instead of being replaced.
+    const Popover* open = m_status->popover();
+    if (open && open->isShown() && qobject_cast<AlertViewController*>(open->content())) {
+        m_app->notifCenter().post(notification::onIdleTimeExtended, autoPromptMode);
+        return;
+    }
+    m_status->show([this, since, autoPromptMode] {
+        return new AlertViewController(*m_app, since, autoPromptMode);
+    });
+}
+
+void ShellHost::makeTimeOverPopOver(ReminderInfo* item)
+{
+    if (!m_app || gone(item))
+        return;
+    m_status->show([this, item] { return new TimeoverAlertViewController(*m_app, item); });
+}
+
+void ShellHost::makeTODOPopOver(ReminderInfo* item)
+{
+    if (!m_app || gone(item))
+        return;
+    m_status->show([this, item] { return new LulletAlertViewController(*m_app, item); });
+}
+
+void ShellHost::closePopover()
+{
+    m_status->closePopover();
+}
+
+void ShellHost::closePopoverImmediate()
+{
+    m_status->closePopoverImmediate();
 }
 
 } // namespace lullet

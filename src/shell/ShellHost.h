@@ -4,31 +4,45 @@
 
 #include <QObject>
 
-class QSystemTrayIcon;
-
 namespace lullet {
 
+class AppDelegate;
 class MainWindow;
+class StatusItem;
 
-// The windows behind the core's prompt interface: the main window and the status item.
+// The windows behind the core's prompt interface: the main window, the status item and its
+// popover, the prompts.
 class ShellHost final : public QObject, public PromptHost {
     Q_OBJECT
 public:
     explicit ShellHost(MainWindow& window, QObject* parent = nullptr);
     ~ShellHost() override;
 
+    // The prompts act on the application's records; the controller is made after its host.
+    void attach(AppDelegate& app) { m_app = &app; }
+    StatusItem& statusItem() { return *m_status; }
+
     void openStatusMenu() override;
     void prepareMainWindow(bool welcomeDone, bool locked) override;
     void bringMainWindowForward(const std::function<void()>& whenShown) override;
     bool askQuitAnyway(const QString& message, const QString& information) override;
     void presentError(const QString& message) override;
+    void makeReminderPopOver(ReminderInfo* item, ReminderInfo* previous) override;
+    void makeIdleAlertPopOver(Date since, bool autoPromptMode) override;
+    void makeTimeOverPopOver(ReminderInfo* item) override;
+    void makeTODOPopOver(ReminderInfo* item) override;
+    void closePopover() override;
+    void closePopoverImmediate() override;
 
 Q_SIGNALS:
     void quitRequested();
 
 private:
+    void showRunningReminders();
+
     MainWindow& m_window;
-    QSystemTrayIcon* m_tray = nullptr;
+    StatusItem* m_status;
+    AppDelegate* m_app = nullptr;
 };
 
 } // namespace lullet

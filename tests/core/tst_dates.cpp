@@ -352,6 +352,9 @@ private Q_SLOTS:
 
             const Date other(d.timeIntervalSince1970() + (i % 2 ? 1 : -1) * (i % 100000));
             const DateComponents a = d.components();
+            QCOMPARE(d.hour(), *a.hour);
+            QCOMPARE(d.minute(), *a.minute);
+            QCOMPARE(d.seconds(), *a.second);
             const DateComponents b = other.components();
             QCOMPARE(d.isEqualToDateIgnoringTime(other),
                      a.year == b.year && a.month == b.month && a.day == b.day);

@@ -34,6 +34,41 @@ public:
     }
     void presentError(const QString& message) override { errors << message; }
 
+    struct Prompt {
+        QString kind;
+        ReminderInfo* item = nullptr;
+        ReminderInfo* previous = nullptr;
+        Date since;
+        bool autoPromptMode = false;
+    };
+    void makeReminderPopOver(ReminderInfo* item, ReminderInfo* previous) override
+    {
+        prompts.push_back({QStringLiteral("reminder"), item, previous, {}, false});
+    }
+    void makeIdleAlertPopOver(Date since, bool autoPromptMode) override
+    {
+        prompts.push_back({QStringLiteral("idle"), nullptr, nullptr, since, autoPromptMode});
+    }
+    void makeTimeOverPopOver(ReminderInfo* item) override
+    {
+        prompts.push_back({QStringLiteral("timeOver"), item, nullptr, {}, false});
+    }
+    void makeTODOPopOver(ReminderInfo* item) override
+    {
+        prompts.push_back({QStringLiteral("todo"), item, nullptr, {}, false});
+    }
+    void closePopover() override { calls << QStringLiteral("closePopover"); }
+    void closePopoverImmediate() override { calls << QStringLiteral("closePopoverImmediate"); }
+
+    QStringList promptKinds() const
+    {
+        QStringList kinds;
+        for (const Prompt& p : prompts)
+            kinds << p.kind;
+        return kinds;
+    }
+
+    std::vector<Prompt> prompts;
     QStringList calls;
     QStringList questions;
     QStringList errors;

@@ -10,6 +10,7 @@
 #include "core/store/ObjectContext.h"
 #include "core/store/StoreStack.h"
 #include "core/text/LocalizedText.h"
+#include "monitor/Monitor.h"
 #include "scheduling/DefaultCatalogue.h"
 #include "scheduling/LulletGenerator.h"
 #include "scheduling/ScheduleNotes.h"
@@ -69,6 +70,7 @@ AppDelegate::AppDelegate(const Services& services, QObject* parent)
     , m_scheduleNotes(std::make_unique<ScheduleNotes>(m_clock, *m_schedules, *m_workingHours))
     , m_generator(std::make_unique<LulletGenerator>(*this))
     , m_catalogue(std::make_unique<DefaultCatalogue>(*this))
+    , m_monitor(std::make_unique<Monitor>(*this, m_host))
 {
 }
 
@@ -123,7 +125,12 @@ void AppDelegate::applicationWillFinishLaunching()
     }
     m_host.prepareMainWindow(welcomeDone, !isLogin);
 
-    m_host.bringMainWindowForward({});
+    // The idle question meets the user right after the window appears.
+    QPointer<AppDelegate> self(this);
+    m_host.bringMainWindowForward([self] {
+        if (self && !self->objReminderRunningNow)
+            self->m_monitor->doPromptExternally();
+    });
 }
 
 void AppDelegate::applicationDidFinishLaunching()
@@ -301,7 +308,7 @@ void AppDelegate::importedUbiquitousContentChanges(const std::function<void(Obje
 
 void AppDelegate::doMonitorTime()
 {
-    post(notification::onMonitoringDone);
+    m_monitor->doMonitorTime();
 }
 
 bool AppDelegate::isMonitorTimerRunning() const

@@ -22,6 +22,7 @@ class Clock;
 class DefaultCatalogue;
 class DisplaySleepInhibitor;
 class LulletGenerator;
+class Monitor;
 class ScheduleNotes;
 class WorkingHours;
 class funcGetData;
@@ -102,10 +103,12 @@ public:
     ScheduleNotes& scheduleNotes() { return *m_scheduleNotes; }
     LulletGenerator& generator() { return *m_generator; }
     DefaultCatalogue& catalogue() { return *m_catalogue; }
+    Monitor& monitor() { return *m_monitor; }
 
     const Clock& clock() const { return m_clock; }
     UserDefaults& defaults() { return m_defaults; }
     NotificationCenter& notifCenter() { return m_notifCenter; }
+    PromptHost& host() { return m_host; }
     bool isMonitorTimerRunning() const;
 
     // Shared state, read and written by the parts of the program.
@@ -127,6 +130,8 @@ public:
     // The last prompt of any kind, or the last event that counts as one: the clock of idle
     // detection.
     std::optional<Date> dtLastAnyALertOn;
+    // The start of the gap of an idle question that went unanswered, handed on to the next one.
+    std::optional<Date> dtLastUnrepliedTime;
     bool bIsCoreDataCorrupted = false;
 
 private:
@@ -144,6 +149,7 @@ private:
     std::unique_ptr<ScheduleNotes> m_scheduleNotes;
     std::unique_ptr<LulletGenerator> m_generator;
     std::unique_ptr<DefaultCatalogue> m_catalogue;
+    std::unique_ptr<Monitor> m_monitor;
 };
 
 } // namespace lullet

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "core/dates/Date.h"
+
 #include <QString>
 
 #include <functional>
 
 namespace lullet {
+
+class ReminderInfo;
 
 // What the application controller needs of the windows, implemented by the shell. Tests plug in
 // a recording fake, so the controller runs without any window.
@@ -23,6 +27,22 @@ public:
     virtual bool askQuitAnyway(const QString& message, const QString& information) = 0;
     // The application's presentation of an error it cannot handle itself.
     virtual void presentError(const QString& message) = 0;
+
+    // The four prompts. One prompt is on screen at a time: a new one replaces the open one
+    // after it has closed.
+    // A scheduled item is due; `previous` is the item still running, if any.
+    virtual void makeReminderPopOver(ReminderInfo* item, ReminderInfo* previous) = 0;
+    // Nothing ran since `since`: what was the user doing? In the automatic mode: what now?
+    virtual void makeIdleAlertPopOver(Date since, bool autoPromptMode) = 0;
+    // The running item's time is over.
+    virtual void makeTimeOverPopOver(ReminderInfo* item) = 0;
+    // A to-do's moment has come.
+    virtual void makeTODOPopOver(ReminderInfo* item) = 0;
+    // Closes the open prompt with its animation; the shell still counts it as open until the
+    // next prompt replaces it.
+    virtual void closePopover() = 0;
+    // Closes the open prompt at once and forgets it.
+    virtual void closePopoverImmediate() = 0;
 };
 
 } // namespace lullet

@@ -81,6 +81,14 @@ double localDayNumber(Date d)
     return std::floor((ms + ZoneOffsets::spanAt(ms).offset) / msPerDay);
 }
 
+// Milliseconds since local midnight, whole.
+qint64 localMillisOfDay(Date d)
+{
+    const double ms = std::floor(d.timeIntervalSince1970() * 1000.0);
+    const double local = ms + ZoneOffsets::spanAt(ms).offset;
+    return qint64(local - std::floor(local / msPerDay) * msPerDay);
+}
+
 qint64 truncated(double value)
 {
     const double t = std::trunc(value);
@@ -475,19 +483,21 @@ DateComponents Date::components() const
     return c;
 }
 
+// The time-of-day fields are the local time's remainder within its day, exactly as the calendar
+// computes them, without a full field computation.
 int Date::seconds() const
 {
-    return field(calendarAt(*this), UCAL_SECOND);
+    return int(localMillisOfDay(*this) / 1000) % 60;
 }
 
 int Date::minute() const
 {
-    return field(calendarAt(*this), UCAL_MINUTE);
+    return int(localMillisOfDay(*this) / 60000) % 60;
 }
 
 int Date::hour() const
 {
-    return field(calendarAt(*this), UCAL_HOUR_OF_DAY);
+    return int(localMillisOfDay(*this) / 3600000);
 }
 
 int Date::day() const

@@ -34,7 +34,10 @@ void generateStore(StoreStack& store, Date now, int items, int rules, int projec
         r->setIsToDoOrJob(i % 4 == 0);
         r->setShouldRemind(true);
     }
-    std::uniform_int_distribution<int> offsetMinutes(-365 * 24 * 60, 365 * 24 * 60);
+    // Two years of history up to now, nearly all of it done, and a few items planned ahead:
+    // about one item in twenty is still open, as in a store that has been used for a while.
+    std::uniform_int_distribution<int> pastMinutes(-2 * 365 * 24 * 60, -1);
+    std::uniform_int_distribution<int> aheadMinutes(1, 30 * 24 * 60);
     for (int i = 0; i < items; ++i) {
         ReminderInfo* r = ctx.insertReminderInfo();
         r->setTitle(QStringLiteral("Item %1").arg(i));
@@ -42,17 +45,17 @@ void generateStore(StoreStack& store, Date now, int items, int rules, int projec
         r->setUniqueId(
             i % 4 ? QStringLiteral("<to make>")
                   : QStringLiteral("Rule %1_%2").arg(i % rules).arg(1'700'000'000 + i % rules));
-        const Date due = now.dateByAddingMinutes(offsetMinutes(rng));
+        const bool ahead = i % 100 == 0;
+        const Date due = now.dateByAddingMinutes(ahead ? aheadMinutes(rng) : pastMinutes(rng));
         r->setDtReminder(due);
         r->setDurationHr(i % 2);
         r->setDurationMin((i * 7) % 60);
         r->setShouldRemind(i % 3 != 0);
         r->setRemindBefore(i % 4);
         r->setRepeatOption(i % 5 == 0 ? -5 : 0);
-        const bool past = due < now;
-        r->setHasFinished(past && i % 10 != 0);
+        r->setHasFinished(!ahead && i % 25 != 0);
         r->setHasStarted(false);
-        r->setElapsedTime(past ? (i * 13) % 3600 : 0);
+        r->setElapsedTime(ahead ? 0 : (i * 13) % 3600);
         r->setTimeLimit(3600);
         if (i % 3 == 0)
             r->setToProject(made[std::size_t(i % projects)]);

@@ -69,6 +69,11 @@ bool LulletGenerator::standsInTheWay(const QString& uniqueId,
         return isOpen(item) && (!window || inWindow(item, window->from, window->to));
     };
     if (m_batchDepth > 0) {
+        // Nearly always the rule's own occurrence carries exactly its id: try that first.
+        if (const auto own = m_openById.constFind(uniqueId);
+            own != m_openById.cend() && std::any_of(own->begin(), own->end(), qualifies) &&
+            matcher.matches(own.key()))
+            return true;
         for (auto it = m_openById.cbegin(); it != m_openById.cend(); ++it) {
             if (std::any_of(it->begin(), it->end(), qualifies) && matcher.matches(it.key()))
                 return true;

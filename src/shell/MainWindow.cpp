@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMenuBar>
+#include <QResizeEvent>
 #include <QScreen>
 
 namespace lullet {
@@ -20,6 +21,12 @@ MainWindow::MainWindow(QWidget* parent)
     QAction* quit = file->addAction(tr("&Quit Lullet"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &MainWindow::quitRequested);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    Q_EMIT resized(size());
 }
 
 void MainWindow::applyWelcomeSizing()

@@ -17,6 +17,10 @@ public:
 
 Q_SIGNALS:
     void quitRequested();
+    void resized(QSize size);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 };
 
 } // namespace lullet

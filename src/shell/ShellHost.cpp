@@ -34,6 +34,10 @@ ShellHost::ShellHost(MainWindow& window, QObject* parent)
     , m_window(window)
     , m_status(new StatusItem(window, this))
 {
+    connect(&m_window, &MainWindow::resized, this, [this](QSize size) {
+        if (m_app)
+            m_app->notifCenter().post(notification::onWindowResize, size);
+    });
     connect(m_status, &StatusItem::clicked, this, [this] {
         m_status->togglePopover([this]() -> QWidget* {
             auto* view = new RunningRemindersView(*m_app);

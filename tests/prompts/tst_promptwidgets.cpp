@@ -194,6 +194,14 @@ private Q_SLOTS:
         auto* alert = qobject_cast<AlertViewController*>(idle->content());
         QVERIFY(alert->prompt().bIsAutoPrompt);
 
+        // Resizing the window is announced with the new size.
+        QSize announced;
+        m_app->center.addObserver(&listener, notification::onWindowResize,
+                                  [&](const QVariant& o) { announced = o.toSize(); });
+        window.resize(640, 610);
+        window.show();
+        QTRY_COMPARE(announced, window.size());
+
         // Dropped unanswered, it hands its start to the next question.
         shell.closePopoverImmediate();
         QVERIFY(!shell.statusItem().popover());

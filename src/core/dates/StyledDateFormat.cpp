@@ -10,9 +10,11 @@
 #include <unicode/reldatefmt.h>
 #include <unicode/timezone.h>
 
+#include <array>
 #include <cmath>
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace lullet {
 
@@ -40,6 +42,8 @@ struct ThreadFormats {
     int generation = 0;
     std::map<std::pair<DateStyle, DateStyle>, std::unique_ptr<icu::DateFormat>> formats;
     std::unique_ptr<icu::RelativeDateTimeFormatter> relative;
+    // The words for two days back to two days ahead, once looked up.
+    std::array<std::optional<QString>, 5> dayWords;
     icu::UnicodeString dateTimeGlue;
 
     void refresh()
@@ -49,6 +53,7 @@ struct ThreadFormats {
         generation = CalendarContext::generation();
         formats.clear();
         relative.reset();
+        dayWords.fill(std::nullopt);
         UErrorCode status = U_ZERO_ERROR;
         const icu::Locale locale = CalendarContext::locale();
         std::unique_ptr<icu::DateTimePatternGenerator> generator(
@@ -107,7 +112,12 @@ QString StyledDateFormat::relativeDayWord(int dayOffset)
                                                     UDAT_DIRECTION_NEXT_2};
     if (dayOffset < -2 || dayOffset > 2)
         return {};
-    icu::RelativeDateTimeFormatter* relative = threadFormats().relativeFormatter();
+    ThreadFormats& formats = threadFormats();
+    std::optional<QString>& cached = formats.dayWords[std::size_t(dayOffset + 2)];
+    if (cached)
+        return *cached;
+    cached = QString();
+    icu::RelativeDateTimeFormatter* relative = formats.relativeFormatter();
     if (!relative)
         return {};
     UErrorCode status = U_ZERO_ERROR;
@@ -119,6 +129,7 @@ QString StyledDateFormat::relativeDayWord(int dayOffset)
     // A word that stands alone starts with a capital, whatever the locale data says.
     if (!word.isEmpty())
         word[0] = word[0].toUpper();
+    cached = word;
     return word;
 }
 

@@ -64,5 +64,8 @@ int main(int argc, char* argv[])
                          else if (state == Qt::ApplicationInactive)
                              delegate.applicationDidResignActive();
                      });
-    return app.exec();
+    const int status = app.exec();
+    // The open prompt acts on the controller: it goes first.
+    host.detach();
+    return status;
 }

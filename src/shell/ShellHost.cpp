@@ -53,6 +53,12 @@ ShellHost::ShellHost(MainWindow& window, QObject* parent)
 
 ShellHost::~ShellHost() = default;
 
+void ShellHost::detach()
+{
+    m_status->dropPopover();
+    m_app = nullptr;
+}
+
 void ShellHost::openStatusMenu()
 {
     auto* menu = new QMenu(&m_window);

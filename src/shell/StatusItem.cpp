@@ -20,7 +20,13 @@ StatusItem::StatusItem(MainWindow& window, QObject* parent)
 
 StatusItem::~StatusItem()
 {
+    dropPopover();
+}
+
+void StatusItem::dropPopover()
+{
     delete m_popover;
+    m_popover = nullptr;
 }
 
 void StatusItem::openStatusMenu(QMenu* menu)

@@ -36,6 +36,8 @@ public:
     void closePopover();
     // Closes at once and forgets the popover.
     void closePopoverImmediate();
+    // Destroys the popover and its content now; never from inside the content.
+    void dropPopover();
 
     Popover* popover() const { return m_popover; }
     // Where the popover hangs: the tray icon, else the last click on it, else the top right.

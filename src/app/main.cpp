@@ -6,9 +6,12 @@
 #include "shell/MainWindow.h"
 #include "shell/ScreenSaverInhibitor.h"
 #include "shell/ShellHost.h"
+#include "shell/SingleInstance.h"
 #include "shell/TerminationSignals.h"
 
 #include <QApplication>
+
+#include <cstdio>
 
 using namespace lullet;
 
@@ -20,6 +23,23 @@ int main(int argc, char* argv[])
     QApplication::setDesktopFileName(QStringLiteral("lullet"));
     // The program lives in the status item; closing the window only hides it.
     app.setQuitOnLastWindowClosed(false);
+
+    // The one option: a desktop shortcut's request to add a task from anywhere.
+    bool quickAdd = false;
+    const QStringList arguments = QApplication::arguments().mid(1);
+    for (const QString& argument : arguments) {
+        if (argument != QStringLiteral("--quick-add")) {
+            std::fprintf(stderr, "Usage: lullet [--quick-add]\n");
+            return 2;
+        }
+        quickAdd = true;
+    }
+    // One Lullet per user: a second launch hands its request to the first and ends.
+    SingleInstance instance(SingleInstance::defaultSocketPath());
+    const QString request = QString::fromLatin1(quickAdd ? SingleInstance::quickAddRequest
+                                                         : SingleInstance::showRequest);
+    if (instance.forward(request) || !instance.listen())
+        return 0;
 
     SystemClock clock;
     UserDefaults defaults(UserDefaults::defaultPath());
@@ -35,6 +55,15 @@ int main(int argc, char* argv[])
         return 1;
     delegate.applicationWillFinishLaunching();
     delegate.applicationDidFinishLaunching();
+
+    QObject::connect(&instance, &SingleInstance::requestReceived, &app, [&](const QString& r) {
+        if (r == QLatin1String(SingleInstance::quickAddRequest))
+            host.onQuickAdd();
+        else if (r == QLatin1String(SingleInstance::showRequest))
+            delegate.applicationShouldHandleReopen();
+    });
+    if (quickAdd)
+        host.onQuickAdd();
 
     bool terminated = false;
     const auto quit = [&] {

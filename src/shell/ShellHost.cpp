@@ -1,5 +1,6 @@
 #include "shell/ShellHost.h"
 
+#include "authoring/QuickAddViewController.h"
 #include "core/app/AppDelegate.h"
 #include "core/notify/NotificationCenter.h"
 #include "core/notify/Notifications.h"
@@ -12,9 +13,12 @@
 #include "shell/RunningRemindersView.h"
 #include "shell/StatusItem.h"
 
+#include <QGuiApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 
 namespace lullet {
@@ -56,6 +60,7 @@ ShellHost::~ShellHost() = default;
 void ShellHost::detach()
 {
     m_status->dropPopover();
+    delete windowQuickAdd;
     m_app = nullptr;
 }
 
@@ -138,6 +143,49 @@ void ShellHost::makeTODOPopOver(ReminderInfo* item)
     if (!m_app || gone(item))
         return;
     m_status->show([this, item] { return new LulletAlertViewController(*m_app, item); });
+}
+
+void ShellHost::onQuickAdd()
+{
+    if (!m_app)
+        return;
+    NotificationCenter& center = m_app->notifCenter();
+    if (m_window.isVisible() && center.observerCount(notification::doAskQuickAdd) > 0)
+        center.post(notification::doAskQuickAdd);
+    else
+        callQuickAdd();
+}
+
+void ShellHost::callQuickAdd()
+{
+    if (!m_app)
+        return;
+    if (!windowQuickAdd) {
+        windowQuickAdd = new QuickAddViewController(*m_app);
+        windowQuickAdd->setAttribute(Qt::WA_DeleteOnClose, false);
+        windowQuickAdd->setWindowFlags(Qt::Window | Qt::WindowStaysOnTopHint);
+        connect(windowQuickAdd, &QuickAddViewController::added, this, &ShellHost::dismissquickAdd);
+        connect(this, &QObject::destroyed, windowQuickAdd, &QObject::deleteLater);
+        // Where a launcher would be: centred, in the upper third of the screen.
+        windowQuickAdd->adjustSize();
+        if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+            const QRect area = screen->availableGeometry();
+            windowQuickAdd->move(area.center().x() - windowQuickAdd->width() / 2,
+                                 area.top() + area.height() / 3 - windowQuickAdd->height() / 2);
+        }
+    }
+    windowQuickAdd->show();
+    windowQuickAdd->raise();
+    windowQuickAdd->activateWindow();
+    windowQuickAdd->txtTaskQuickAdd->setFocus();
+}
+
+void ShellHost::dismissquickAdd()
+{
+    if (!windowQuickAdd)
+        return;
+    windowQuickAdd->hide();
+    windowQuickAdd->txtTaskQuickAdd->clear();
 }
 
 void ShellHost::closePopover()

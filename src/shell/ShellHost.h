@@ -3,11 +3,13 @@
 #include "core/app/PromptHost.h"
 
 #include <QObject>
+#include <QPointer>
 
 namespace lullet {
 
 class AppDelegate;
 class MainWindow;
+class QuickAddViewController;
 class StatusItem;
 
 // The windows behind the core's prompt interface: the main window, the status item and its
@@ -36,15 +38,20 @@ public:
     void closePopover() override;
     void closePopoverImmediate() override;
 
+    // Quick add from anywhere: the main view's own bar when the window is up and has one, else
+    // the quick-add window.
+    void onQuickAdd();
+    void callQuickAdd();
+    void dismissquickAdd();
+
 Q_SIGNALS:
     void quitRequested();
 
 private:
-    void showRunningReminders();
-
     MainWindow& m_window;
     StatusItem* m_status;
     AppDelegate* m_app = nullptr;
+    QPointer<QuickAddViewController> windowQuickAdd;
 };
 
 } // namespace lullet

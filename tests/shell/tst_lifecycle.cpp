@@ -16,6 +16,12 @@ class TestLifecycle : public QObject {
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("HOME"), home);
+        // A runtime folder of its own: the test's Lullet must not meet the user's.
+        const QString runtime = QDir(home).filePath(QStringLiteral("runtime"));
+        QDir().mkpath(runtime);
+        QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                           QFileDevice::ExeOwner);
+        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime);
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
         for (const char* var : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
             env.remove(QString::fromLatin1(var));
@@ -46,6 +52,35 @@ private Q_SLOTS:
         QVERIFY(db.isOpen());
         QCOMPARE(db.queryText("PRAGMA quick_check").value_or(QString()), QStringLiteral("ok"));
         QCOMPARE(db.queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 0);
+    }
+
+    void aSecondLaunchHandsOverAndEnds()
+    {
+        QTemporaryDir home;
+        QProcess first;
+        first.setProcessEnvironment(environmentFor(home.path()));
+        first.start(QStringLiteral(LULLET_BINARY), {});
+        QVERIFY(first.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(
+            QFile::exists(QDir(home.path()).filePath(QStringLiteral("runtime/lullet.socket"))),
+            10000);
+        for (const QStringList& args :
+             {QStringList{}, QStringList{QStringLiteral("--quick-add")}}) {
+            QProcess second;
+            second.setProcessEnvironment(environmentFor(home.path()));
+            second.start(QStringLiteral(LULLET_BINARY), args);
+            QVERIFY(second.waitForFinished(10000));
+            QCOMPARE(second.exitCode(), 0);
+        }
+        QProcess wrong;
+        wrong.setProcessEnvironment(environmentFor(home.path()));
+        wrong.start(QStringLiteral(LULLET_BINARY), {QStringLiteral("--verbose")});
+        QVERIFY(wrong.waitForFinished(10000));
+        QCOMPARE(wrong.exitCode(), 2);
+        QCOMPARE(first.state(), QProcess::Running);
+        ::kill(pid_t(first.processId()), SIGTERM);
+        QVERIFY(first.waitForFinished(10000));
+        QCOMPARE(first.exitCode(), 0);
     }
 
     void aFileInPlaceOfTheDataFolderEndsAtOnce()

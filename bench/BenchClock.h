@@ -38,20 +38,4 @@ inline void report(const char* what, double nanos, double targetNanos)
                 100.0 * nanos / targetNanos);
 }
 
-// The process's resident size now, in MiB, from /proc.
-inline double residentMiB()
-{
-    std::FILE* status = std::fopen("/proc/self/status", "r");
-    if (!status)
-        return 0;
-    char line[256];
-    double kib = 0;
-    while (std::fgets(line, sizeof line, status)) {
-        if (std::sscanf(line, "VmRSS: %lf kB", &kib) == 1)
-            break;
-    }
-    std::fclose(status);
-    return kib / 1024.0;
-}
-
 } // namespace lullet::bench

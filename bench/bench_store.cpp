@@ -44,13 +44,6 @@ int main(int argc, char* argv[])
         QFile::copy(flushed.storePath(), args[at + 1]);
     }
 
-    {
-        const double before = residentMiB();
-        StoreStack first(dir.path(), clock);
-        first.build();
-        std::printf("%-48s %10.1f MiB\n", "resident size added by loading the store",
-                    residentMiB() - before);
-    }
 
     // Open and load: the folder, the file, the checks and every record, as at launch.
     const double load = medianNanos(7, [&] {

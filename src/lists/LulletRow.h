@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+namespace lullet {
+
+class ReminderInfo;
+
+// One row of a list: the item it stands for and the texts shown for it, rebuilt from the item at
+// every change of it (RowValues::setValues). A row never keeps state of its own.
+struct LulletRow {
+    enum Type { Item = 0, DayHeading = 2 };
+
+    ReminderInfo* representedObject = nullptr;
+    int type = Item;
+    QString title;
+    bool isToDo = false;
+    // "10:15 AM", "In 2 days at 10:15 AM", "Overdue by 1 day at ...", "Due from 1 hr 30 min at ..."
+    QString time;
+    bool dueOrOverdue = false;
+    QString timeUsed;
+    int timeUsedInSeconds = 0;
+    QString duration;
+    QString projectName;
+};
+
+} // namespace lullet

@@ -44,7 +44,6 @@ int main(int argc, char* argv[])
         QFile::copy(flushed.storePath(), args[at + 1]);
     }
 
-
     // Open and load: the folder, the file, the checks and every record, as at launch.
     const double load = medianNanos(7, [&] {
         StoreStack store(dir.path(), clock);

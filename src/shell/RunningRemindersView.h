@@ -3,14 +3,13 @@
 #include <QWidget>
 
 class QLabel;
-class QListWidget;
 
 namespace lullet {
 
 class AppDelegate;
 
-// What the status item shows when clicked: the item running now, with its time, and today's
-// open items. The full lists come with the main window's views.
+// What the status item shows when clicked: the item running now, with its time, and the day's
+// list without its header.
 class RunningRemindersView final : public QWidget {
     Q_OBJECT
 public:
@@ -22,11 +21,9 @@ Q_SIGNALS:
 
 private:
     void refreshRunning();
-    void refreshList();
 
     AppDelegate& m_app;
     QLabel* m_running;
-    QListWidget* m_list;
 };
 
 } // namespace lullet

@@ -4,6 +4,7 @@
 #include "core/app/AppDelegate.h"
 #include "core/notify/NotificationCenter.h"
 #include "core/notify/Notifications.h"
+#include "lists/LulletListViewController.h"
 #include "prompts/AlertViewController.h"
 #include "prompts/LulletAlertViewController.h"
 #include "prompts/ReminderViewController.h"
@@ -57,6 +58,11 @@ ShellHost::ShellHost(MainWindow& window, QObject* parent)
 
 ShellHost::~ShellHost() = default;
 
+void ShellHost::attach(AppDelegate& app)
+{
+    m_app = &app;
+}
+
 void ShellHost::detach()
 {
     m_status->dropPopover();
@@ -77,6 +83,10 @@ void ShellHost::openStatusMenu()
 
 void ShellHost::prepareMainWindow(bool welcomeDone, bool locked)
 {
+    // The records are loaded by now. Until the main view with its segments exists, the window
+    // shows the day's list.
+    if (m_app && !qobject_cast<LulletListViewController*>(m_window.centralWidget()))
+        m_window.setCentralWidget(new LulletListViewController(*m_app, {}, true));
     if (welcomeDone)
         m_window.applyWorkingSizing(locked);
     else

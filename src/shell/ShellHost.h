@@ -21,7 +21,7 @@ public:
     ~ShellHost() override;
 
     // The prompts act on the application's records; the controller is made after its host.
-    void attach(AppDelegate& app) { m_app = &app; }
+    void attach(AppDelegate& app);
     // Drops the open prompt while the controller it acts on still exists; called at the end.
     void detach();
     StatusItem& statusItem() { return *m_status; }

@@ -1,0 +1,133 @@
+#include "lists/LulletListModel.h"
+
+#include "core/app/AppDelegate.h"
+#include "lists/RowValues.h"
+
+#include <QColor>
+#include <QFont>
+
+namespace lullet {
+
+LulletListModel::LulletListModel(AppDelegate& app, LulletListBuilder::Scope scope,
+                                 bool withProjectName, QObject* parent)
+    : QAbstractTableModel(parent)
+    , m_app(app)
+    , m_scope(std::move(scope))
+    , m_withProjectName(withProjectName)
+{
+    loadLulletLists();
+}
+
+void LulletListModel::loadLulletLists()
+{
+    beginResetModel();
+    mArrLulletLists.clear();
+    for (ReminderInfo* item : LulletListBuilder::prepareLulletListArray(m_scope, m_app))
+        mArrLulletLists.push_back(RowValues::makeRow(item, m_app, m_withProjectName));
+    endResetModel();
+}
+
+void LulletListModel::refreshTexts()
+{
+    for (LulletRow& row : mArrLulletLists)
+        RowValues::setValues(row, m_app, m_withProjectName);
+    if (!mArrLulletLists.empty())
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+}
+
+void LulletListModel::refreshItem(const ReminderInfo* item)
+{
+    const int row = rowOf(item);
+    if (row < 0)
+        return;
+    RowValues::setValues(mArrLulletLists[std::size_t(row)], m_app, m_withProjectName);
+    Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
+}
+
+int LulletListModel::rowOf(const ReminderInfo* item) const
+{
+    for (std::size_t i = 0; i < mArrLulletLists.size(); ++i) {
+        if (mArrLulletLists[i].representedObject == item)
+            return int(i);
+    }
+    return -1;
+}
+
+int LulletListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(mArrLulletLists.size());
+}
+
+int LulletListModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant LulletListModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= rowCount())
+        return {};
+    const LulletRow& row = mArrLulletLists[std::size_t(index.row())];
+    const ReminderInfo* item = row.representedObject;
+    switch (role) {
+    case ItemRole:
+        return QVariant::fromValue(row.representedObject);
+    case DueRole:
+        return row.dueOrOverdue;
+    case ProjectRole:
+        return row.projectName;
+    case RunningRole:
+        return item && item == m_app.objReminderRunningNow;
+    case FinishedRole:
+        return item && item->hasFinished().value_or(false);
+    case Qt::DisplayRole:
+        switch (index.column()) {
+        case TitleColumn:
+            return row.title;
+        case TimeColumn:
+            return row.time;
+        case DurationColumn:
+            return row.duration;
+        case UsedColumn:
+            return row.timeUsed;
+        default:
+            return {};
+        }
+    case Qt::ForegroundRole:
+        // Due and overdue times stand out in the warning colour.
+        if (index.column() == TimeColumn && row.dueOrOverdue)
+            return QColor(0xFC, 0x72, 0x74);
+        return {};
+    case Qt::FontRole:
+        if (index.column() == TitleColumn && item && item->hasFinished().value_or(false)) {
+            QFont font;
+            font.setStrikeOut(true);
+            return font;
+        }
+        return {};
+    default:
+        return {};
+    }
+}
+
+QVariant LulletListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    switch (section) {
+    case StartColumn:
+        return QString();
+    case TitleColumn:
+        return tr("Lullet");
+    case TimeColumn:
+        return tr("Time");
+    case DurationColumn:
+        return tr("Duration");
+    case UsedColumn:
+        return tr("Used");
+    default:
+        return {};
+    }
+}
+
+} // namespace lullet

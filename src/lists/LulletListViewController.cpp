@@ -1,0 +1,321 @@
+#include "lists/LulletListViewController.h"
+
+#include "authoring/DatePickerViewController.h"
+#include "core/app/AppDelegate.h"
+#include "core/dates/Clock.h"
+#include "core/notify/NotificationCenter.h"
+#include "core/notify/Notifications.h"
+#include "lists/ListActions.h"
+#include "lists/LulletListModel.h"
+#include "lists/RowValues.h"
+#include "lists/TaskStats.h"
+#include "monitor/Postponing.h"
+#include "toolkit/ButtonStyles.h"
+#include "toolkit/CircularBarView.h"
+#include "toolkit/HexColor.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace lullet {
+
+namespace {
+
+const QString ongoingColor = QStringLiteral("FC7274");
+const QString completedColor = QStringLiteral("A0CFAB");
+
+QLabel* countLabel(QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
+}
+
+} // namespace
+
+LulletListViewController::LulletListViewController(AppDelegate& app, LulletListBuilder::Scope scope,
+                                                   bool withHeader, QWidget* parent)
+    : QWidget(parent)
+    , m_app(app)
+    , m_withHeader(withHeader)
+    , m_model(new LulletListModel(app, scope, withHeader && !scope.project, this))
+    , m_table(new QTableView(this))
+    , m_viewNoData(new QLabel(tr("Nothing here. Enjoy the calm."), this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(withHeader ? 16 : 0, withHeader ? 12 : 0, withHeader ? 16 : 0, 0);
+    if (withHeader) {
+        auto* header = new QHBoxLayout;
+        auto* texts = new QVBoxLayout;
+        lblHeaderName = new QLabel(scope.segment, this);
+        QFont big = lblHeaderName->font();
+        big.setPointSizeF(big.pointSizeF() * 1.6);
+        big.setBold(true);
+        lblHeaderName->setFont(big);
+        texts->addWidget(lblHeaderName);
+        auto* counts = new QHBoxLayout;
+        lblTaskCountHead = countLabel(this);
+        lblCompletedCountHead = countLabel(this);
+        lblDueCountHead = countLabel(this);
+        lblTodayCountHead = countLabel(this);
+        for (QLabel* l :
+             {lblTaskCountHead, lblCompletedCountHead, lblDueCountHead, lblTodayCountHead})
+            counts->addWidget(l);
+        counts->addStretch();
+        texts->addLayout(counts);
+        lblTimeCompleted = countLabel(this);
+        texts->addWidget(lblTimeCompleted);
+        header->addLayout(texts, 1);
+        btnOngoingOrCompleted = new ButtonStyles(QString(), this);
+        btnOngoingOrCompleted->bNoHover = true;
+        header->addWidget(btnOngoingOrCompleted, 0, Qt::AlignVCenter);
+        circularView = new CircularBarView(this);
+        circularView->setColor(*HexColor::fromHex(ongoingColor));
+        circularView->setLineWidth(8);
+        circularView->setFixedSize(72, 72);
+        header->addWidget(circularView);
+        layout->addLayout(header);
+    }
+
+    m_table->setModel(m_model);
+    m_table->setObjectName(QStringLiteral("tblLulletList"));
+    m_table->setShowGrid(false);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(34);
+    m_table->horizontalHeader()->setSectionResizeMode(LulletListModel::TitleColumn,
+                                                      QHeaderView::Stretch);
+    m_table->horizontalHeader()->setSectionResizeMode(LulletListModel::StartColumn,
+                                                      QHeaderView::Fixed);
+    for (const int column : {int(LulletListModel::TimeColumn), int(LulletListModel::DurationColumn),
+                             int(LulletListModel::UsedColumn)})
+        m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    m_table->setWordWrap(false);
+    m_table->setFocusPolicy(Qt::NoFocus);
+    m_table->setColumnWidth(LulletListModel::StartColumn, 36);
+    m_table->horizontalHeader()->setVisible(withHeader);
+    if (!withHeader) {
+        m_table->hideColumn(LulletListModel::DurationColumn);
+        m_table->hideColumn(LulletListModel::UsedColumn);
+        m_table->setMinimumSize(380, 260);
+    }
+    m_table->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_table, &QWidget::customContextMenuRequested, this, [this](const QPoint& pos) {
+        const QModelIndex index = m_table->indexAt(pos);
+        // A click beside the rows opens nothing.
+        if (!index.isValid())
+            return;
+        m_table->selectRow(index.row());
+        auto* item = m_model->data(index, LulletListModel::ItemRole).value<ReminderInfo*>();
+        if (!item)
+            return;
+        QMenu* menu = buildMenu(item);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->popup(m_table->viewport()->mapToGlobal(pos));
+    });
+    layout->addWidget(m_table, 1);
+    m_viewNoData->setAlignment(Qt::AlignCenter);
+    m_viewNoData->setForegroundRole(QPalette::PlaceholderText);
+    layout->addWidget(m_viewNoData, 1);
+
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+        placeStartButtons();
+        m_table->selectionModel()->clear();
+        const bool empty = m_model->rowCount() == 0;
+        m_viewNoData->setVisible(empty);
+        m_table->setVisible(!empty);
+        updateStatsDisplay();
+    });
+
+    NotificationCenter& center = m_app.notifCenter();
+    for (const QLatin1String name :
+         {notification::onItemAddedOrEdited, notification::onQuickAddFromPrompt,
+          notification::onReminderPostponed, notification::onReminderStarted,
+          notification::onReminderFinished, notification::onReminderExtended,
+          notification::preRemoveInOther, notification::onItemDeleted})
+        center.addObserver(this, name, [this](const QVariant&) { loadLulletLists(); });
+    center.addObserver(this, notification::updateDueStatusDisplay, [this](const QVariant&) {
+        m_model->refreshTexts();
+        updateStatsDisplay();
+    });
+    center.addObserver(this, notification::onMonitoringDone,
+                       [this](const QVariant&) { onMonitoringDone(); });
+
+    loadLulletLists();
+}
+
+void LulletListViewController::loadLulletLists()
+{
+    m_model->loadLulletLists();
+}
+
+void LulletListViewController::placeStartButtons()
+{
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const QModelIndex index = m_model->index(row, LulletListModel::StartColumn);
+        auto* item = m_model->data(index, LulletListModel::ItemRole).value<ReminderInfo*>();
+        const bool running = item == m_app.objReminderRunningNow;
+        const bool finished = item && item->hasFinished().value_or(false);
+        auto* button = new QPushButton(finished  ? QStringLiteral("✓")
+                                       : running ? QStringLiteral("■")
+                                                 : QStringLiteral("▶"));
+        button->setFlat(true);
+        button->setEnabled(!finished);
+        button->setToolTip(running ? tr("Stop: it is done") : tr("Start"));
+        button->setObjectName(QStringLiteral("onStartStopLullet"));
+        connect(button, &QPushButton::clicked, this, [this, item] { onStartStopLullet(item); });
+        m_table->setIndexWidget(index, button);
+    }
+}
+
+void LulletListViewController::onStartStopLullet(ReminderInfo* item)
+{
+    if (!item || !item->hasContext())
+        return;
+    if (item == m_app.objReminderRunningNow) {
+        ListActions::finish(m_app, *item);
+        return;
+    }
+    if (ListActions::start(m_app, *item) != ListActions::StartResult::AnotherIsRunning)
+        return;
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Lullet"),
+                    ListActions::alreadyRunningMessage(), QMessageBox::NoButton, this);
+    box.setInformativeText(ListActions::alreadyRunningInformation());
+    QPushButton* start = box.addButton(tr("Start"), QMessageBox::AcceptRole);
+    box.addButton(tr("Cancel"), QMessageBox::RejectRole);
+    box.exec();
+    if (box.clickedButton() == start && item->hasContext())
+        ListActions::confirmStart(m_app, *item);
+}
+
+bool LulletListViewController::refusePostpone(ReminderInfo* item)
+{
+    if (item == m_app.objReminderRunningNow) {
+        QMessageBox::information(this, ListActions::cannotPostponeTitle(),
+                                 ListActions::cannotPostponeText());
+        return true;
+    }
+    // A finished item is silently not postponed.
+    return item->hasFinished().value_or(false);
+}
+
+void LulletListViewController::postponeWithPicker(ReminderInfo* item)
+{
+    if (refusePostpone(item))
+        return;
+    const QString id = QStringLiteral("postpone-%1").arg(quintptr(item));
+    auto* picker = new DatePickerViewController(
+        m_app, id, Postponing::panelBase(*item, m_app.clock()), m_app.clock().now(), this);
+    m_app.notifCenter().addObserver(
+        picker, notification::doSelectDate, [this, item, id](const QVariant& object) {
+            const QVariantList values = object.toList();
+            if (values.size() == 2 && values[0].toString() == id && item->hasContext())
+                Postponing::postponeToCustom(m_app, item, values[1].value<Date>());
+        });
+    picker->popUpBelow(m_table->viewport());
+}
+
+QMenu* LulletListViewController::buildMenu(ReminderInfo* item)
+{
+    auto* menu = new QMenu(this);
+    const bool running = item == m_app.objReminderRunningNow;
+    const bool finished = item->hasFinished().value_or(false);
+    if (!finished) {
+        connect(menu->addAction(running ? tr("Stop") : tr("Start")), &QAction::triggered, this,
+                [this, item] { onStartStopLullet(item); });
+        connect(menu->addAction(tr("Finish")), &QAction::triggered, this,
+                [this, item] { ListActions::finish(m_app, *item); });
+    }
+    // The reschedule choices, for an item neither finished nor running.
+    if (!finished && !item->hasStarted().value_or(false)) {
+        QMenu* later = menu->addMenu(tr("Postpone"));
+        const Date now = m_app.clock().now();
+        const std::pair<int, QString> choices[] = {
+            {Postponing::InThreeHours, tr("In 3 hours")},
+            {Postponing::ThisEvening, Postponing::eveningLabel(now, m_app.clock())},
+            {Postponing::Tomorrow, Postponing::nextDayLabel(now, m_app.clock())},
+            {Postponing::InTwoDays, Postponing::inTwoDaysLabel(now)},
+            {Postponing::ThisWeekend, Postponing::weekendLabel(now)},
+            {Postponing::NextWeek, tr("Next week")},
+            {Postponing::NextMonth, tr("In a month")},
+        };
+        for (const auto& [choice, label] : choices) {
+            const int tag = choice;
+            connect(later->addAction(label), &QAction::triggered, this,
+                    [this, item, tag] { Postponing::chooseInMenu(m_app, item, tag); });
+        }
+        later->addSeparator();
+        connect(later->addAction(tr("Pick a date…")), &QAction::triggered, this,
+                [this, item] { postponeWithPicker(item); });
+    }
+    menu->addSeparator();
+    QMenu* moveTo = menu->addMenu(tr("Move to"));
+    QMenu* duplicateTo = menu->addMenu(tr("Duplicate to"));
+    if (item->toProject()) {
+        connect(moveTo->addAction(tr("No Project")), &QAction::triggered, this,
+                [this, item] { ListActions::moveToProject(m_app, *item, QString(), true); });
+        connect(duplicateTo->addAction(tr("No Project")), &QAction::triggered, this,
+                [this, item] { ListActions::duplicateToProject(m_app, *item, QString(), true); });
+    }
+    for (const QString& name : ListActions::getProjectsName(m_app, item->toProject())) {
+        connect(moveTo->addAction(name), &QAction::triggered, this,
+                [this, item, name] { ListActions::moveToProject(m_app, *item, name, false); });
+        connect(duplicateTo->addAction(name), &QAction::triggered, this,
+                [this, item, name] { ListActions::duplicateToProject(m_app, *item, name, false); });
+    }
+    moveTo->setEnabled(!moveTo->isEmpty());
+    duplicateTo->setEnabled(!duplicateTo->isEmpty());
+    menu->addSeparator();
+    connect(menu->addAction(tr("Delete")), &QAction::triggered, this,
+            [this, item] { ListActions::deleteItem(m_app, *item); });
+    return menu;
+}
+
+void LulletListViewController::onMonitoringDone()
+{
+    if (const ReminderInfo* running = m_app.objReminderRunningNow) {
+        m_model->refreshItem(running);
+        updateStatsDisplay();
+    }
+}
+
+void LulletListViewController::updateStatsDisplay()
+{
+    if (!m_withHeader)
+        return;
+    const TaskStats s = TaskStats::getTaskStats(m_model->rows(), m_app);
+    int due = 0;
+    for (const LulletRow& row : m_model->rows())
+        due += row.dueOrOverdue ? 1 : 0;
+    lblTaskCountHead->setText(tr("Tasks: %1").arg(s.totalCount));
+    lblCompletedCountHead->setText(tr("Complete: %1").arg(s.completedCount));
+    lblDueCountHead->setText(tr("Due: %1").arg(due));
+    lblTodayCountHead->setText(tr("Today: %1").arg(s.countInToday));
+    lblTimeCompleted->setText(tr("Time used %1 of %2")
+                                  .arg(RowValues::getStringFromSeconds(int(s.timeCompletedRunning)),
+                                       RowValues::getStringFromSeconds(int(s.totalTimeAllotted))));
+    circularView->setProgress(s.totalTimeAllotted > 0
+                                  ? double(s.timeCompletedRunning) / double(s.totalTimeAllotted)
+                                  : 0.0);
+    // The status button: no rows, all done, or still going.
+    QString status = tr("No Lullet");
+    QString color = ongoingColor;
+    if (s.totalCount > 0) {
+        const bool allDone = s.completedCount == s.totalCount;
+        status = allDone ? tr("Completed") : tr("Ongoing");
+        color = allDone ? completedColor : ongoingColor;
+    }
+    btnOngoingOrCompleted->setText(status);
+    btnOngoingOrCompleted->baseColor = *HexColor::fromHex(color);
+    btnOngoingOrCompleted->prepareDisplay();
+}
+
+} // namespace lullet

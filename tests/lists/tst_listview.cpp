@@ -1,0 +1,127 @@
+#include "core/dates/CalendarContext.h"
+#include "core/settings/SettingsKeys.h"
+#include "core/store/ObjectContext.h"
+#include "lists/LulletListModel.h"
+#include "lists/LulletListViewController.h"
+#include "support/DatePrinting.h"
+#include "support/TestLaunch.h"
+#include "support/TestMain.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QPushButton>
+#include <QTableView>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+// The day's list on screen, driven through its rows.
+class TestListView : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<TestLaunch> m_app;
+
+    AppDelegate& app() { return m_app->delegate; }
+
+    ReminderInfo* item(const QString& title, std::optional<Date> due)
+    {
+        ReminderInfo* r = app().managedObjectContext().insertReminderInfo();
+        r->setTitle(title);
+        r->setDtReminder(due);
+        r->setRemindBefore(0);
+        r->setDurationMin(15);
+        app().addLulletObject(r);
+        return r;
+    }
+
+    static QAction* action(QMenu* menu, const QString& text)
+    {
+        for (QAction* a : menu->actions()) {
+            if (a->text() == text)
+                return a;
+        }
+        return nullptr;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        CalendarContext::setLocale(QStringLiteral("en_US"));
+        CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
+    }
+
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<TestLaunch>(m_dir->path(), at(2026, 11, 25, 12, 0));
+        m_app->defaults.set(SettingsKeys::isShowFirst, 1);
+        QVERIFY(app().awakeFromNib());
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void rowsStartStopAndGo()
+    {
+        ReminderInfo* write = item(QStringLiteral("Write"), at(2026, 11, 25, 11, 0));
+        ReminderInfo* read = item(QStringLiteral("Read"), at(2026, 11, 25, 14, 0));
+        item(QStringLiteral("Someday"), std::nullopt);
+        LulletListViewController view(app(), {}, true);
+        view.show();
+        QCOMPARE(view.model().rowCount(), 2);
+        QCOMPARE(view.model().rows()[0].representedObject, write);
+
+        auto* start = qobject_cast<QPushButton*>(
+            view.tblLulletList()->indexWidget(view.model().index(0, LulletListModel::StartColumn)));
+        QVERIFY(start);
+        start->click();
+        QCOMPARE(app().objReminderRunningNow, write);
+        QCOMPARE(*write->timeLimit(), 900);
+
+        // A tick shows the running row's progress without rebuilding the list.
+        m_app->clock.advance(1);
+        app().doMonitorTime();
+        QCOMPARE(view.model().rowCount(), 2);
+
+        // Stopping is finishing; the finished row goes below the open ones.
+        start = qobject_cast<QPushButton*>(view.tblLulletList()->indexWidget(
+            view.model().index(view.model().rowOf(write), LulletListModel::StartColumn)));
+        start->click();
+        QVERIFY(*write->hasFinished());
+        QCOMPARE(view.model().rows()[0].representedObject, read);
+
+        std::unique_ptr<QMenu> menu(view.buildMenu(read));
+        QVERIFY(action(menu.get(), QStringLiteral("Delete")));
+        action(menu.get(), QStringLiteral("Delete"))->trigger();
+        QVERIFY(!read->hasContext());
+        QCOMPARE(view.model().rowCount(), 1);
+    }
+
+    void aRunningItemCannotBeRescheduledFromItsMenu()
+    {
+        ReminderInfo* running = item(QStringLiteral("Busy"), at(2026, 11, 25, 11, 0));
+        LulletListViewController view(app(), {}, true);
+        view.onStartStopLullet(running);
+        std::unique_ptr<QMenu> menu(view.buildMenu(running));
+        QVERIFY(!action(menu.get(), QStringLiteral("Postpone")));
+        QVERIFY(action(menu.get(), QStringLiteral("Stop")));
+
+        ReminderInfo* waiting = item(QStringLiteral("Later"), at(2026, 11, 25, 15, 0));
+        std::unique_ptr<QMenu> other(view.buildMenu(waiting));
+        QAction* postpone = action(other.get(), QStringLiteral("Postpone"));
+        QVERIFY(postpone && postpone->menu());
+        // The menu counts from now: "Tomorrow" is tomorrow at 09:00.
+        action(postpone->menu(), QStringLiteral("Tomorrow"))->trigger();
+        QCOMPARE(*waiting->dtReminderPostponed(), at(2026, 11, 26, 9, 0));
+        QCOMPARE(view.model().rowOf(waiting), -1);
+    }
+};
+
+LULLET_TEST_MAIN_WITH(QApplication, TestListView)
+#include "tst_listview.moc"

@@ -13,7 +13,25 @@ int LulletListBuilder::reminderWindowDays(const ReminderInfo& item)
     return remindBeforeDays(item.remindBefore().value_or(0));
 }
 
+LulletListBuilder::Today::Today(Date now)
+    : start(now.dateAtStartOfDay())
+    , end(now.dateByAddingDays(1).dateAtStartOfDay())
+{
+}
+
+qint64 LulletListBuilder::Today::daysTo(Date d) const
+{
+    // Rounded, since a day across a change of the clocks is not 24 hours long.
+    return qRound64((d.dateAtStartOfDay().timeIntervalSince1970() - start.timeIntervalSince1970()) /
+                    86400.0);
+}
+
 bool LulletListBuilder::belongs(const ReminderInfo& item, const Scope& scope, AppDelegate& app)
+{
+    return belongs(item, scope, Today(app.clock().now()));
+}
+
+bool LulletListBuilder::belongs(const ReminderInfo& item, const Scope& scope, const Today& today)
 {
     if (!item.hasContext())
         return false;
@@ -32,13 +50,9 @@ bool LulletListBuilder::belongs(const ReminderInfo& item, const Scope& scope, Ap
         return anytime || scope.project;
     if (scope.segment == QStringLiteral("Today") && !scope.project) {
         if (finished)
-            return due->isToday(app.clock());
+            return today.contains(*due);
         // Overdue items (a negative count) and those within the window stay.
-        const Date today = app.clock().now().dateAtStartOfDay();
-        const qint64 days = qRound64(
-            (due->dateAtStartOfDay().timeIntervalSince1970() - today.timeIntervalSince1970()) /
-            86400.0);
-        return days <= reminderWindowDays(item);
+        return today.daysTo(*due) <= reminderWindowDays(item);
     }
     return true;
 }
@@ -61,9 +75,10 @@ void LulletListBuilder::getSortedArray(std::vector<ReminderInfo*>& items)
 std::vector<ReminderInfo*> LulletListBuilder::prepareLulletListArray(const Scope& scope,
                                                                      AppDelegate& app)
 {
+    const Today today(app.clock().now());
     std::vector<ReminderInfo*> items;
     for (ReminderInfo* item : app.getAllLulletLists()) {
-        if (belongs(*item, scope, app))
+        if (belongs(*item, scope, today))
             items.push_back(item);
     }
     getSortedArray(items);

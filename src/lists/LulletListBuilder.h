@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/dates/Date.h"
 #include "lists/LulletRow.h"
 
 #include <QString>
@@ -25,6 +26,17 @@ public:
     static int reminderWindowDays(const ReminderInfo& item);
     // Whether the item belongs in the list of the scope.
     static bool belongs(const ReminderInfo& item, const Scope& scope, AppDelegate& app);
+
+    // Today's bounds, worked out once for a whole list.
+    struct Today {
+        Date start;
+        Date end;
+        explicit Today(Date now);
+        bool contains(Date d) const { return d >= start && d < end; }
+        // Calendar days from today to the day of `d`.
+        qint64 daysTo(Date d) const;
+    };
+    static bool belongs(const ReminderInfo& item, const Scope& scope, const Today& today);
     // Unfinished before finished; within each, the earlier date first.
     static void getSortedArray(std::vector<ReminderInfo*>& items);
     // The items of the scope, in order.

@@ -1,12 +1,12 @@
 #include "lists/LulletListViewController.h"
 
-#include "authoring/DatePickerViewController.h"
 #include "core/app/AppDelegate.h"
 #include "core/dates/Clock.h"
 #include "core/notify/NotificationCenter.h"
 #include "core/notify/Notifications.h"
 #include "lists/ListActions.h"
 #include "lists/LulletListModel.h"
+#include "lists/PostponeViewControllerNew.h"
 #include "lists/RowValues.h"
 #include "lists/TaskStats.h"
 #include "monitor/Postponing.h"
@@ -137,11 +137,27 @@ LulletListViewController::LulletListViewController(AppDelegate& app, LulletListB
 
     NotificationCenter& center = m_app.notifCenter();
     for (const QLatin1String name :
-         {notification::onItemAddedOrEdited, notification::onQuickAddFromPrompt,
-          notification::onReminderPostponed, notification::onReminderStarted,
+         {notification::onQuickAddFromPrompt, notification::onReminderStarted,
           notification::onReminderFinished, notification::onReminderExtended,
           notification::preRemoveInOther, notification::onItemDeleted})
         center.addObserver(this, name, [this](const QVariant&) { loadLulletLists(); });
+    center.addObserver(this, notification::onItemAddedOrEdited, [this](const QVariant& object) {
+        loadLulletLists();
+        // A new or edited item is shown selected where it now stands.
+        const int row = m_model->rowOf(object.value<ReminderInfo*>());
+        if (row >= 0)
+            m_table->selectRow(row);
+    });
+    center.addObserver(this, notification::onReminderPostponed, [this](const QVariant& object) {
+        const ReminderInfo* item = object.value<ReminderInfo*>();
+        const bool wasListed = item && m_model->rowOf(item) >= 0;
+        loadLulletLists();
+        // Moved out of the day's list: say where it went.
+        const LulletListBuilder::Scope& shown = m_model->scope();
+        if (wasListed && m_model->rowOf(item) < 0 && isVisible() && !shown.project &&
+            shown.segment != QStringLiteral("Anytime"))
+            showPostponeMessage(*item);
+    });
     center.addObserver(this, notification::updateDueStatusDisplay, [this](const QVariant&) {
         m_model->refreshTexts();
         updateStatsDisplay();
@@ -182,6 +198,8 @@ void LulletListViewController::onStartStopLullet(ReminderInfo* item)
         return;
     if (item == m_app.objReminderRunningNow) {
         ListActions::finish(m_app, *item);
+        if (!m_withHeader)
+            showTaskCompletionMessage(*item);
         return;
     }
     if (ListActions::start(m_app, *item) != ListActions::StartResult::AnotherIsRunning)
@@ -207,20 +225,15 @@ bool LulletListViewController::refusePostpone(ReminderInfo* item)
     return item->hasFinished().value_or(false);
 }
 
-void LulletListViewController::postponeWithPicker(ReminderInfo* item)
+void LulletListViewController::onRescheduleLullet(ReminderInfo* item)
 {
     if (refusePostpone(item))
         return;
-    const QString id = QStringLiteral("postpone-%1").arg(quintptr(item));
-    auto* picker = new DatePickerViewController(
-        m_app, id, Postponing::panelBase(*item, m_app.clock()), m_app.clock().now(), this);
-    m_app.notifCenter().addObserver(
-        picker, notification::doSelectDate, [this, item, id](const QVariant& object) {
-            const QVariantList values = object.toList();
-            if (values.size() == 2 && values[0].toString() == id && item->hasContext())
-                Postponing::postponeToCustom(m_app, item, values[1].value<Date>());
-        });
-    picker->popUpBelow(m_table->viewport());
+    auto* panel = new PostponeViewControllerNew(m_app, item, this);
+    const int row = m_model->rowOf(item);
+    const QRect cell =
+        m_table->visualRect(m_model->index(std::max(row, 0), LulletListModel::TitleColumn));
+    panel->popUpAt(m_table->viewport()->mapToGlobal(cell.center()));
 }
 
 QMenu* LulletListViewController::buildMenu(ReminderInfo* item)
@@ -252,9 +265,10 @@ QMenu* LulletListViewController::buildMenu(ReminderInfo* item)
             connect(later->addAction(label), &QAction::triggered, this,
                     [this, item, tag] { Postponing::chooseInMenu(m_app, item, tag); });
         }
-        later->addSeparator();
-        connect(later->addAction(tr("Pick a date…")), &QAction::triggered, this,
-                [this, item] { postponeWithPicker(item); });
+    }
+    if (!finished) {
+        connect(menu->addAction(tr("Postpone…")), &QAction::triggered, this,
+                [this, item] { onRescheduleLullet(item); });
     }
     menu->addSeparator();
     QMenu* moveTo = menu->addMenu(tr("Move to"));
@@ -277,6 +291,27 @@ QMenu* LulletListViewController::buildMenu(ReminderInfo* item)
     connect(menu->addAction(tr("Delete")), &QAction::triggered, this,
             [this, item] { ListActions::deleteItem(m_app, *item); });
     return menu;
+}
+
+void LulletListViewController::showPostponeMessage(const ReminderInfo& item)
+{
+    const std::optional<Date> due = item.effectiveDate();
+    if (!due)
+        return;
+    QString month = due->shortMonthToString();
+    if (!month.isEmpty())
+        month[0] = month[0].toUpper();
+    QMessageBox::information(
+        this, tr("Lullet postponed"),
+        item.title().value_or(QString()) + QStringLiteral(" has been postponed to ") +
+            QString::number(due->day()) + u' ' + month + u' ' + QString::number(due->year()));
+}
+
+void LulletListViewController::showTaskCompletionMessage(const ReminderInfo& item)
+{
+    QMessageBox::information(this, tr("Task completed"),
+                             item.title().value_or(QString()) +
+                                 QStringLiteral(" has been completed now"));
 }
 
 void LulletListViewController::onMonitoringDone()

@@ -32,13 +32,17 @@ public:
     void onStartStopLullet(ReminderInfo* item);
     // The context menu of a row, as built for it.
     QMenu* buildMenu(ReminderInfo* item);
+    // The postpone panel for the item, unless it runs (refused with a message) or is finished.
+    void onRescheduleLullet(ReminderInfo* item);
 
 private:
     void loadLulletLists();
     void updateStatsDisplay();
     void placeStartButtons();
     void onMonitoringDone();
-    void postponeWithPicker(ReminderInfo* item);
+    void showPostponeMessage(const ReminderInfo& item);
+    // In the status popover, where nothing else shows it.
+    void showTaskCompletionMessage(const ReminderInfo& item);
     bool refusePostpone(ReminderInfo* item);
 
     AppDelegate& m_app;

@@ -8,9 +8,13 @@ namespace lullet {
 
 namespace {
 
+// Two digits, padded with a zero; rows are built by the thousand, so no formatting machinery.
 QString twoDigits(int value)
 {
-    return QStringLiteral("%1").arg(value, 2, 10, QLatin1Char('0'));
+    if (value < 0 || value > 99)
+        return QString::number(value);
+    const QChar digits[2] = {QChar(u'0' + value / 10), QChar(u'0' + value % 10)};
+    return QString(digits, 2);
 }
 
 QString plural(qint64 n)

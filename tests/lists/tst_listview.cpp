@@ -3,12 +3,15 @@
 #include "core/store/ObjectContext.h"
 #include "lists/LulletListModel.h"
 #include "lists/LulletListViewController.h"
+#include "lists/PostponeViewControllerNew.h"
 #include "support/DatePrinting.h"
 #include "support/TestLaunch.h"
 #include "support/TestMain.h"
 
 #include <QApplication>
+#include <QDateTimeEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -120,6 +123,28 @@ private Q_SLOTS:
         action(postpone->menu(), QStringLiteral("Tomorrow"))->trigger();
         QCOMPARE(*waiting->dtReminderPostponed(), at(2026, 11, 26, 9, 0));
         QCOMPARE(view.model().rowOf(waiting), -1);
+    }
+
+    void thePostponePanel()
+    {
+        m_app->clock.set(at(2026, 11, 25, 20, 0));
+        ReminderInfo* task = item(QStringLiteral("Plan"), at(2026, 11, 25, 21, 0));
+        auto* panel = new PostponeViewControllerNew(app(), task);
+        QPointer<PostponeViewControllerNew> alive(panel);
+        panel->popUpAt(QPoint(100, 100));
+        auto* evening = panel->findChild<QPushButton*>(QStringLiteral("option2"));
+        QVERIFY(evening);
+        QCOMPARE(evening->text(), QStringLiteral("Tomorrow eve"));
+        QCOMPARE(panel->findChild<QPushButton*>(QStringLiteral("option4"))->text(),
+                 QStringLiteral("Friday"));
+        // A free date keeps the panel open; a named choice closes it.
+        panel->findChild<QPushButton*>(QStringLiteral("option9"))->click();
+        QVERIFY(panel->findChild<QDateTimeEdit*>()->isVisible());
+        panel->onPostPoneToCustom();
+        QVERIFY(alive);
+        evening->click();
+        QCOMPARE(*task->dtReminderPostponed(), at(2026, 11, 26, 19, 0));
+        QTRY_VERIFY(!alive);
     }
 };
 

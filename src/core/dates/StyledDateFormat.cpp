@@ -44,6 +44,7 @@ struct ThreadFormats {
     std::unique_ptr<icu::RelativeDateTimeFormatter> relative;
     // The words for two days back to two days ahead, once looked up.
     std::array<std::optional<QString>, 5> dayWords;
+    std::array<QString, 24 * 60> shortTimes;
     icu::UnicodeString dateTimeGlue;
 
     void refresh()
@@ -54,6 +55,7 @@ struct ThreadFormats {
         formats.clear();
         relative.reset();
         dayWords.fill(std::nullopt);
+        shortTimes.fill(QString());
         UErrorCode status = U_ZERO_ERROR;
         const icu::Locale locale = CalendarContext::locale();
         std::unique_ptr<icu::DateTimePatternGenerator> generator(
@@ -137,6 +139,15 @@ QString StyledDateFormat::format(Date date, DateStyle dateStyle, DateStyle timeS
                                  const Clock* relativeTo)
 {
     ThreadFormats& formats = threadFormats();
+    if (dateStyle == DateStyle::none && timeStyle == DateStyle::shortStyle) {
+        // The short time shows only the hour and minute: lists ask for it on every row, so each
+        // minute of the day is formatted once.
+        const int minuteOfDay = date.hour() * 60 + date.minute();
+        QString& cached = formats.shortTimes[std::size_t(minuteOfDay)];
+        if (cached.isEmpty())
+            cached = formatWith(formats.format(dateStyle, timeStyle), date);
+        return cached;
+    }
     if (!relativeTo || dateStyle == DateStyle::none)
         return formatWith(formats.format(dateStyle, timeStyle), date);
 

@@ -1,0 +1,66 @@
+// Building "Today" and its statistics from a large store, and the per-second refresh of the
+// running row.
+#include "BenchClock.h"
+#include "StoreGenerator.h"
+#include "core/app/AppDelegate.h"
+#include "core/dates/CalendarContext.h"
+#include "core/notify/NotificationCenter.h"
+#include "core/settings/UserDefaults.h"
+#include "core/store/StoreStack.h"
+#include "lists/LulletListModel.h"
+#include "lists/TaskStats.h"
+#include "support/FakeClock.h"
+#include "support/RecordingHost.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+using namespace lullet;
+using namespace lullet::bench;
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    CalendarContext::setLocale(QStringLiteral("en_US"));
+    CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
+    const Date now = Date::dateFromComponents(2026, 11, 23, 10, 15, 0);
+    test::FakeClock clock(now);
+
+    QTemporaryDir dir;
+    const QString folder = QDir(dir.path()).filePath(QStringLiteral("data"));
+    {
+        StoreStack store(folder, clock);
+        store.build();
+        generateStore(store, now, 50'000, 100, 50);
+    }
+    UserDefaults defaults(QDir(dir.path()).filePath(QStringLiteral("Lullet.conf")));
+    NotificationCenter center;
+    StoreStack store(folder, clock);
+    test::RecordingHost host;
+    test::FakeInhibitor inhibitor;
+    AppDelegate delegate({clock, defaults, center, store, host, inhibitor});
+    delegate.awakeFromNib();
+
+    LulletListModel model(delegate, {}, true);
+    volatile qint64 sink = 0;
+    const double build = medianNanos(21, [&] {
+        model.loadLulletLists();
+        sink = sink + TaskStats::getTaskStats(model.rows(), delegate).totalTimeAllotted;
+    });
+    report("\"Today\" and its statistics from 50,000 items", build, 15e6);
+    std::printf("  (%d rows)\n", model.rowCount());
+
+    ReminderInfo* running = model.rows().front().representedObject;
+    running->setHasStarted(true);
+    running->setTimeLimit(1800);
+    running->setElapsedTime(0);
+    delegate.objReminderRunningNow = running;
+    const double refresh = medianNanos(1001, [&] {
+        running->setElapsedTime(running->elapsedTime().value_or(0) + 1);
+        model.refreshItem(running);
+        sink = sink + TaskStats::getTaskStats(model.rows(), delegate).timeCompletedRunning;
+    });
+    report("refresh of the running row and the statistics", refresh, 0.5e6);
+    return 0;
+}

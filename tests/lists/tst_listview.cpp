@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QDateTimeEdit>
+#include <QDir>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
@@ -38,6 +39,14 @@ class TestListView : public QObject {
         r->setDurationMin(15);
         app().addLulletObject(r);
         return r;
+    }
+
+    // For review: with LULLET_SHOTS set to a folder, the widgets are saved there as pictures.
+    static void saveShot(QWidget* widget, const QString& name)
+    {
+        const QString folder = qEnvironmentVariable("LULLET_SHOTS");
+        if (!folder.isEmpty())
+            widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
     }
 
     static QAction* action(QMenu* menu, const QString& text)
@@ -132,6 +141,7 @@ private Q_SLOTS:
         auto* panel = new PostponeViewControllerNew(app(), task);
         QPointer<PostponeViewControllerNew> alive(panel);
         panel->popUpAt(QPoint(100, 100));
+        saveShot(panel, QStringLiteral("postpone-panel"));
         auto* evening = panel->findChild<QPushButton*>(QStringLiteral("option2"));
         QVERIFY(evening);
         QCOMPARE(evening->text(), QStringLiteral("Tomorrow eve"));

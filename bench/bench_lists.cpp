@@ -1,7 +1,7 @@
 // Building "Today" and its statistics from a large store, and the per-second refresh of the
 // running row.
 #include "BenchClock.h"
-#include "StoreGenerator.h"
+#include "BenchLaunch.h"
 #include "core/app/AppDelegate.h"
 #include "core/dates/CalendarContext.h"
 #include "core/notify/NotificationCenter.h"
@@ -22,25 +22,11 @@ using namespace lullet::bench;
 int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
-    CalendarContext::setLocale(QStringLiteral("en_US"));
-    CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
+    useBenchCalendar();
     const Date now = Date::dateFromComponents(2026, 11, 23, 10, 15, 0);
-    test::FakeClock clock(now);
 
-    QTemporaryDir dir;
-    const QString folder = QDir(dir.path()).filePath(QStringLiteral("data"));
-    {
-        StoreStack store(folder, clock);
-        store.build();
-        generateStore(store, now, 50'000, 100, 50);
-    }
-    UserDefaults defaults(QDir(dir.path()).filePath(QStringLiteral("Lullet.conf")));
-    NotificationCenter center;
-    StoreStack store(folder, clock);
-    test::RecordingHost host;
-    test::FakeInhibitor inhibitor;
-    AppDelegate delegate({clock, defaults, center, store, host, inhibitor});
-    delegate.awakeFromNib();
+    BenchLaunch launch(now);
+    AppDelegate& delegate = launch.delegate;
 
     LulletListModel model(delegate, {}, true);
     volatile qint64 sink = 0;

@@ -1,6 +1,6 @@
 // The one-second tick and the minute pass of the monitor over a large store.
 #include "BenchClock.h"
-#include "StoreGenerator.h"
+#include "BenchLaunch.h"
 #include "core/app/AppDelegate.h"
 #include "core/dates/CalendarContext.h"
 #include "core/notify/NotificationCenter.h"
@@ -21,26 +21,13 @@ using namespace lullet::bench;
 int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
-    CalendarContext::setLocale(QStringLiteral("en_US"));
-    CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
+    useBenchCalendar();
     const Date now = Date::dateFromComponents(2026, 11, 23, 10, 15, 0);
-    test::FakeClock clock(now);
 
-    QTemporaryDir dir;
-    const QString folder = QDir(dir.path()).filePath(QStringLiteral("data"));
-    {
-        StoreStack store(folder, clock);
-        store.build();
-        generateStore(store, now, 50'000, 100, 50);
-    }
-    UserDefaults defaults(QDir(dir.path()).filePath(QStringLiteral("Lullet.conf")));
-    defaults.set(SettingsKeys::isShowFirst, 1);
-    NotificationCenter center;
-    StoreStack store(folder, clock);
-    test::RecordingHost host;
-    test::FakeInhibitor inhibitor;
-    AppDelegate delegate({clock, defaults, center, store, host, inhibitor});
-    delegate.awakeFromNib();
+    BenchLaunch launch(now);
+    launch.defaults.set(SettingsKeys::isShowFirst, 1);
+    AppDelegate& delegate = launch.delegate;
+    test::FakeClock& clock = launch.clock;
     Monitor& monitor = delegate.monitor();
 
     // A tick between minutes, with an unlimited item running: its clock advances and the

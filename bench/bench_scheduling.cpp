@@ -1,6 +1,6 @@
 // The next date of long-lived minute rules, and the launch pass over rules and a large store.
 #include "BenchClock.h"
-#include "StoreGenerator.h"
+#include "BenchLaunch.h"
 #include "core/app/AppDelegate.h"
 #include "core/dates/CalendarContext.h"
 #include "core/dates/Clock.h"
@@ -27,8 +27,7 @@ using FixedClock = lullet::test::FakeClock;
 int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
-    CalendarContext::setLocale(QStringLiteral("en_US"));
-    CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
+    useBenchCalendar();
     const Date now = Date::dateFromComponents(2026, 11, 23, 10, 15, 7);
     FixedClock clock(now);
 
@@ -47,20 +46,8 @@ int main(int argc, char* argv[])
     std::printf("%-48s %10.3f ms   (the walk: %.0f times slower)\n", "  the same by walking",
                 walked / 1e6, walked / direct);
 
-    QTemporaryDir dir;
-    const QString folder = QDir(dir.path()).filePath(QStringLiteral("data"));
-    {
-        StoreStack store(folder, clock);
-        store.build();
-        generateStore(store, now, 50'000, 100, 50);
-    }
-    UserDefaults defaults(QDir(dir.path()).filePath(QStringLiteral("Lullet.conf")));
-    NotificationCenter center;
-    StoreStack store(folder, clock);
-    lullet::test::RecordingHost host;
-    lullet::test::FakeInhibitor inhibitor;
-    AppDelegate delegate({clock, defaults, center, store, host, inhibitor});
-    delegate.awakeFromNib();
+    BenchLaunch launch(now);
+    AppDelegate& delegate = launch.delegate;
     // Every round after the first finds each rule's occurrence in place, as a relaunch does.
     const double prepare = medianNanos(21, [&] { delegate.catalogue().prepareDefaultRepeats(); });
     report("prepareDefaultRepeats, 100 rules, 50,000 items", prepare, 20e6);

@@ -1,6 +1,7 @@
 #include "authoring/QuickAdd.h"
 
 #include "core/app/AppDelegate.h"
+#include "core/app/ProjectChoices.h"
 #include "core/dates/Clock.h"
 #include "core/notify/NotificationCenter.h"
 #include "core/notify/Notifications.h"
@@ -17,18 +18,12 @@ QuickAdd::QuickAdd(AppDelegate& app)
 
 QStringList QuickAdd::projectChoices() const
 {
-    QStringList choices{QStringLiteral("No Project")};
-    for (const Project* project : m_app.getAllProjectsLists())
-        choices << project->name().value_or(QString());
-    return choices;
+    return ProjectChoices::choices(m_app, QStringLiteral("No Project"));
 }
 
 int QuickAdd::selectedProjectIndex() const
 {
-    if (!m_app.objProjectSelectedNow || !m_app.objProjectSelectedNow->name())
-        return 0;
-    const int index = int(projectChoices().indexOf(*m_app.objProjectSelectedNow->name()));
-    return index > 0 ? index : 0;
+    return ProjectChoices::selectedIndex(m_app, projectChoices());
 }
 
 QStringList QuickAdd::durationChoices()
@@ -79,16 +74,10 @@ ReminderInfo* QuickAdd::onDoAdd(const QString& name, const QString& projectChoic
     item->setDtReminder(dtReminderQuickAdd);
     m_app.addLulletObject(item);
 
-    // The first choice, "No Project", is none.
-    if (projectChoice != projectChoices().constFirst()) {
-        for (Project* project : m_app.getAllProjectsLists()) {
-            if (project->name() == projectChoice) {
-                item->setToProject(project);
-                m_app.notifCenter().post(notification::onProjectContentChanged,
-                                         QVariant::fromValue(project));
-                break;
-            }
-        }
+    if (Project* project = ProjectChoices::chosen(m_app, projectChoices(), projectChoice)) {
+        item->setToProject(project);
+        m_app.notifCenter().post(notification::onProjectContentChanged,
+                                 QVariant::fromValue(project));
     }
     m_app.saveAction();
     m_app.notifCenter().post(notification::onItemAddedOrEdited, QVariant::fromValue(item));

@@ -1,6 +1,7 @@
 #include "monitor/IdlePrompt.h"
 
 #include "core/app/AppDelegate.h"
+#include "core/app/ProjectChoices.h"
 #include "core/app/PromptHost.h"
 #include "core/dates/Clock.h"
 #include "core/notify/NotificationCenter.h"
@@ -43,18 +44,12 @@ IdlePrompt::~IdlePrompt()
 
 QStringList IdlePrompt::projectChoices() const
 {
-    QStringList choices{QStringLiteral("Today")};
-    for (const Project* project : m_app.getAllProjectsLists())
-        choices << project->name().value_or(QString());
-    return choices;
+    return ProjectChoices::choices(m_app, QStringLiteral("Today"));
 }
 
 int IdlePrompt::selectedProjectIndex() const
 {
-    if (!m_app.objProjectSelectedNow || !m_app.objProjectSelectedNow->name())
-        return 0;
-    const int index = int(projectChoices().indexOf(*m_app.objProjectSelectedNow->name()));
-    return index > 0 ? index : 0;
+    return ProjectChoices::selectedIndex(m_app, projectChoices());
 }
 
 QString IdlePrompt::rangeText() const
@@ -109,15 +104,10 @@ IdlePrompt::Result IdlePrompt::onDone(const QString& text, const QString& projec
     m_app.addLulletObject(item);
 
     // The first choice, "Today", is no project; a project gone meanwhile leaves none.
-    if (projectChoice != projectChoices().constFirst()) {
-        for (Project* project : m_app.getAllProjectsLists()) {
-            if (project->name() == projectChoice) {
-                item->setToProject(project);
-                m_app.notifCenter().post(notification::onProjectContentChanged,
-                                         QVariant::fromValue(project));
-                break;
-            }
-        }
+    if (Project* project = ProjectChoices::chosen(m_app, projectChoices(), projectChoice)) {
+        item->setToProject(project);
+        m_app.notifCenter().post(notification::onProjectContentChanged,
+                                 QVariant::fromValue(project));
     }
 
     m_app.objReminderRunningNow = item;

@@ -7,7 +7,7 @@ packages=(
   build-essential cmake ninja-build ccache pkg-config git
   qt6-base-dev qt6-base-dev-tools
   libicu-dev libsqlite3-dev libgl-dev
-  xvfb xauth dbus dbus-x11 clang-format
+  xvfb xauth dbus dbus-x11 fonts-dejavu-core clang-format
 )
 
 missing=()

@@ -28,31 +28,44 @@ qint64 LulletListBuilder::Today::daysTo(Date d) const
 
 bool LulletListBuilder::belongs(const ReminderInfo& item, const Scope& scope, AppDelegate& app)
 {
-    return belongs(item, scope, Today(app.clock().now()));
+    return Filter(scope, app.clock().now()).accepts(item);
 }
 
 bool LulletListBuilder::belongs(const ReminderInfo& item, const Scope& scope, const Today& today)
 {
+    return Filter(scope, today.start).accepts(item);
+}
+
+LulletListBuilder::Filter::Filter(const Scope& scope, Date now)
+    : m_today(now)
+    , m_project(scope.project)
+    , m_anytime(scope.isAnytime())
+    , m_todayWithoutProject(scope.isToday() && !scope.project)
+    , m_runningOnly(scope.showRunningOnly)
+{
+}
+
+bool LulletListBuilder::Filter::accepts(const ReminderInfo& item) const
+{
     if (!item.hasContext())
         return false;
-    if (scope.project && item.toProject() != scope.project)
+    if (m_project && item.toProject() != m_project)
         return false;
-    const bool anytime = scope.segment == QStringLiteral("Anytime");
-    if (anytime && item.dtReminder())
+    if (m_anytime && item.dtReminder())
         return false;
-    if (scope.showRunningOnly && !item.hasStarted().value_or(false))
+    if (m_runningOnly && !item.hasStarted().value_or(false))
         return false;
     const bool finished = item.hasFinished().value_or(false);
-    if (anytime && finished)
+    if (m_anytime && finished)
         return false;
     const std::optional<Date> due = item.effectiveDate();
     if (!due)
-        return anytime || scope.project;
-    if (scope.segment == QStringLiteral("Today") && !scope.project) {
+        return m_anytime || m_project;
+    if (m_todayWithoutProject) {
         if (finished)
-            return today.contains(*due);
+            return m_today.contains(*due);
         // Overdue items (a negative count) and those within the window stay.
-        return today.daysTo(*due) <= reminderWindowDays(item);
+        return m_today.daysTo(*due) <= reminderWindowDays(item);
     }
     return true;
 }
@@ -75,10 +88,10 @@ void LulletListBuilder::getSortedArray(std::vector<ReminderInfo*>& items)
 std::vector<ReminderInfo*> LulletListBuilder::prepareLulletListArray(const Scope& scope,
                                                                      AppDelegate& app)
 {
-    const Today today(app.clock().now());
+    const Filter filter(scope, app.clock().now());
     std::vector<ReminderInfo*> items;
     for (ReminderInfo* item : app.getAllLulletLists()) {
-        if (belongs(*item, scope, today))
+        if (filter.accepts(*item))
             items.push_back(item);
     }
     getSortedArray(items);

@@ -20,6 +20,9 @@ public:
         QString segment = QStringLiteral("Today");
         Project* project = nullptr;
         bool showRunningOnly = false;
+
+        bool isAnytime() const { return segment == QStringLiteral("Anytime"); }
+        bool isToday() const { return segment == QStringLiteral("Today"); }
     };
 
     // The days ahead within which an item already shows in "Today".
@@ -37,6 +40,20 @@ public:
         qint64 daysTo(Date d) const;
     };
     static bool belongs(const ReminderInfo& item, const Scope& scope, const Today& today);
+
+    // The rule of a scope, worked out once for a pass over many items.
+    class Filter {
+    public:
+        Filter(const Scope& scope, Date now);
+        bool accepts(const ReminderInfo& item) const;
+
+    private:
+        Today m_today;
+        Project* m_project;
+        bool m_anytime;
+        bool m_todayWithoutProject;
+        bool m_runningOnly;
+    };
     // Unfinished before finished; within each, the earlier date first.
     static void getSortedArray(std::vector<ReminderInfo*>& items);
     // The items of the scope, in order.

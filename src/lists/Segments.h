@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace lullet {
+
+class AppDelegate;
+class Project;
+class ReminderInfo;
+
+// The sidebar of the main window: the six segments, a separator, then the projects.
+struct SidebarRow {
+    enum Type { Segment = 0, ProjectRow = 1, Separator = 3 };
+
+    QString name;
+    int type = Segment;
+    Project* project = nullptr;
+    // Search results may also be items.
+    ReminderInfo* item = nullptr;
+    std::optional<int> count;
+};
+
+class Segments {
+public:
+    // "Dashboard", "Lullets", "Today", "Upcoming", "Anytime", "Completed".
+    static const QStringList& arrayTypes();
+    // The view that shows a selection: "Chart", "RepeatList", "LulletList", "CustomList" or
+    // "ProjectList" (for the selection "Project").
+    static QString viewFor(const QString& selection);
+
+    // The six segments with their counts, the separator, and a row for each project.
+    static std::vector<SidebarRow> prepareSegments(AppDelegate& app);
+    // The segments' counts, from one pass over every item.
+    struct Counts {
+        int today = 0;
+        int upcoming = 0;
+        int anytime = 0;
+        int completed = 0;
+        int lullets = 0;
+        static Counts compute(AppDelegate& app);
+    };
+    // The count of a row, as the sidebar shows it; none for the dashboard.
+    static std::optional<int> countFor(const SidebarRow& row, const Counts& counts);
+
+    // Where a search result leads: the project's own list, or the segment that lists the item.
+    static QString segmentFor(const ReminderInfo& item, AppDelegate& app);
+
+    // Comma-separated terms; "today" and "anytime" stand for those items. Matching ignores case
+    // and diacritics: rows by name, projects also by the titles of their items, items by title.
+    static std::vector<SidebarRow> search(const QString& text, const std::vector<SidebarRow>& rows,
+                                          AppDelegate& app);
+};
+
+} // namespace lullet

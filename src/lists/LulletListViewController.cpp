@@ -95,9 +95,12 @@ LulletListViewController::LulletListViewController(AppDelegate& app, LulletListB
                                                       QHeaderView::Stretch);
     m_table->horizontalHeader()->setSectionResizeMode(LulletListModel::StartColumn,
                                                       QHeaderView::Fixed);
-    for (const int column : {int(LulletListModel::TimeColumn), int(LulletListModel::DurationColumn),
-                             int(LulletListModel::UsedColumn)})
-        m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    // The title takes what the other columns leave; the time column is wide enough for "Due
+    // from 1 hr 30 min at 10:15 AM" and the user may widen it.
+    m_table->setColumnWidth(LulletListModel::TimeColumn, 180);
+    m_table->setColumnWidth(LulletListModel::DurationColumn, 64);
+    m_table->setColumnWidth(LulletListModel::UsedColumn, 72);
+    m_table->horizontalHeader()->setMinimumSectionSize(36);
     m_table->setWordWrap(false);
     m_table->setFocusPolicy(Qt::NoFocus);
     m_table->setColumnWidth(LulletListModel::StartColumn, 36);
@@ -166,6 +169,17 @@ LulletListViewController::LulletListViewController(AppDelegate& app, LulletListB
                        [this](const QVariant&) { onMonitoringDone(); });
 
     loadLulletLists();
+}
+
+void LulletListViewController::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    // A narrow window keeps the title readable and leaves the planned and used times out.
+    if (m_withHeader) {
+        const bool narrow = width() < 560;
+        m_table->setColumnHidden(LulletListModel::DurationColumn, narrow);
+        m_table->setColumnHidden(LulletListModel::UsedColumn, narrow);
+    }
 }
 
 void LulletListViewController::loadLulletLists()

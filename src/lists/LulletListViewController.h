@@ -35,6 +35,9 @@ public:
     // The postpone panel for the item, unless it runs (refused with a message) or is finished.
     void onRescheduleLullet(ReminderInfo* item);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void loadLulletLists();
     void updateStatsDisplay();

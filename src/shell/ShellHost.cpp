@@ -4,7 +4,7 @@
 #include "core/app/AppDelegate.h"
 #include "core/notify/NotificationCenter.h"
 #include "core/notify/Notifications.h"
-#include "lists/LulletListViewController.h"
+#include "lists/MainViewController.h"
 #include "prompts/AlertViewController.h"
 #include "prompts/LulletAlertViewController.h"
 #include "prompts/ReminderViewController.h"
@@ -83,10 +83,9 @@ void ShellHost::openStatusMenu()
 
 void ShellHost::prepareMainWindow(bool welcomeDone, bool locked)
 {
-    // The records are loaded by now. Until the main view with its segments exists, the window
-    // shows the day's list.
-    if (m_app && !qobject_cast<LulletListViewController*>(m_window.centralWidget()))
-        m_window.setCentralWidget(new LulletListViewController(*m_app, {}, true));
+    // The records are loaded by now.
+    if (m_app && !qobject_cast<MainViewController*>(m_window.centralWidget()))
+        m_window.setCentralWidget(new MainViewController(*m_app));
     if (welcomeDone)
         m_window.applyWorkingSizing(locked);
     else

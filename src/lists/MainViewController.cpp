@@ -1,0 +1,230 @@
+#include "lists/MainViewController.h"
+
+#include "core/app/AppDelegate.h"
+#include "core/notify/NotificationCenter.h"
+#include "core/notify/Notifications.h"
+#include "lists/LulletListViewController.h"
+#include "lists/ProjectActions.h"
+#include "shell/ErrorBalloon.h"
+#include "shell/ViewSwitcher.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace lullet {
+
+namespace {
+
+// A view that a later part of the program provides.
+QWidget* comingView(const QString& what)
+{
+    auto* label = new QLabel(what);
+    label->setAlignment(Qt::AlignCenter);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
+}
+
+} // namespace
+
+MainViewController::MainViewController(AppDelegate& app, QWidget* parent)
+    : QWidget(parent)
+    , m_app(app)
+    , searchField(new QLineEdit(this))
+    , m_segments(new QListWidget(this))
+    , m_newProject(new QLineEdit(this))
+    , m_switcher(new ViewSwitcher(this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* splitter = new QSplitter(this);
+    auto* sidebar = new QWidget(splitter);
+    auto* side = new QVBoxLayout(sidebar);
+    side->setContentsMargins(8, 8, 0, 8);
+    searchField->setObjectName(QStringLiteral("searchField"));
+    searchField->setPlaceholderText(tr("Search"));
+    searchField->setClearButtonEnabled(true);
+    side->addWidget(searchField);
+    m_segments->setObjectName(QStringLiteral("tblSegments"));
+    m_segments->setFrameShape(QFrame::NoFrame);
+    side->addWidget(m_segments, 1);
+    m_newProject->setObjectName(QStringLiteral("newProject"));
+    m_newProject->setPlaceholderText(tr("New project"));
+    side->addWidget(m_newProject);
+    sidebar->setMinimumWidth(170);
+    sidebar->setMaximumWidth(280);
+    splitter->addWidget(sidebar);
+    splitter->addWidget(m_switcher);
+    splitter->setStretchFactor(1, 1);
+    layout->addWidget(splitter);
+
+    m_switcher->registerView(QStringLiteral("LulletList"), [this] {
+        return new LulletListViewController(m_app, {m_app.strSegmentSelectedNow, nullptr, false},
+                                            true);
+    });
+    m_switcher->registerView(QStringLiteral("ProjectList"), [this] {
+        return new LulletListViewController(
+            m_app, {QStringLiteral("Project"), m_app.objProjectSelectedNow, false}, true);
+    });
+    m_switcher->registerView(QStringLiteral("CustomList"),
+                             [] { return comingView(tr("Upcoming and Completed come next.")); });
+    m_switcher->registerView(QStringLiteral("Chart"), [] {
+        return comingView(tr("The dashboard comes with the reports."));
+    });
+    m_switcher->registerView(QStringLiteral("RepeatList"),
+                             [] { return comingView(tr("The repeat list comes with its form.")); });
+
+    connect(m_segments, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (!bDoNotSelectNow)
+            dispatchForRowSelection(row);
+    });
+    connect(m_newProject, &QLineEdit::returnPressed, this, &MainViewController::onAddProject);
+    connect(searchField, &QLineEdit::textChanged, this, &MainViewController::onDoSearch);
+
+    NotificationCenter& center = m_app.notifCenter();
+    // Counts follow the running item each second, and every change of the items.
+    center.addObserver(this, notification::onMonitoringDone, [this](const QVariant&) {
+        if (m_app.objReminderRunningNow)
+            updateDefaultSegments();
+    });
+    for (const QLatin1String name :
+         {notification::onItemAddedOrEdited, notification::onItemDeleted,
+          notification::onReminderStarted, notification::onReminderFinished,
+          notification::onReminderPostponed, notification::onProjectContentChanged,
+          notification::onRepeatItemAddedOrEdited})
+        center.addObserver(this, name, [this](const QVariant&) { updateDefaultSegments(); });
+    for (const QLatin1String name :
+         {notification::onChangeInProjectList, notification::onProjectAddedOrRemoved,
+          notification::onRestoreDatabaseDone, notification::onSynciCloud})
+        center.addObserver(this, name, [this](const QVariant&) { loadSegments(); });
+
+    loadSegments();
+    onSelectSegment(m_app.objProjectSelectedNow
+                        ? m_app.objProjectSelectedNow->name().value_or(QString())
+                        : m_app.strSegmentSelectedNow);
+}
+
+QString MainViewController::rowText(const SidebarRow& row) const
+{
+    if (row.type == SidebarRow::Separator)
+        return {};
+    return row.count ? row.name + QStringLiteral("   ") + QString::number(*row.count) : row.name;
+}
+
+void MainViewController::loadSegments()
+{
+    if (m_showingResults)
+        return;
+    mArrSegments = Segments::prepareSegments(m_app);
+    bDoNotSelectNow = true;
+    m_segments->clear();
+    for (const SidebarRow& row : mArrSegments) {
+        auto* item = new QListWidgetItem(rowText(row), m_segments);
+        if (row.type == SidebarRow::Separator) {
+            item->setFlags(Qt::NoItemFlags);
+            item->setSizeHint(QSize(0, 10));
+        }
+    }
+    // The selection stays where it was.
+    const QString selected = m_app.objProjectSelectedNow
+                                 ? m_app.objProjectSelectedNow->name().value_or(QString())
+                                 : m_app.strSegmentSelectedNow;
+    for (std::size_t i = 0; i < mArrSegments.size(); ++i) {
+        if (mArrSegments[i].name == selected && mArrSegments[i].type != SidebarRow::Separator)
+            m_segments->setCurrentRow(int(i));
+    }
+    bDoNotSelectNow = false;
+}
+
+void MainViewController::updateDefaultSegments()
+{
+    if (m_showingResults)
+        return;
+    const Segments::Counts counts = Segments::Counts::compute(m_app);
+    for (std::size_t i = 0; i < mArrSegments.size() && i < std::size_t(m_segments->count()); ++i) {
+        SidebarRow& row = mArrSegments[i];
+        row.count = Segments::countFor(row, counts);
+        m_segments->item(int(i))->setText(rowText(row));
+    }
+}
+
+void MainViewController::selectRowSilently(int row)
+{
+    bDoNotSelectNow = true;
+    m_segments->setCurrentRow(row);
+    bDoNotSelectNow = false;
+}
+
+void MainViewController::dispatchForRowSelection(int index)
+{
+    if (index < 0 || index >= int(mArrSegments.size()))
+        return;
+    const SidebarRow row = mArrSegments[std::size_t(index)];
+    if (row.type == SidebarRow::Separator)
+        return;
+    if (row.item) {
+        // A search result: its list, with the search ended.
+        const QString segment = Segments::segmentFor(*row.item, m_app);
+        const QString target = segment == QStringLiteral("Project")
+                                   ? row.item->toProject()->name().value_or(QString())
+                                   : segment;
+        searchField->clear();
+        onSelectSegment(target);
+        return;
+    }
+    if (row.project) {
+        m_app.objProjectSelectedNow = row.project;
+        m_app.strSegmentSelectedNow = QStringLiteral("Project");
+    } else {
+        m_app.objProjectSelectedNow = nullptr;
+        m_app.strSegmentSelectedNow = row.name;
+    }
+    m_switcher->showView(Segments::viewFor(m_app.strSegmentSelectedNow));
+}
+
+void MainViewController::onSelectSegment(const QString& name)
+{
+    for (std::size_t i = 0; i < mArrSegments.size(); ++i) {
+        if (mArrSegments[i].name == name && mArrSegments[i].type != SidebarRow::Separator) {
+            selectRowSilently(int(i));
+            dispatchForRowSelection(int(i));
+            return;
+        }
+    }
+    // Nothing of that name: "Today".
+    if (name != QStringLiteral("Today"))
+        onSelectSegment(QStringLiteral("Today"));
+}
+
+void MainViewController::onAddProject()
+{
+    const ProjectActions::Added added = ProjectActions::addProject(m_app, m_newProject->text());
+    if (!added.project) {
+        ErrorBalloon::showErrorMessage(added.refusal, m_newProject);
+        return;
+    }
+    m_newProject->clear();
+    loadSegments();
+    onSelectSegment(added.project->name().value_or(QString()));
+}
+
+void MainViewController::onDoSearch(const QString& text)
+{
+    if (text.trimmed().isEmpty()) {
+        m_showingResults = false;
+        loadSegments();
+        return;
+    }
+    const std::vector<SidebarRow> all = Segments::prepareSegments(m_app);
+    m_showingResults = true;
+    mArrSegments = Segments::search(text, all, m_app);
+    bDoNotSelectNow = true;
+    m_segments->clear();
+    for (const SidebarRow& row : mArrSegments)
+        new QListWidgetItem(row.item ? QStringLiteral("• ") + row.name : rowText(row), m_segments);
+    bDoNotSelectNow = false;
+}
+
+} // namespace lullet

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "lists/Segments.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class QLineEdit;
+class QListWidget;
+
+namespace lullet {
+
+class AppDelegate;
+class ViewSwitcher;
+
+// The main window's content: the sidebar of segments and projects, with search and a field for
+// a new project, beside the view of the selected entry. The navigation state is the controller's
+// strSegmentSelectedNow and objProjectSelectedNow.
+class MainViewController final : public QWidget {
+    Q_OBJECT
+public:
+    explicit MainViewController(AppDelegate& app, QWidget* parent = nullptr);
+
+    QListWidget* tblSegments() const { return m_segments; }
+    ViewSwitcher& switcher() const { return *m_switcher; }
+    const std::vector<SidebarRow>& rows() const { return mArrSegments; }
+
+    // Selects the row of a segment or project by name and shows its view.
+    void onSelectSegment(const QString& name);
+    void onAddProject();
+    void onDoSearch(const QString& text);
+
+private:
+    void loadSegments();
+    void updateDefaultSegments();
+    void dispatchForRowSelection(int row);
+    void selectRowSilently(int row);
+    QString rowText(const SidebarRow& row) const;
+
+    AppDelegate& m_app;
+    QLineEdit* searchField;
+    QListWidget* m_segments;
+    QLineEdit* m_newProject;
+    ViewSwitcher* m_switcher;
+    std::vector<SidebarRow> mArrSegments;
+    bool m_showingResults = false;
+    bool bDoNotSelectNow = false;
+};
+
+} // namespace lullet

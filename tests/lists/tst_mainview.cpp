@@ -1,0 +1,119 @@
+#include "core/dates/CalendarContext.h"
+#include "core/store/ObjectContext.h"
+#include "lists/LulletListViewController.h"
+#include "lists/MainViewController.h"
+#include "shell/ViewSwitcher.h"
+#include "support/DatePrinting.h"
+#include "support/TestLaunch.h"
+#include "support/TestMain.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+// The main window's content: every segment walked, a project added, a search.
+class TestMainView : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<TestLaunch> m_app;
+
+    AppDelegate& app() { return m_app->delegate; }
+
+    static void saveShot(QWidget* widget, const QString& name)
+    {
+        const QString folder = qEnvironmentVariable("LULLET_SHOTS");
+        if (!folder.isEmpty())
+            widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        CalendarContext::setLocale(QStringLiteral("en_US"));
+        CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
+    }
+
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<TestLaunch>(m_dir->path(), at(2026, 11, 25, 12, 0));
+        QVERIFY(app().awakeFromNib());
+        ReminderInfo* walk = app().managedObjectContext().insertReminderInfo();
+        walk->setTitle(QStringLiteral("Walk the dog"));
+        walk->setDtReminder(at(2026, 11, 25, 18, 0));
+        app().addLulletObject(walk);
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void everySegmentShowsItsView()
+    {
+        MainViewController view(app());
+        view.resize(900, 600);
+        view.show();
+        QCOMPARE(view.switcher().currentName(), QStringLiteral("LulletList"));
+        QCOMPARE(view.rows()[2].count, std::optional<int>(1));
+        const std::pair<QString, QString> expected[] = {
+            {QStringLiteral("Dashboard"), QStringLiteral("Chart")},
+            {QStringLiteral("Lullets"), QStringLiteral("RepeatList")},
+            {QStringLiteral("Today"), QStringLiteral("LulletList")},
+            {QStringLiteral("Upcoming"), QStringLiteral("CustomList")},
+            {QStringLiteral("Anytime"), QStringLiteral("LulletList")},
+            {QStringLiteral("Completed"), QStringLiteral("CustomList")},
+        };
+        for (const auto& [segment, viewName] : expected) {
+            view.onSelectSegment(segment);
+            QCOMPARE(app().strSegmentSelectedNow, segment);
+            QCOMPARE(view.switcher().currentName(), viewName);
+            saveShot(&view, QStringLiteral("segment-") + segment);
+        }
+        // The separator can't be chosen.
+        view.tblSegments()->setCurrentRow(6);
+        QCOMPARE(app().strSegmentSelectedNow, QStringLiteral("Completed"));
+    }
+
+    void aNewProjectIsSelectedAndListed()
+    {
+        MainViewController view(app());
+        auto* field = view.findChild<QLineEdit*>(QStringLiteral("newProject"));
+        field->setText(QStringLiteral("garden"));
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(app().strSegmentSelectedNow, QStringLiteral("Project"));
+        QVERIFY(app().objProjectSelectedNow);
+        QCOMPARE(*app().objProjectSelectedNow->name(), QStringLiteral("Garden"));
+        QCOMPARE(view.switcher().currentName(), QStringLiteral("ProjectList"));
+        QCOMPARE(view.rows().back().name, QStringLiteral("Garden"));
+        QVERIFY(field->text().isEmpty());
+    }
+
+    void aSearchResultLeadsToItsList()
+    {
+        MainViewController view(app());
+        auto* search = view.findChild<QLineEdit*>(QStringLiteral("searchField"));
+        search->setText(QStringLiteral("today, walk"));
+        QStringList shown;
+        for (int i = 0; i < view.tblSegments()->count(); ++i)
+            shown << view.tblSegments()->item(i)->text();
+        QCOMPARE(shown.size(), 2);
+        QVERIFY(shown[0].startsWith(QStringLiteral("Today")));
+        QCOMPARE(shown[1], QStringLiteral("• Walk the dog"));
+        view.tblSegments()->setCurrentRow(1);
+        QVERIFY(search->text().isEmpty());
+        QCOMPARE(app().strSegmentSelectedNow, QStringLiteral("Today"));
+    }
+};
+
+LULLET_TEST_MAIN_WITH(QApplication, TestMainView)
+#include "tst_mainview.moc"

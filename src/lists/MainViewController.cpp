@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMessageBox>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -81,6 +83,32 @@ MainViewController::MainViewController(AppDelegate& app, QWidget* parent)
             dispatchForRowSelection(row);
     });
     connect(m_newProject, &QLineEdit::returnPressed, this, &MainViewController::onAddProject);
+    m_segments->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_segments, &QWidget::customContextMenuRequested, this, [this](const QPoint& pos) {
+        const int row = m_segments->row(m_segments->itemAt(pos));
+        // Only a project row has a menu.
+        if (row < 0 || row >= int(mArrSegments.size()) || !mArrSegments[std::size_t(row)].project)
+            return;
+        Project* project = mArrSegments[std::size_t(row)].project;
+        auto* menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        connect(menu->addAction(tr("Rename")), &QAction::triggered, this,
+                [this, project] { onEditProject(project); });
+        connect(menu->addAction(tr("Duplicate as new")), &QAction::triggered, this,
+                [this, project] { onDuplicateProject(project); });
+        connect(menu->addAction(tr("Delete")), &QAction::triggered, this,
+                [this, project] { onDeleteProject(project); });
+        menu->popup(m_segments->viewport()->mapToGlobal(pos));
+    });
+    connect(m_segments, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
+        Project* project = m_renaming;
+        if (!project)
+            return;
+        m_renaming = nullptr;
+        ProjectActions::renameProject(m_app, *project, item->text());
+        // The row shows the name the project has now, with its count.
+        loadSegments();
+    });
     connect(searchField, &QLineEdit::textChanged, this, &MainViewController::onDoSearch);
 
     NotificationCenter& center = m_app.notifCenter();
@@ -208,6 +236,50 @@ void MainViewController::onAddProject()
     m_newProject->clear();
     loadSegments();
     onSelectSegment(added.project->name().value_or(QString()));
+}
+
+void MainViewController::onEditProject(Project* project)
+{
+    for (std::size_t i = 0; i < mArrSegments.size(); ++i) {
+        if (mArrSegments[i].project != project)
+            continue;
+        QListWidgetItem* item = m_segments->item(int(i));
+        bDoNotSelectNow = true;
+        item->setFlags(item->flags() | Qt::ItemIsEditable);
+        item->setText(project->name().value_or(QString()));
+        bDoNotSelectNow = false;
+        m_renaming = project;
+        m_segments->editItem(item);
+        return;
+    }
+}
+
+void MainViewController::onDeleteProject(Project* project)
+{
+    if (ProjectActions::deleteAsks(*project) &&
+        QMessageBox::question(this, ProjectActions::deleteTitle(), ProjectActions::deleteQuestion(),
+                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
+        return;
+    // The row next to it takes the selection.
+    int index = -1;
+    for (std::size_t i = 0; i < mArrSegments.size(); ++i) {
+        if (mArrSegments[i].project == project)
+            index = int(i);
+    }
+    ProjectActions::deleteProject(m_app, *project);
+    loadSegments();
+    const int next = std::min(index, int(mArrSegments.size()) - 1);
+    if (next >= 0 && mArrSegments[std::size_t(next)].type != SidebarRow::Separator)
+        onSelectSegment(mArrSegments[std::size_t(next)].name);
+    else
+        onSelectSegment(QStringLiteral("Today"));
+}
+
+void MainViewController::onDuplicateProject(Project* project)
+{
+    Project* copy = ProjectActions::duplicateAsNew(m_app, *project);
+    loadSegments();
+    onSelectSegment(copy->name().value_or(QString()));
 }
 
 void MainViewController::onDoSearch(const QString& text)

@@ -30,6 +30,10 @@ public:
     void onSelectSegment(const QString& name);
     void onAddProject();
     void onDoSearch(const QString& text);
+    // The project row's actions.
+    void onEditProject(Project* project);
+    void onDeleteProject(Project* project);
+    void onDuplicateProject(Project* project);
 
 private:
     void loadSegments();
@@ -46,6 +50,7 @@ private:
     std::vector<SidebarRow> mArrSegments;
     bool m_showingResults = false;
     bool bDoNotSelectNow = false;
+    Project* m_renaming = nullptr;
 };
 
 } // namespace lullet

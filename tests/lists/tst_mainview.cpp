@@ -98,6 +98,29 @@ private Q_SLOTS:
         QVERIFY(field->text().isEmpty());
     }
 
+    void projectsAreRenamedDuplicatedAndDeleted()
+    {
+        MainViewController view(app());
+        auto* field = view.findChild<QLineEdit*>(QStringLiteral("newProject"));
+        for (const char* name : {"Home", "Work"}) {
+            field->setText(QString::fromLatin1(name));
+            QTest::keyClick(field, Qt::Key_Return);
+        }
+        Project* home = app().mArrAllProjects.front();
+        view.onEditProject(home);
+        view.tblSegments()->item(7)->setText(QStringLiteral("house"));
+        QCOMPARE(*home->name(), QStringLiteral("House"));
+
+        view.onDuplicateProject(home);
+        QCOMPARE(*app().objProjectSelectedNow->name(), QStringLiteral("House Copy"));
+        // Without items, no question; the selection moves to a neighbour.
+        Project* copy = app().objProjectSelectedNow;
+        view.onDeleteProject(copy);
+        QVERIFY(!copy->hasContext());
+        QVERIFY(app().objProjectSelectedNow && app().objProjectSelectedNow != copy);
+        QCOMPARE(view.rows().size(), std::size_t(9));
+    }
+
     void aSearchResultLeadsToItsList()
     {
         MainViewController view(app());

@@ -2,6 +2,7 @@
 
 #include "core/app/AppDelegate.h"
 #include "core/dates/Clock.h"
+#include "lists/RowValues.h"
 #include "scheduling/RepeatTypes.h"
 
 #include <algorithm>
@@ -83,6 +84,52 @@ void LulletListBuilder::getSortedArray(std::vector<ReminderInfo*>& items)
             return da.has_value() && !db.has_value();
         return *da < *db;
     });
+}
+
+QString LulletListBuilder::dayHeading(Date day)
+{
+    QString weekday = day.shortWeekdayToString();
+    QString month = day.shortMonthToString();
+    if (!weekday.isEmpty())
+        weekday[0] = weekday[0].toUpper();
+    if (!month.isEmpty())
+        month[0] = month[0].toUpper();
+    return weekday + u' ' + QString::number(day.day()) + QStringLiteral(", ") + month + u' ' +
+           QString::number(day.year());
+}
+
+std::vector<LulletRow> LulletListBuilder::groupByDay(const std::vector<ReminderInfo*>& items,
+                                                     AppDelegate& app, bool withProjectName)
+{
+    std::vector<ReminderInfo*> dated;
+    std::vector<ReminderInfo*> undated;
+    for (ReminderInfo* item : items)
+        (item->effectiveDate() ? dated : undated).push_back(item);
+    std::stable_sort(dated.begin(), dated.end(), [](const ReminderInfo* a, const ReminderInfo* b) {
+        return *a->effectiveDate() < *b->effectiveDate();
+    });
+    std::vector<LulletRow> rows;
+    std::optional<Date> currentDay;
+    const auto heading = [&rows](const QString& text) {
+        LulletRow row;
+        row.type = LulletRow::DayHeading;
+        row.title = text;
+        rows.push_back(row);
+    };
+    for (ReminderInfo* item : dated) {
+        const Date day = item->effectiveDate()->dateAtStartOfDay();
+        if (!currentDay || *currentDay != day) {
+            currentDay = day;
+            heading(dayHeading(day));
+        }
+        rows.push_back(RowValues::makeRow(item, app, withProjectName));
+    }
+    if (!undated.empty()) {
+        heading(QStringLiteral("AnyTime"));
+        for (ReminderInfo* item : undated)
+            rows.push_back(RowValues::makeRow(item, app, withProjectName));
+    }
+    return rows;
 }
 
 std::vector<ReminderInfo*> LulletListBuilder::prepareLulletListArray(const Scope& scope,

@@ -58,6 +58,13 @@ public:
     static void getSortedArray(std::vector<ReminderInfo*>& items);
     // The items of the scope, in order.
     static std::vector<ReminderInfo*> prepareLulletListArray(const Scope& scope, AppDelegate& app);
+
+    // "Wed 25, Nov 2026": the heading of a day's group.
+    static QString dayHeading(Date day);
+    // Rows grouped by day, each day under its heading, the days in date order and the items
+    // without a date last under "AnyTime".
+    static std::vector<LulletRow> groupByDay(const std::vector<ReminderInfo*>& items,
+                                             AppDelegate& app, bool withProjectName);
 };
 
 } // namespace lullet

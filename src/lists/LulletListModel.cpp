@@ -22,15 +22,24 @@ void LulletListModel::loadLulletLists()
 {
     beginResetModel();
     mArrLulletLists.clear();
-    for (ReminderInfo* item : LulletListBuilder::prepareLulletListArray(m_scope, m_app))
-        mArrLulletLists.push_back(RowValues::makeRow(item, m_app, m_withProjectName));
+    const std::vector<ReminderInfo*> items =
+        LulletListBuilder::prepareLulletListArray(m_scope, m_app);
+    // A project's list shows its whole content by day.
+    if (m_scope.project) {
+        mArrLulletLists = LulletListBuilder::groupByDay(items, m_app, m_withProjectName);
+    } else {
+        for (ReminderInfo* item : items)
+            mArrLulletLists.push_back(RowValues::makeRow(item, m_app, m_withProjectName));
+    }
     endResetModel();
 }
 
 void LulletListModel::refreshTexts()
 {
-    for (LulletRow& row : mArrLulletLists)
-        RowValues::setValues(row, m_app, m_withProjectName);
+    for (LulletRow& row : mArrLulletLists) {
+        if (row.type == LulletRow::Item)
+            RowValues::setValues(row, m_app, m_withProjectName);
+    }
     if (!mArrLulletLists.empty())
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
 }
@@ -81,6 +90,8 @@ QVariant LulletListModel::data(const QModelIndex& index, int role) const
     case FinishedRole:
         return item && item->hasFinished().value_or(false);
     case Qt::DisplayRole:
+        if (row.type == LulletRow::DayHeading)
+            return index.column() == StartColumn ? row.title : QVariant();
         switch (index.column()) {
         case TitleColumn:
             return row.title;
@@ -99,6 +110,11 @@ QVariant LulletListModel::data(const QModelIndex& index, int role) const
             return QColor(0xFC, 0x72, 0x74);
         return {};
     case Qt::FontRole:
+        if (row.type == LulletRow::DayHeading) {
+            QFont font;
+            font.setBold(true);
+            return font;
+        }
         if (index.column() == TitleColumn && item && item->hasFinished().value_or(false)) {
             QFont font;
             font.setStrikeOut(true);

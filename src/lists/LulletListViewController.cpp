@@ -7,6 +7,7 @@
 #include "lists/ListActions.h"
 #include "lists/LulletListModel.h"
 #include "lists/PostponeViewControllerNew.h"
+#include "lists/ProjectActions.h"
 #include "lists/RowValues.h"
 #include "lists/TaskStats.h"
 #include "monitor/Postponing.h"
@@ -72,6 +73,26 @@ LulletListViewController::LulletListViewController(AppDelegate& app, LulletListB
         lblTimeCompleted = countLabel(this);
         texts->addWidget(lblTimeCompleted);
         header->addLayout(texts, 1);
+        if (Project* project = scope.project) {
+            lblHeaderName->setText(project->name().value_or(QString()));
+            auto* duplicate = new QPushButton(tr("Duplicate"), this);
+            duplicate->setObjectName(QStringLiteral("onDuplicateAsNew"));
+            auto* remove = new QPushButton(tr("Delete"), this);
+            remove->setObjectName(QStringLiteral("onDeleteProject"));
+            header->addWidget(duplicate, 0, Qt::AlignVCenter);
+            header->addWidget(remove, 0, Qt::AlignVCenter);
+            connect(duplicate, &QPushButton::clicked, this,
+                    [this, project] { ProjectActions::duplicateAsNew(m_app, *project); });
+            connect(remove, &QPushButton::clicked, this, [this, project] {
+                if (ProjectActions::deleteAsks(*project) &&
+                    QMessageBox::question(this, ProjectActions::deleteTitle(),
+                                          ProjectActions::deleteQuestion(),
+                                          QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
+                    return;
+                m_app.notifCenter().post(notification::onDeleteRequested,
+                                         QVariant::fromValue(project));
+            });
+        }
         btnOngoingOrCompleted = new ButtonStyles(QString(), this);
         btnOngoingOrCompleted->bNoHover = true;
         header->addWidget(btnOngoingOrCompleted, 0, Qt::AlignVCenter);
@@ -189,9 +210,15 @@ void LulletListViewController::loadLulletLists()
 
 void LulletListViewController::placeStartButtons()
 {
+    m_table->clearSpans();
     for (int row = 0; row < m_model->rowCount(); ++row) {
         const QModelIndex index = m_model->index(row, LulletListModel::StartColumn);
         auto* item = m_model->data(index, LulletListModel::ItemRole).value<ReminderInfo*>();
+        if (!item) {
+            // A day's heading across the whole row.
+            m_table->setSpan(row, 0, 1, LulletListModel::ColumnCount);
+            continue;
+        }
         const bool running = item == m_app.objReminderRunningNow;
         const bool finished = item && item->hasFinished().value_or(false);
         auto* button = new QPushButton(finished  ? QStringLiteral("✓")

@@ -128,6 +128,19 @@ MainViewController::MainViewController(AppDelegate& app, QWidget* parent)
           notification::onRestoreDatabaseDone, notification::onSynciCloud})
         center.addObserver(this, name, [this](const QVariant&) { loadSegments(); });
 
+    // The project list's own buttons ask the main view to delete or show a copy.
+    center.addObserver(this, notification::onDeleteRequested, [this](const QVariant& object) {
+        if (auto* project = object.value<Project*>(); project && project->hasContext())
+            QMetaObject::invokeMethod(
+                this, [this, project] { onDeleteProject(project, false); }, Qt::QueuedConnection);
+    });
+    center.addObserver(this, notification::onDuplicationRequested, [this](const QVariant& object) {
+        if (auto* copy = object.value<Project*>()) {
+            loadSegments();
+            onSelectSegment(copy->name().value_or(QString()));
+        }
+    });
+
     loadSegments();
     onSelectSegment(m_app.objProjectSelectedNow
                         ? m_app.objProjectSelectedNow->name().value_or(QString())
@@ -254,9 +267,9 @@ void MainViewController::onEditProject(Project* project)
     }
 }
 
-void MainViewController::onDeleteProject(Project* project)
+void MainViewController::onDeleteProject(Project* project, bool ask)
 {
-    if (ProjectActions::deleteAsks(*project) &&
+    if (ask && ProjectActions::deleteAsks(*project) &&
         QMessageBox::question(this, ProjectActions::deleteTitle(), ProjectActions::deleteQuestion(),
                               QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
         return;
@@ -277,9 +290,8 @@ void MainViewController::onDeleteProject(Project* project)
 
 void MainViewController::onDuplicateProject(Project* project)
 {
-    Project* copy = ProjectActions::duplicateAsNew(m_app, *project);
-    loadSegments();
-    onSelectSegment(copy->name().value_or(QString()));
+    // The copy is announced, and selected when the announcement arrives.
+    ProjectActions::duplicateAsNew(m_app, *project);
 }
 
 void MainViewController::onDoSearch(const QString& text)

@@ -32,7 +32,7 @@ public:
     void onDoSearch(const QString& text);
     // The project row's actions.
     void onEditProject(Project* project);
-    void onDeleteProject(Project* project);
+    void onDeleteProject(Project* project, bool ask = true);
     void onDuplicateProject(Project* project);
 
 private:

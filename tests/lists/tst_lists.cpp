@@ -196,6 +196,30 @@ private Q_SLOTS:
         QCOMPARE(*app().mArrAllLullets.front()->dtReminder(), test::at(2026, 11, 25, 13, 0));
     }
 
+    void aProjectListsItsItemsByDay()
+    {
+        Project* home = app().managedObjectContext().insertProject();
+        home->setName(QStringLiteral("Home"));
+        item(QStringLiteral("Later"), test::at(2026, 11, 27, 9, 0))->setToProject(home);
+        ReminderInfo* done = item(QStringLiteral("Done"), test::at(2026, 11, 25, 8, 0));
+        done->setToProject(home);
+        done->setHasFinished(true);
+        item(QStringLiteral("Soon"), test::at(2026, 11, 25, 15, 0))->setToProject(home);
+        item(QStringLiteral("Whenever"), std::nullopt)->setToProject(home);
+        item(QStringLiteral("Elsewhere"), test::at(2026, 11, 25, 9, 0));
+        const LulletListBuilder::Scope scope{QStringLiteral("Project"), home, false};
+        const std::vector<LulletRow> rows = LulletListBuilder::groupByDay(
+            LulletListBuilder::prepareLulletListArray(scope, app()), app(), false);
+        QStringList shown;
+        for (const LulletRow& row : rows)
+            shown << (row.type == LulletRow::DayHeading ? QStringLiteral("# ") : QString()) +
+                         row.title;
+        QCOMPARE(shown, (QStringList{QStringLiteral("# Wed 25, Nov 2026"), QStringLiteral("Done"),
+                                     QStringLiteral("Soon"), QStringLiteral("# Fri 27, Nov 2026"),
+                                     QStringLiteral("Later"), QStringLiteral("# AnyTime"),
+                                     QStringLiteral("Whenever")}));
+    }
+
     void deleteMoveAndDuplicate()
     {
         Project* home = app().managedObjectContext().insertProject();

@@ -132,6 +132,71 @@ std::vector<LulletRow> LulletListBuilder::groupByDay(const std::vector<ReminderI
     return rows;
 }
 
+std::vector<LulletRow> LulletListBuilder::customListing(const QString& segment, AppDelegate& app)
+{
+    const bool upcoming = segment == QStringLiteral("Upcoming");
+    const Date now = app.clock().now();
+    std::vector<ReminderInfo*> items;
+    for (ReminderInfo* item : app.getAllLulletLists()) {
+        const bool finished = item->hasFinished().value_or(false);
+        const std::optional<Date> due = item->effectiveDate();
+        if (!due || finished == upcoming || (upcoming && !(*due > now)))
+            continue;
+        items.push_back(item);
+    }
+    // The later first; the days are then put in the segment's order.
+    std::stable_sort(items.begin(), items.end(), [](const ReminderInfo* a, const ReminderInfo* b) {
+        return *a->effectiveDate() > *b->effectiveDate();
+    });
+    std::vector<std::pair<Date, std::vector<ReminderInfo*>>> days;
+    for (ReminderInfo* item : items) {
+        const Date day = item->effectiveDate()->dateAtStartOfDay();
+        if (days.empty() || days.back().first != day)
+            days.push_back({day, {}});
+        days.back().second.push_back(item);
+    }
+    if (upcoming)
+        std::reverse(days.begin(), days.end());
+
+    std::vector<LulletRow> rows;
+    for (const auto& [day, dayItems] : days) {
+        LulletRow heading;
+        heading.type = LulletRow::DayHeading;
+        heading.title = dayHeading(day);
+        heading.countOnDay = int(dayItems.size());
+        const std::size_t headingAt = rows.size();
+        rows.push_back(heading);
+        int used = 0;
+        for (ReminderInfo* item : dayItems) {
+            rows.push_back(RowValues::makeRow(item, app, true));
+            used += rows.back().timeUsedInSeconds;
+        }
+        rows[headingAt].timeUsedInSeconds = used;
+        rows[headingAt].timeUsed = RowValues::getStringFromSeconds(used);
+    }
+    return rows;
+}
+
+std::vector<std::pair<Date, int>>
+LulletListBuilder::timeUsedByDay(const std::vector<LulletRow>& rows)
+{
+    std::vector<std::pair<Date, int>> days;
+    for (const LulletRow& row : rows) {
+        if (row.type != LulletRow::Item || !row.representedObject)
+            continue;
+        const Date day = row.representedObject->effectiveDate()->dateAtStartOfDay();
+        auto it =
+            std::find_if(days.begin(), days.end(), [day](const auto& d) { return d.first == day; });
+        if (it == days.end())
+            days.push_back({day, row.timeUsedInSeconds});
+        else
+            it->second += row.timeUsedInSeconds;
+    }
+    std::sort(days.begin(), days.end(),
+              [](const auto& a, const auto& b) { return a.first < b.first; });
+    return days;
+}
+
 std::vector<ReminderInfo*> LulletListBuilder::prepareLulletListArray(const Scope& scope,
                                                                      AppDelegate& app)
 {

@@ -23,6 +23,10 @@ public:
 
         bool isAnytime() const { return segment == QStringLiteral("Anytime"); }
         bool isToday() const { return segment == QStringLiteral("Today"); }
+        bool isCustomListing() const
+        {
+            return segment == QStringLiteral("Upcoming") || segment == QStringLiteral("Completed");
+        }
     };
 
     // The days ahead within which an item already shows in "Today".
@@ -65,6 +69,13 @@ public:
     // without a date last under "AnyTime".
     static std::vector<LulletRow> groupByDay(const std::vector<ReminderInfo*>& items,
                                              AppDelegate& app, bool withProjectName);
+
+    // "Upcoming" (unfinished items dated after now, the nearest day first) or "Completed"
+    // (finished dated items, the newest day first), by day; within a day the later first. A
+    // heading carries the day's count and the time used on it.
+    static std::vector<LulletRow> customListing(const QString& segment, AppDelegate& app);
+    // Seconds used by day, the days in time order, for the chart.
+    static std::vector<std::pair<Date, int>> timeUsedByDay(const std::vector<LulletRow>& rows);
 };
 
 } // namespace lullet

@@ -22,6 +22,11 @@ void LulletListModel::loadLulletLists()
 {
     beginResetModel();
     mArrLulletLists.clear();
+    if (m_scope.isCustomListing()) {
+        mArrLulletLists = LulletListBuilder::customListing(m_scope.segment, m_app);
+        endResetModel();
+        return;
+    }
     const std::vector<ReminderInfo*> items =
         LulletListBuilder::prepareLulletListArray(m_scope, m_app);
     // A project's list shows its whole content by day.
@@ -90,8 +95,15 @@ QVariant LulletListModel::data(const QModelIndex& index, int role) const
     case FinishedRole:
         return item && item->hasFinished().value_or(false);
     case Qt::DisplayRole:
-        if (row.type == LulletRow::DayHeading)
-            return index.column() == StartColumn ? row.title : QVariant();
+        if (row.type == LulletRow::DayHeading) {
+            if (index.column() == StartColumn)
+                return row.countOnDay > 0
+                           ? row.title + QStringLiteral("  (%1)").arg(row.countOnDay) +
+                                 (row.timeUsedInSeconds > 0 ? QStringLiteral("   ") + row.timeUsed
+                                                            : QString())
+                           : row.title;
+            return QVariant();
+        }
         switch (index.column()) {
         case TitleColumn:
             return row.title;

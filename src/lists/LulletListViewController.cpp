@@ -15,6 +15,11 @@
 #include "toolkit/CircularBarView.h"
 #include "toolkit/HexColor.h"
 
+#include <QBarCategoryAxis>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -23,6 +28,7 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <QValueAxis>
 
 namespace lullet {
 
@@ -102,6 +108,14 @@ LulletListViewController::LulletListViewController(AppDelegate& app, LulletListB
         circularView->setFixedSize(72, 72);
         header->addWidget(circularView);
         layout->addLayout(header);
+        if (scope.isCustomListing()) {
+            m_chart = new QChartView(this);
+            m_chart->setObjectName(QStringLiteral("barChartView"));
+            m_chart->setRenderHint(QPainter::Antialiasing);
+            m_chart->setMinimumHeight(160);
+            m_chart->setMaximumHeight(200);
+            layout->addWidget(m_chart);
+        }
     }
 
     m_table->setModel(m_model);
@@ -157,14 +171,28 @@ LulletListViewController::LulletListViewController(AppDelegate& app, LulletListB
         m_viewNoData->setVisible(empty);
         m_table->setVisible(!empty);
         updateStatsDisplay();
+        updateChart();
     });
 
     NotificationCenter& center = m_app.notifCenter();
-    for (const QLatin1String name :
-         {notification::onQuickAddFromPrompt, notification::onReminderStarted,
-          notification::onReminderFinished, notification::onReminderExtended,
-          notification::preRemoveInOther, notification::onItemDeleted})
+    for (const QLatin1String name : {notification::onQuickAddFromPrompt,
+                                     notification::preRemoveInOther, notification::onItemDeleted})
         center.addObserver(this, name, [this](const QVariant&) { loadLulletLists(); });
+    for (const QLatin1String name :
+         {notification::onReminderStarted, notification::onReminderFinished,
+          notification::onReminderExtended}) {
+        center.addObserver(this, name, [this](const QVariant& object) {
+            // Upcoming and Completed give way to "Today", where the running state shows.
+            if (m_withHeader && m_model->scope().isCustomListing() &&
+                object.value<ReminderInfo*>()) {
+                m_app.objProjectSelectedNow = nullptr;
+                m_app.strSegmentSelectedNow = QStringLiteral("Today");
+                m_app.notifCenter().post(notification::onExternallyShiftSegment);
+                return;
+            }
+            loadLulletLists();
+        });
+    }
     center.addObserver(this, notification::onItemAddedOrEdited, [this](const QVariant& object) {
         loadLulletLists();
         // A new or edited item is shown selected where it now stands.
@@ -353,6 +381,36 @@ void LulletListViewController::showTaskCompletionMessage(const ReminderInfo& ite
     QMessageBox::information(this, tr("Task completed"),
                              item.title().value_or(QString()) +
                                  QStringLiteral(" has been completed now"));
+}
+
+void LulletListViewController::updateChart()
+{
+    if (!m_chart)
+        return;
+    auto* set = new QBarSet(tr("Hours used"));
+    set->setColor(*HexColor::fromHex(ongoingColor));
+    QStringList days;
+    for (const auto& [day, seconds] : LulletListBuilder::timeUsedByDay(m_model->rows())) {
+        *set << seconds / 3600.0;
+        days << QString::number(day.day()) + u' ' + day.shortMonthToString();
+    }
+    auto* series = new QBarSeries;
+    series->append(set);
+    auto* chart = new QChart;
+    chart->addSeries(series);
+    chart->legend()->hide();
+    chart->setMargins(QMargins(0, 0, 0, 0));
+    auto* axisX = new QBarCategoryAxis;
+    axisX->append(days);
+    chart->addAxis(axisX, Qt::AlignBottom);
+    series->attachAxis(axisX);
+    auto* axisY = new QValueAxis;
+    axisY->setLabelFormat(QStringLiteral("%.1f h"));
+    chart->addAxis(axisY, Qt::AlignLeft);
+    series->attachAxis(axisY);
+    QChart* old = m_chart->chart();
+    m_chart->setChart(chart);
+    delete old;
 }
 
 void LulletListViewController::onMonitoringDone()

@@ -7,6 +7,7 @@
 class QLabel;
 class QMenu;
 class QTableView;
+class QChartView;
 
 namespace lullet {
 
@@ -43,6 +44,8 @@ private:
     void updateStatsDisplay();
     void placeStartButtons();
     void onMonitoringDone();
+    // Upcoming and Completed: the time used by day, as bars.
+    void updateChart();
     void showPostponeMessage(const ReminderInfo& item);
     // In the status popover, where nothing else shows it.
     void showTaskCompletionMessage(const ReminderInfo& item);
@@ -61,6 +64,7 @@ private:
     QLabel* lblTimeCompleted = nullptr;
     CircularBarView* circularView = nullptr;
     ButtonStyles* btnOngoingOrCompleted = nullptr;
+    QChartView* m_chart = nullptr;
 };
 
 } // namespace lullet

@@ -22,6 +22,8 @@ struct LulletRow {
     int timeUsedInSeconds = 0;
     QString duration;
     QString projectName;
+    // Day headings of the grouped lists: how many rows the day holds.
+    int countOnDay = 0;
 };
 
 } // namespace lullet

@@ -70,8 +70,10 @@ MainViewController::MainViewController(AppDelegate& app, QWidget* parent)
         return new LulletListViewController(
             m_app, {QStringLiteral("Project"), m_app.objProjectSelectedNow, false}, true);
     });
-    m_switcher->registerView(QStringLiteral("CustomList"),
-                             [] { return comingView(tr("Upcoming and Completed come next.")); });
+    m_switcher->registerView(QStringLiteral("CustomList"), [this] {
+        return new LulletListViewController(m_app, {m_app.strSegmentSelectedNow, nullptr, false},
+                                            true);
+    });
     m_switcher->registerView(QStringLiteral("Chart"), [] {
         return comingView(tr("The dashboard comes with the reports."));
     });
@@ -128,6 +130,11 @@ MainViewController::MainViewController(AppDelegate& app, QWidget* parent)
           notification::onRestoreDatabaseDone, notification::onSynciCloud})
         center.addObserver(this, name, [this](const QVariant&) { loadSegments(); });
 
+    // A list that gives way names the segment to show.
+    center.addObserver(this, notification::onExternallyShiftSegment, [this](const QVariant&) {
+        QMetaObject::invokeMethod(
+            this, [this] { onSelectSegment(m_app.strSegmentSelectedNow); }, Qt::QueuedConnection);
+    });
     // The project list's own buttons ask the main view to delete or show a copy.
     center.addObserver(this, notification::onDeleteRequested, [this](const QVariant& object) {
         if (auto* project = object.value<Project*>(); project && project->hasContext())

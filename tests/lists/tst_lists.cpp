@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <tuple>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -218,6 +219,49 @@ private Q_SLOTS:
                                      QStringLiteral("Soon"), QStringLiteral("# Fri 27, Nov 2026"),
                                      QStringLiteral("Later"), QStringLiteral("# AnyTime"),
                                      QStringLiteral("Whenever")}));
+    }
+
+    void upcomingAndCompletedByDay()
+    {
+        item(QStringLiteral("Past open"), test::at(2026, 11, 25, 9, 0));
+        item(QStringLiteral("Tomorrow early"), test::at(2026, 11, 26, 8, 0));
+        item(QStringLiteral("Tomorrow late"), test::at(2026, 11, 26, 17, 0));
+        item(QStringLiteral("Later"), test::at(2026, 11, 30, 9, 0));
+        item(QStringLiteral("No date"), std::nullopt);
+        for (const auto& [title, due, used] :
+             {std::tuple{"Done a", test::at(2026, 11, 24, 9, 0), 600},
+              std::tuple{"Done b", test::at(2026, 11, 24, 15, 0), 900},
+              std::tuple{"Done c", test::at(2026, 11, 24, 11, 0), 300},
+              std::tuple{"Done d", test::at(2026, 11, 25, 8, 0), 60}}) {
+            ReminderInfo* r = item(QString::fromLatin1(title), due);
+            r->setHasFinished(true);
+            r->setElapsedTime(used);
+        }
+        const auto shown = [this](const QString& segment) {
+            QStringList list;
+            for (const LulletRow& row : LulletListBuilder::customListing(segment, app()))
+                list << (row.type == LulletRow::DayHeading ? QStringLiteral("# %1 %2 %3")
+                                                                 .arg(row.title)
+                                                                 .arg(row.countOnDay)
+                                                                 .arg(row.timeUsed)
+                                                           : row.title);
+            return list;
+        };
+        // The nearest day first, the later first within a day; nothing past or undated.
+        QCOMPARE(shown(QStringLiteral("Upcoming")),
+                 (QStringList{QStringLiteral("# Thu 26, Nov 2026 2 00:00:00"),
+                              QStringLiteral("Tomorrow late"), QStringLiteral("Tomorrow early"),
+                              QStringLiteral("# Mon 30, Nov 2026 1 00:00:00"),
+                              QStringLiteral("Later")}));
+        QCOMPARE(
+            shown(QStringLiteral("Completed")),
+            (QStringList{QStringLiteral("# Wed 25, Nov 2026 1 00:01:00"), QStringLiteral("Done d"),
+                         QStringLiteral("# Tue 24, Nov 2026 3 00:30:00"), QStringLiteral("Done b"),
+                         QStringLiteral("Done c"), QStringLiteral("Done a")}));
+        const auto byDay = LulletListBuilder::timeUsedByDay(
+            LulletListBuilder::customListing(QStringLiteral("Completed"), app()));
+        QCOMPARE(byDay.size(), std::size_t(2));
+        QCOMPARE(byDay[0].second, 1800);
     }
 
     void deleteMoveAndDuplicate()

@@ -1,5 +1,6 @@
 #include "core/dates/CalendarContext.h"
 #include "core/store/ObjectContext.h"
+#include "lists/ListActions.h"
 #include "lists/LulletListViewController.h"
 #include "lists/MainViewController.h"
 #include "shell/ViewSwitcher.h"
@@ -82,6 +83,16 @@ private Q_SLOTS:
         // The separator can't be chosen.
         view.tblSegments()->setCurrentRow(6);
         QCOMPARE(app().strSegmentSelectedNow, QStringLiteral("Completed"));
+    }
+
+    void upcomingGivesWayToTodayWhenAnItemStarts()
+    {
+        MainViewController view(app());
+        view.onSelectSegment(QStringLiteral("Upcoming"));
+        QCOMPARE(view.switcher().currentName(), QStringLiteral("CustomList"));
+        ListActions::start(app(), *app().mArrAllLullets.front());
+        QTRY_COMPARE(app().strSegmentSelectedNow, QStringLiteral("Today"));
+        QTRY_COMPARE(view.switcher().currentName(), QStringLiteral("LulletList"));
     }
 
     void aNewProjectIsSelectedAndListed()

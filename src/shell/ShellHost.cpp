@@ -4,11 +4,11 @@
 #include "core/app/AppDelegate.h"
 #include "core/notify/NotificationCenter.h"
 #include "core/notify/Notifications.h"
-#include "lists/MainViewController.h"
 #include "prompts/AlertViewController.h"
 #include "prompts/LulletAlertViewController.h"
 #include "prompts/ReminderViewController.h"
 #include "prompts/TimeoverAlertViewController.h"
+#include "shell/ContainerViewController.h"
 #include "shell/MainWindow.h"
 #include "shell/Popover.h"
 #include "shell/RunningRemindersView.h"
@@ -84,8 +84,16 @@ void ShellHost::openStatusMenu()
 void ShellHost::prepareMainWindow(bool welcomeDone, bool locked)
 {
     // The records are loaded by now.
-    if (m_app && !qobject_cast<MainViewController*>(m_window.centralWidget()))
-        m_window.setCentralWidget(new MainViewController(*m_app));
+    if (m_app && !qobject_cast<ContainerViewController*>(m_window.centralWidget())) {
+        auto* container = new ContainerViewController(*m_app);
+        connect(container, &ContainerViewController::proceededFromWelcome, this, [this] {
+            m_window.setWindowFlags(Qt::Window);
+            m_window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+            m_window.applyWorkingSizing(false);
+            m_window.show();
+        });
+        m_window.setCentralWidget(container);
+    }
     if (welcomeDone)
         m_window.applyWorkingSizing(locked);
     else

@@ -1,8 +1,10 @@
 #include "core/dates/CalendarContext.h"
+#include "core/settings/SettingsKeys.h"
 #include "core/store/ObjectContext.h"
 #include "lists/ListActions.h"
 #include "lists/LulletListViewController.h"
 #include "lists/MainViewController.h"
+#include "shell/ContainerViewController.h"
 #include "shell/ViewSwitcher.h"
 #include "support/DatePrinting.h"
 #include "support/TestLaunch.h"
@@ -12,6 +14,8 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -93,6 +97,24 @@ private Q_SLOTS:
         ListActions::start(app(), *app().mArrAllLullets.front());
         QTRY_COMPARE(app().strSegmentSelectedNow, QStringLiteral("Today"));
         QTRY_COMPARE(view.switcher().currentName(), QStringLiteral("LulletList"));
+    }
+
+    void theWelcomeLeadsToTheMainView()
+    {
+        ContainerViewController container(app());
+        QVERIFY(container.showsWelcome());
+        QVERIFY(!container.findChild<MainViewController*>());
+        QSignalSpy proceeded(&container, &ContainerViewController::proceededFromWelcome);
+        container.findChild<QPushButton*>(QStringLiteral("skipIntro"))->click();
+        QCOMPARE(proceeded.count(), 1);
+        QVERIFY(m_app->defaults.boolean(SettingsKeys::isShowFirst));
+        QVERIFY(container.findChild<MainViewController*>());
+        // With the welcome done, the idle question may come at once.
+        QCoreApplication::processEvents();
+        QCOMPARE(m_app->host.promptKinds(), QStringList{QStringLiteral("idle")});
+        // Next time the main view comes first.
+        ContainerViewController again(app());
+        QVERIFY(!again.showsWelcome());
     }
 
     void aNewProjectIsSelectedAndListed()

@@ -196,9 +196,24 @@ LulletListViewController::LulletListViewController(AppDelegate& app, LulletListB
     center.addObserver(this, notification::onItemAddedOrEdited, [this](const QVariant& object) {
         loadLulletLists();
         // A new or edited item is shown selected where it now stands.
-        const int row = m_model->rowOf(object.value<ReminderInfo*>());
-        if (row >= 0)
+        ReminderInfo* item = object.value<ReminderInfo*>();
+        const int row = m_model->rowOf(item);
+        if (row >= 0) {
             m_table->selectRow(row);
+            return;
+        }
+        // Not listed here: the main view moves to where it belongs.
+        const LulletListBuilder::Scope& shown = m_model->scope();
+        if (item && item->hasContext() && m_withHeader && !shown.project &&
+            !shown.isCustomListing()) {
+            const QString target =
+                item->effectiveDate() ? QStringLiteral("Today") : QStringLiteral("Anytime");
+            if (target != shown.segment &&
+                LulletListBuilder::belongs(*item, {target, nullptr, false}, m_app)) {
+                m_app.strSegmentSelectedNow = target;
+                m_app.notifCenter().post(notification::onExternallyShiftSegment);
+            }
+        }
     });
     center.addObserver(this, notification::onReminderPostponed, [this](const QVariant& object) {
         const ReminderInfo* item = object.value<ReminderInfo*>();

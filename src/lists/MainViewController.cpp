@@ -1,5 +1,6 @@
 #include "lists/MainViewController.h"
 
+#include "authoring/QuickAddViewController.h"
 #include "core/app/AppDelegate.h"
 #include "core/notify/NotificationCenter.h"
 #include "core/notify/Notifications.h"
@@ -58,7 +59,14 @@ MainViewController::MainViewController(AppDelegate& app, QWidget* parent)
     sidebar->setMinimumWidth(170);
     sidebar->setMaximumWidth(280);
     splitter->addWidget(sidebar);
-    splitter->addWidget(m_switcher);
+    auto* right = new QWidget(splitter);
+    auto* rightLayout = new QVBoxLayout(right);
+    rightLayout->setContentsMargins(0, 0, 0, 0);
+    m_quickAdd = new QuickAddViewController(m_app, right);
+    m_quickAdd->hide();
+    rightLayout->addWidget(m_quickAdd);
+    rightLayout->addWidget(m_switcher, 1);
+    splitter->addWidget(right);
     splitter->setStretchFactor(1, 1);
     layout->addWidget(splitter);
 
@@ -85,6 +93,11 @@ MainViewController::MainViewController(AppDelegate& app, QWidget* parent)
             dispatchForRowSelection(row);
     });
     connect(m_newProject, &QLineEdit::returnPressed, this, &MainViewController::onAddProject);
+    connect(m_quickAdd, &QuickAddViewController::added, this, [this] {
+        m_quickAdd->txtTaskQuickAdd->clear();
+        m_quickAdd->hide();
+        m_app.notifCenter().post(notification::onChangeInData);
+    });
     m_segments->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_segments, &QWidget::customContextMenuRequested, this, [this](const QPoint& pos) {
         const int row = m_segments->row(m_segments->itemAt(pos));
@@ -130,6 +143,8 @@ MainViewController::MainViewController(AppDelegate& app, QWidget* parent)
           notification::onRestoreDatabaseDone, notification::onSynciCloud})
         center.addObserver(this, name, [this](const QVariant&) { loadSegments(); });
 
+    for (const QLatin1String name : {notification::doAskQuickAdd, notification::onCallQuickAdd})
+        center.addObserver(this, name, [this](const QVariant&) { onQuickAddTask(); });
     // A list that gives way names the segment to show.
     center.addObserver(this, notification::onExternallyShiftSegment, [this](const QVariant&) {
         QMetaObject::invokeMethod(
@@ -299,6 +314,16 @@ void MainViewController::onDuplicateProject(Project* project)
 {
     // The copy is announced, and selected when the announcement arrives.
     ProjectActions::duplicateAsNew(m_app, *project);
+}
+
+void MainViewController::onQuickAddTask()
+{
+    if (m_quickAdd->isVisible() && !m_quickAdd->txtTaskQuickAdd->text().trimmed().isEmpty()) {
+        m_quickAdd->onDoAdd();
+        return;
+    }
+    m_quickAdd->show();
+    m_quickAdd->txtTaskQuickAdd->setFocus();
 }
 
 void MainViewController::onDoSearch(const QString& text)

@@ -12,6 +12,7 @@ class QListWidget;
 namespace lullet {
 
 class AppDelegate;
+class QuickAddViewController;
 class ViewSwitcher;
 
 // The main window's content: the sidebar of segments and projects, with search and a field for
@@ -30,6 +31,9 @@ public:
     void onSelectSegment(const QString& name);
     void onAddProject();
     void onDoSearch(const QString& text);
+    // The quick-add bar above the view: shown, or, when shown, its task added.
+    void onQuickAddTask();
+    QuickAddViewController* quickAddBar() const { return m_quickAdd; }
     // The project row's actions.
     void onEditProject(Project* project);
     void onDeleteProject(Project* project, bool ask = true);
@@ -47,6 +51,7 @@ private:
     QListWidget* m_segments;
     QLineEdit* m_newProject;
     ViewSwitcher* m_switcher;
+    QuickAddViewController* m_quickAdd = nullptr;
     std::vector<SidebarRow> mArrSegments;
     bool m_showingResults = false;
     bool bDoNotSelectNow = false;

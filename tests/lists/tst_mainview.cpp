@@ -1,4 +1,6 @@
+#include "authoring/QuickAddViewController.h"
 #include "core/dates/CalendarContext.h"
+#include "core/notify/Notifications.h"
 #include "core/settings/SettingsKeys.h"
 #include "core/store/ObjectContext.h"
 #include "lists/ListActions.h"
@@ -115,6 +117,23 @@ private Q_SLOTS:
         // Next time the main view comes first.
         ContainerViewController again(app());
         QVERIFY(!again.showsWelcome());
+    }
+
+    void theQuickAddBarAndWhereTheTaskShows()
+    {
+        MainViewController view(app());
+        view.show();
+        QVERIFY(!view.quickAddBar()->isVisible());
+        m_app->center.post(notification::doAskQuickAdd);
+        QVERIFY(view.quickAddBar()->isVisible());
+        // Without a date the task belongs to "Anytime", where the view moves.
+        view.quickAddBar()->model().doUnsetDate();
+        view.quickAddBar()->txtTaskQuickAdd->setText(QStringLiteral("read a book"));
+        view.onQuickAddTask();
+        QVERIFY(!view.quickAddBar()->isVisible());
+        QCOMPARE(*app().mArrAllLullets.back()->title(), QStringLiteral("Read a book"));
+        QTRY_COMPARE(app().strSegmentSelectedNow, QStringLiteral("Anytime"));
+        QTRY_COMPARE(view.tblSegments()->currentRow(), 4);
     }
 
     void aNewProjectIsSelectedAndListed()

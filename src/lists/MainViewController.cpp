@@ -173,7 +173,11 @@ QString MainViewController::rowText(const SidebarRow& row) const
 {
     if (row.type == SidebarRow::Separator)
         return {};
-    return row.count ? row.name + QStringLiteral("   ") + QString::number(*row.count) : row.name;
+    QString text =
+        row.count ? row.name + QStringLiteral("   ") + QString::number(*row.count) : row.name;
+    if (row.progress && *row.progress > 0)
+        text += QStringLiteral("   %1%").arg(qRound(*row.progress * 100));
+    return text;
 }
 
 void MainViewController::loadSegments()
@@ -209,6 +213,10 @@ void MainViewController::updateDefaultSegments()
     for (std::size_t i = 0; i < mArrSegments.size() && i < std::size_t(m_segments->count()); ++i) {
         SidebarRow& row = mArrSegments[i];
         row.count = Segments::countFor(row, counts);
+        // Each second only the running item's project moves on.
+        const ReminderInfo* running = m_app.objReminderRunningNow;
+        if (row.project && (!running || running->toProject() == row.project))
+            row.progress = Segments::projectProgress(*row.project, m_app);
         m_segments->item(int(i))->setText(rowText(row));
     }
 }

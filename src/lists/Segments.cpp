@@ -4,6 +4,7 @@
 #include "core/dates/Clock.h"
 #include "core/text/LocalizedText.h"
 #include "lists/LulletListBuilder.h"
+#include "lists/TaskStats.h"
 #include "scheduling/CatalogueRow.h"
 #include "scheduling/DefaultCatalogue.h"
 
@@ -79,18 +80,32 @@ std::vector<SidebarRow> Segments::prepareSegments(AppDelegate& app)
     const Counts counts = Counts::compute(app);
     std::vector<SidebarRow> rows;
     for (const QString& name : arrayTypes()) {
-        SidebarRow row{name, SidebarRow::Segment, nullptr, nullptr, std::nullopt};
+        SidebarRow row{name, SidebarRow::Segment, nullptr, nullptr, std::nullopt, std::nullopt};
         row.count = countFor(row, counts);
         rows.push_back(row);
     }
-    rows.push_back({QString(), SidebarRow::Separator, nullptr, nullptr, std::nullopt});
+    rows.push_back(
+        {QString(), SidebarRow::Separator, nullptr, nullptr, std::nullopt, std::nullopt});
     for (Project* project : app.getAllProjectsLists()) {
-        SidebarRow row{project->name().value_or(QString()), SidebarRow::ProjectRow, project,
-                       nullptr, std::nullopt};
+        SidebarRow row{project->name().value_or(QString()),
+                       SidebarRow::ProjectRow,
+                       project,
+                       nullptr,
+                       std::nullopt,
+                       std::nullopt};
         row.count = countFor(row, counts);
+        row.progress = projectProgress(*project, app);
         rows.push_back(row);
     }
     return rows;
+}
+
+double Segments::projectProgress(const Project& project, AppDelegate& app)
+{
+    const TaskStats stats = TaskStats::getTaskStats(project.toReminders(), app);
+    return stats.totalTimeAllotted > 0
+               ? double(stats.timeCompletedRunning) / double(stats.totalTimeAllotted)
+               : 0.0;
 }
 
 QString Segments::segmentFor(const ReminderInfo& item, AppDelegate& app)
@@ -163,7 +178,8 @@ std::vector<SidebarRow> Segments::search(const QString& text, const std::vector<
         const bool isAnytime = anytime && !due;
         if ((byTitle || isToday || isAnytime) && !listed.contains(item)) {
             listed.insert(item);
-            found.push_back({title, SidebarRow::Segment, nullptr, item, std::nullopt});
+            found.push_back(
+                {title, SidebarRow::Segment, nullptr, item, std::nullopt, std::nullopt});
         }
     }
     return found;

@@ -22,6 +22,8 @@ struct SidebarRow {
     // Search results may also be items.
     ReminderInfo* item = nullptr;
     std::optional<int> count;
+    // A project's progress: time spent against time planned, 0 to 1.
+    std::optional<double> progress;
 };
 
 class Segments {
@@ -45,6 +47,9 @@ public:
     };
     // The count of a row, as the sidebar shows it; none for the dashboard.
     static std::optional<int> countFor(const SidebarRow& row, const Counts& counts);
+
+    // A project's progress, as its header's statistics reckon it.
+    static double projectProgress(const Project& project, AppDelegate& app);
 
     // Where a search result leads: the project's own list, or the segment that lists the item.
     static QString segmentFor(const ReminderInfo& item, AppDelegate& app);

@@ -10,14 +10,22 @@ namespace lullet {
 
 TaskStats TaskStats::getTaskStats(const std::vector<LulletRow>& rows, AppDelegate& app)
 {
+    std::vector<ReminderInfo*> items;
+    items.reserve(rows.size());
+    for (const LulletRow& row : rows) {
+        if (row.representedObject)
+            items.push_back(row.representedObject);
+    }
+    return getTaskStats(items, app);
+}
+
+TaskStats TaskStats::getTaskStats(const std::vector<ReminderInfo*>& items, AppDelegate& app)
+{
     TaskStats s;
     const Date now = app.clock().now();
     const qint64 secondsNow =
         app.dtLastAnyALertOn ? now.secondsAfterDate(*app.dtLastAnyALertOn) : 0;
-    for (const LulletRow& row : rows) {
-        const ReminderInfo* item = row.representedObject;
-        if (!item)
-            continue;
+    for (const ReminderInfo* item : items) {
         s.totalCount += 1;
         const bool isToDo = item->repeatOption() == std::optional<int>(RepeatOptionsToDo::TODO_VAL);
         const bool started = item->hasStarted().value_or(false);

@@ -21,6 +21,7 @@ struct TaskStats {
     // Counts, planned and spent time of the rows' items. The planned total is never below the
     // time spent, so the progress never passes 100 %.
     static TaskStats getTaskStats(const std::vector<LulletRow>& rows, AppDelegate& app);
+    static TaskStats getTaskStats(const std::vector<ReminderInfo*>& items, AppDelegate& app);
 };
 
 } // namespace lullet

@@ -83,6 +83,13 @@ private Q_SLOTS:
         QCOMPARE(count(rows, QStringLiteral("Anytime")), std::optional<int>(1));
         QCOMPARE(count(rows, QStringLiteral("Completed")), std::optional<int>(1));
         QCOMPARE(count(rows, QStringLiteral("Home")), std::optional<int>(2));
+        QCOMPARE(rows[7].progress, std::optional<double>(0.0));
+        ReminderInfo* half = item(QStringLiteral("Half"), at(2026, 11, 25, 8, 0), home);
+        half->setDurationMin(20);
+        half->setHasFinished(true);
+        half->setElapsedTime(600);
+        item(QStringLiteral("Planned"), at(2026, 11, 26, 8, 0), home)->setDurationMin(10);
+        QCOMPARE(Segments::projectProgress(*home, app()), 0.5);
         QCOMPARE(Segments::viewFor(QStringLiteral("Upcoming")), QStringLiteral("CustomList"));
         QCOMPARE(Segments::viewFor(QStringLiteral("Project")), QStringLiteral("ProjectList"));
     }

@@ -85,6 +85,9 @@ MainViewController::MainViewController(AppDelegate& app, QWidget* parent)
     m_switcher->registerView(QStringLiteral("Chart"), [] {
         return comingView(tr("The dashboard comes with the reports."));
     });
+    m_switcher->registerView(QStringLiteral("AddLullet"), [] {
+        return comingView(tr("The lullet form comes with the repeat list."));
+    });
     m_switcher->registerView(QStringLiteral("RepeatList"),
                              [] { return comingView(tr("The repeat list comes with its form.")); });
 

@@ -5,6 +5,7 @@
 #include "core/store/ObjectContext.h"
 #include "shell/SingleInstance.h"
 #include "support/DatePrinting.h"
+#include "support/TestCalendar.h"
 #include "support/TestLaunch.h"
 #include "support/TestMain.h"
 
@@ -33,8 +34,7 @@ private Q_SLOTS:
 
     void init()
     {
-        CalendarContext::setLocale(QStringLiteral("en_US"));
-        CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
+        lullet::test::useTestCalendar();
         m_dir = std::make_unique<QTemporaryDir>();
         m_app = std::make_unique<TestLaunch>(m_dir->path(), at(2026, 11, 23, 10, 15, 30));
         QVERIFY(app().awakeFromNib());

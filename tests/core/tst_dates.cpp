@@ -4,6 +4,7 @@
 #include "core/dates/projectFunc.h"
 #include "support/DatePrinting.h"
 #include "support/FakeClock.h"
+#include "support/TestCalendar.h"
 #include "support/TestMain.h"
 
 #include <unicode/calendar.h>
@@ -30,11 +31,7 @@ private Q_SLOTS:
     // Data functions run before init(), so the zone is set for them here as well.
     void initTestCase() { init(); }
 
-    void init()
-    {
-        CalendarContext::setLocale(QStringLiteral("en_US"));
-        CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
-    }
+    void init() { lullet::test::useTestCalendar(); }
 
     void comparisonsAreInclusive()
     {

@@ -5,6 +5,7 @@
 #include "lists/LulletListViewController.h"
 #include "lists/PostponeViewControllerNew.h"
 #include "support/DatePrinting.h"
+#include "support/TestCalendar.h"
 #include "support/TestLaunch.h"
 #include "support/TestMain.h"
 
@@ -59,11 +60,7 @@ class TestListView : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        CalendarContext::setLocale(QStringLiteral("en_US"));
-        CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
-    }
+    void initTestCase() { lullet::test::useTestCalendar(); }
 
     void init()
     {

@@ -9,6 +9,7 @@
 #include "shell/ContainerViewController.h"
 #include "shell/ViewSwitcher.h"
 #include "support/DatePrinting.h"
+#include "support/TestCalendar.h"
 #include "support/TestLaunch.h"
 #include "support/TestMain.h"
 
@@ -42,11 +43,7 @@ class TestMainView : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        CalendarContext::setLocale(QStringLiteral("en_US"));
-        CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
-    }
+    void initTestCase() { lullet::test::useTestCalendar(); }
 
     void init()
     {

@@ -3,6 +3,7 @@
 #include "lists/ProjectActions.h"
 #include "lists/Segments.h"
 #include "support/DatePrinting.h"
+#include "support/TestCalendar.h"
 #include "support/TestLaunch.h"
 #include "support/TestMain.h"
 
@@ -41,11 +42,7 @@ class TestSegments : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        CalendarContext::setLocale(QStringLiteral("en_US"));
-        CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
-    }
+    void initTestCase() { lullet::test::useTestCalendar(); }
 
     void init()
     {

@@ -3,6 +3,7 @@
 #include "core/store/ObjectContext.h"
 #include "monitor/Postponing.h"
 #include "support/DatePrinting.h"
+#include "support/TestCalendar.h"
 #include "support/TestLaunch.h"
 #include "support/TestMain.h"
 
@@ -19,11 +20,7 @@ class TestPostponing : public QObject {
 private Q_SLOTS:
     void initTestCase() { init(); }
 
-    void init()
-    {
-        CalendarContext::setLocale(QStringLiteral("en_US"));
-        CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
-    }
+    void init() { lullet::test::useTestCalendar(); }
 
     void theEvening_data()
     {

@@ -9,6 +9,7 @@
 #include "scheduling/LulletGenerator.h"
 #include "scheduling/RepeatTypes.h"
 #include "support/DatePrinting.h"
+#include "support/TestCalendar.h"
 #include "support/TestLaunch.h"
 #include "support/TestMain.h"
 
@@ -64,8 +65,7 @@ private Q_SLOTS:
 
     void init()
     {
-        CalendarContext::setLocale(QStringLiteral("en_US"));
-        CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
+        lullet::test::useTestCalendar();
         m_dir = std::make_unique<QTemporaryDir>();
         m_app = std::make_unique<TestLaunch>(m_dir->path(), at(2026, 11, 23, 10, 15, 20));
         m_app->defaults.set(SettingsKeys::isShowFirst, 1);

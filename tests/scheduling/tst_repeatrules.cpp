@@ -4,6 +4,7 @@
 #include "scheduling/RepeatTypes.h"
 #include "support/DatePrinting.h"
 #include "support/FakeClock.h"
+#include "support/TestCalendar.h"
 #include "support/TestLaunch.h"
 #include "support/TestMain.h"
 
@@ -32,11 +33,7 @@ private Q_SLOTS:
     // Data functions run before init(), so the zone is set for them here as well.
     void initTestCase() { init(); }
 
-    void init()
-    {
-        CalendarContext::setLocale(QStringLiteral("en_US"));
-        CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
-    }
+    void init() { lullet::test::useTestCalendar(); }
 
     void theGrid_data()
     {

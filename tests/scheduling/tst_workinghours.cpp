@@ -6,6 +6,7 @@
 #include "scheduling/WorkingHours.h"
 #include "scheduling/funcGetData.h"
 #include "support/DatePrinting.h"
+#include "support/TestCalendar.h"
 #include "support/TestLaunch.h"
 #include "support/TestMain.h"
 
@@ -28,8 +29,7 @@ private Q_SLOTS:
 
     void init()
     {
-        CalendarContext::setLocale(QStringLiteral("en_US"));
-        CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
+        lullet::test::useTestCalendar();
         m_dir = std::make_unique<QTemporaryDir>();
     }
 

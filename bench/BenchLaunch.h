@@ -1,47 +1,34 @@
 #pragma once
 
 #include "StoreGenerator.h"
-#include "core/app/AppDelegate.h"
 #include "core/dates/CalendarContext.h"
-#include "core/notify/NotificationCenter.h"
-#include "core/settings/UserDefaults.h"
-#include "core/store/StoreStack.h"
-#include "support/FakeClock.h"
-#include "support/RecordingHost.h"
+#include "support/Launched.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 
 namespace lullet::bench {
 
-// The program's controller over a generated store of 50,000 items, 100 rules and 50 projects,
+// The program's core over a generated store of 50,000 items, 100 rules and 50 projects,
 // launched at a fixed moment with every window faked.
 struct BenchLaunch {
     explicit BenchLaunch(Date now)
-        : clock(now)
-        , defaults(QDir(dir.path()).filePath(QStringLiteral("Lullet.conf")))
-        , store(generated(QDir(dir.path()).filePath(QStringLiteral("data")), clock), clock)
-        , delegate({clock, defaults, center, store, host, inhibitor})
+        : launched(generated(dir.path(), now), now)
     {
-        delegate.awakeFromNib();
+        launched.open();
     }
 
-    static QString generated(const QString& folder, const Clock& clock)
+    static QString generated(const QString& dir, Date now)
     {
-        StoreStack store(folder, clock);
-        store.build();
-        generateStore(store, clock.now(), 50'000, 100, 50);
-        return folder;
+        const test::FakeClock clock(now);
+        Store store(QDir(dir).filePath(QStringLiteral("data")), clock);
+        store.open();
+        generateStore(store, now, 50'000, 100, 50);
+        return dir;
     }
 
     QTemporaryDir dir;
-    test::FakeClock clock;
-    UserDefaults defaults;
-    NotificationCenter center;
-    StoreStack store;
-    test::RecordingHost host;
-    test::FakeInhibitor inhibitor;
-    AppDelegate delegate;
+    test::Launched launched;
 };
 
 // The locale and zone every benchmark runs in.

@@ -8,7 +8,7 @@
 
 namespace lullet::bench {
 
-void generateStore(StoreStack& store, Date now, int items, int rules, int projects)
+void generateStore(Store& store, Date now, int items, int rules, int projects)
 {
     std::mt19937 rng(42);
     ObjectContext& ctx = store.context();
@@ -20,7 +20,7 @@ void generateStore(StoreStack& store, Date now, int items, int rules, int projec
         made.push_back(p);
     }
     for (int i = 0; i < rules; ++i) {
-        RepeatReminderInfo* r = ctx.insertRepeatReminderInfo();
+        Rule* r = ctx.insertRule();
         const QString title = QStringLiteral("Rule %1").arg(i);
         r->setTitle(title);
         r->setUniqueId(title + QStringLiteral("_%1").arg(1'700'000'000 + i));
@@ -39,7 +39,7 @@ void generateStore(StoreStack& store, Date now, int items, int rules, int projec
     std::uniform_int_distribution<int> pastMinutes(-2 * 365 * 24 * 60, -1);
     std::uniform_int_distribution<int> aheadMinutes(1, 30 * 24 * 60);
     for (int i = 0; i < items; ++i) {
-        ReminderInfo* r = ctx.insertReminderInfo();
+        Item* r = ctx.insertItem();
         r->setTitle(QStringLiteral("Item %1").arg(i));
         r->setNotes(QStringLiteral("Some notes about item %1").arg(i));
         r->setUniqueId(

@@ -1,19 +1,9 @@
 // The one-second tick and the minute pass of the monitor over a large store.
 #include "BenchClock.h"
 #include "BenchLaunch.h"
-#include "core/app/AppDelegate.h"
-#include "core/dates/CalendarContext.h"
-#include "core/notify/NotificationCenter.h"
-#include "core/settings/SettingsKeys.h"
-#include "core/settings/UserDefaults.h"
-#include "core/store/StoreStack.h"
-#include "monitor/Monitor.h"
-#include "support/FakeClock.h"
-#include "support/RecordingHost.h"
+#include "core/monitor/Monitor.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QTemporaryDir>
 
 using namespace lullet;
 using namespace lullet::bench;
@@ -25,25 +15,23 @@ int main(int argc, char* argv[])
     const Date now = Date::dateFromComponents(2026, 11, 23, 10, 15, 0);
 
     BenchLaunch launch(now);
-    launch.defaults.set(SettingsKeys::isShowFirst, 1);
-    AppDelegate& delegate = launch.delegate;
-    test::FakeClock& clock = launch.clock;
-    Monitor& monitor = delegate.monitor();
+    const Services& services = launch.launched.services();
+    test::FakeClock& clock = launch.launched.clock;
+    Monitor& monitor = services.monitor;
 
     // A tick between minutes, with an unlimited item running: its clock advances and the
     // period is checked.
-    ReminderInfo* running = delegate.mArrAllLullets.front();
+    Item* running = services.library.items().front();
+    services.running.start(*running);
     running->setTimeLimit(0);
-    running->setElapsedTime(0);
-    delegate.objReminderRunningNow = running;
     clock.set(now.dateByAddingSeconds(1));
-    const double tick = medianNanos(10001, [&] { monitor.doMonitorTime(); });
+    const double tick = medianNanos(10001, [&] { monitor.tick(); });
     report("tick (not at second 0)", tick, 20000);
 
-    delegate.objReminderRunningNow = nullptr;
+    services.running.finish(*running, RunningItem::Finish::Quietly);
     clock.set(now);
     const double pass = medianNanos(101, [&] {
-        monitor.onDoMonitoring();
+        monitor.tick();
         QCoreApplication::processEvents();
     });
     report("minute pass over 50,000 items", pass, 2e6);

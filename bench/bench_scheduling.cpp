@@ -1,17 +1,14 @@
 // The next date of long-lived minute rules, and the launch pass over rules and a large store.
 #include "BenchClock.h"
 #include "BenchLaunch.h"
-#include "core/app/AppDelegate.h"
 #include "core/dates/CalendarContext.h"
 #include "core/dates/Clock.h"
-#include "core/notify/NotificationCenter.h"
-#include "core/settings/UserDefaults.h"
-#include "core/store/StoreStack.h"
-#include "scheduling/DefaultCatalogue.h"
-#include "scheduling/RepeatRules.h"
-#include "scheduling/RepeatTypes.h"
+#include "core/model/RepeatCodes.h"
+#include "core/scheduling/Catalogue.h"
+#include "core/scheduling/RepeatRules.h"
+#include "core/settings/Settings.h"
+#include "core/store/Store.h"
 #include "support/FakeClock.h"
-#include "support/RecordingHost.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -31,25 +28,24 @@ int main(int argc, char* argv[])
     const Date now = Date::dateFromComponents(2026, 11, 23, 10, 15, 7);
     FixedClock clock(now);
 
-    RepeatReminderInfo rule;
+    Rule rule;
     rule.setDtReminder(now.dateBySubtractingMonths(60).dateByAddingSeconds(13));
-    rule.setRepeatIntervalType(ID_REPEAT_MIN);
+    rule.setRepeatIntervalType(RepeatUnit::Minute);
     rule.setRepeatInterval(20);
     volatile double sink = 0;
-    const double direct = medianNanos(2001, [&] {
-        sink = sink + RepeatRules::getNextRepeat(rule, clock)->timeIntervalSince1970();
-    });
-    report("getNextRepeat, 20-minute rule from 5 years ago", direct, 5000);
+    const double direct = medianNanos(
+        2001, [&] { sink = sink + RepeatRules::nextDate(rule, clock)->timeIntervalSince1970(); });
+    report("nextDate, 20-minute rule from 5 years ago", direct, 5000);
     const double walked = medianNanos(21, [&] {
-        sink = sink + RepeatRules::walkToNextRepeat(rule, clock)->timeIntervalSince1970();
+        sink = sink + RepeatRules::walkToNextDate(rule, clock)->timeIntervalSince1970();
     });
     std::printf("%-48s %10.3f ms   (the walk: %.0f times slower)\n", "  the same by walking",
                 walked / 1e6, walked / direct);
 
     BenchLaunch launch(now);
-    AppDelegate& delegate = launch.delegate;
+    Catalogue& catalogue = launch.launched.services().catalogue;
     // Every round after the first finds each rule's occurrence in place, as a relaunch does.
-    const double prepare = medianNanos(21, [&] { delegate.catalogue().prepareDefaultRepeats(); });
-    report("prepareDefaultRepeats, 100 rules, 50,000 items", prepare, 20e6);
+    const double prepare = medianNanos(21, [&] { catalogue.rebuild(); });
+    report("rebuild, 100 rules, 50,000 items", prepare, 20e6);
     return 0;
 }

@@ -29,16 +29,16 @@ int main(int argc, char* argv[])
     QTemporaryDir dir;
 
     {
-        StoreStack store(dir.path(), clock);
-        store.build();
+        Store store(dir.path(), clock);
+        store.open();
         generateStore(store, now, 50'000, 100, 50);
     }
     // With --keep FILE the generated store is copied out, for measuring the running program.
     const QStringList args = QCoreApplication::arguments();
     if (const qsizetype at = args.indexOf(QStringLiteral("--keep"));
         at >= 0 && at + 1 < args.size()) {
-        StoreStack flushed(dir.path(), clock);
-        flushed.build();
+        Store flushed(dir.path(), clock);
+        flushed.open();
         flushed.db().exec("PRAGMA wal_checkpoint(TRUNCATE)");
         QFile::remove(args[at + 1]);
         QFile::copy(flushed.storePath(), args[at + 1]);
@@ -46,19 +46,18 @@ int main(int argc, char* argv[])
 
     // Open and load: the folder, the file, the checks and every record, as at launch.
     const double load = medianNanos(7, [&] {
-        StoreStack store(dir.path(), clock);
-        store.build();
-        std::vector<ReminderInfo*> items = store.context().reminderInfos();
-        std::stable_sort(
-            items.begin(), items.end(), [](const ReminderInfo* a, const ReminderInfo* b) {
-                return a->effectiveDate().value_or(Date()) < b->effectiveDate().value_or(Date());
-            });
+        Store store(dir.path(), clock);
+        store.open();
+        std::vector<Item*> items = store.context().items();
+        std::stable_sort(items.begin(), items.end(), [](const Item* a, const Item* b) {
+            return a->effectiveDate().value_or(Date()) < b->effectiveDate().value_or(Date());
+        });
     });
     report("open and load 50,000 items (median)", load, 250e6);
 
-    StoreStack store(dir.path(), clock);
-    store.build();
-    ReminderInfo* item = store.context().reminderInfos()[1234];
+    Store store(dir.path(), clock);
+    store.open();
+    Item* item = store.context().items()[1234];
     int n = 0;
     const double save = medianNanos(101, [&] {
         item->setElapsedTime(++n);

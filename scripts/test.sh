@@ -6,8 +6,16 @@ bash scripts/install-deps.sh
 
 jobs=$(nproc)
 
-# The core alone, without Qt Gui or Widgets on the link line: proves the layering holds.
-cmake -S . -B build-core -G Ninja -DLULLET_WERROR=ON -DLULLET_CORE_ONLY=ON -DLULLET_BUILD_BENCH=OFF
+# Every change is formatted, and the folders include only the folders below them.
+if git rev-parse --is-inside-work-tree >/dev/null 2>&1; then
+    git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
+fi
+bash scripts/check-includes.sh
+
+# The core alone, without Qt Gui or Widgets on the link line, which proves the layering holds,
+# and with the address and undefined-behaviour sanitizers on its tests.
+cmake -S . -B build-core -G Ninja -DLULLET_WERROR=ON -DLULLET_CORE_ONLY=ON -DLULLET_ASAN=ON \
+    -DLULLET_BUILD_BENCH=OFF -DCMAKE_BUILD_TYPE=Debug
 cmake --build build-core -j "$jobs"
 ctest --test-dir build-core --output-on-failure -j "$jobs"
 

@@ -1,39 +1,58 @@
-#include "core/app/AppDelegate.h"
+#include "core/activity/RunningItem.h"
+#include "core/app/AppController.h"
 #include "core/dates/Clock.h"
-#include "core/notify/NotificationCenter.h"
-#include "core/settings/UserDefaults.h"
-#include "core/store/StoreStack.h"
-#include "shell/MainWindow.h"
-#include "shell/ScreenSaverInhibitor.h"
-#include "shell/ShellHost.h"
-#include "shell/SingleInstance.h"
-#include "shell/TerminationSignals.h"
+#include "core/library/Library.h"
+#include "core/monitor/Monitor.h"
+#include "core/security/Lock.h"
+#include "core/settings/Settings.h"
+#include "ui/desktop/ScreenSaverInhibitor.h"
+#include "ui/desktop/SingleInstance.h"
+#include "ui/desktop/TerminationSignals.h"
+#include "ui/shell/MainWindow.h"
+#include "ui/shell/Shell.h"
+#include "ui/widgets/Dialogs.h"
 
 #include <QApplication>
 
 #include <cstdio>
+#include <cstring>
 
 using namespace lullet;
 
-int main(int argc, char* argv[])
-{
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Lullet"));
-    QApplication::setApplicationVersion(QStringLiteral(PROJECT_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("lullet"));
-    // The program lives in the status item; closing the window only hides it.
-    app.setQuitOnLastWindowClosed(false);
+namespace {
 
-    // The one option: a desktop shortcut's request to add a task from anywhere.
-    bool quickAdd = false;
-    const QStringList arguments = QApplication::arguments().mid(1);
-    for (const QString& argument : arguments) {
-        if (argument != QStringLiteral("--quick-add")) {
+// The one option: a desktop shortcut's request to add a task from anywhere. Read before any
+// window system is touched, so a wrong option is told even without a display.
+int parseOptions(int argc, char* argv[], bool& quickAdd)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--quick-add") != 0) {
             std::fprintf(stderr, "Usage: lullet [--quick-add]\n");
             return 2;
         }
         quickAdd = true;
     }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // First of all: a request to end that comes while the program starts takes the quit path.
+    TerminationSignals::install();
+    bool quickAdd = false;
+    if (const int status = parseOptions(argc, argv, quickAdd))
+        return status;
+
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Lullet"));
+    QApplication::setApplicationVersion(QStringLiteral(PROJECT_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("lullet"));
+    // The program lives in the tray; closing the window only hides it.
+    app.setQuitOnLastWindowClosed(false);
+    TerminationSignals termination;
+
     // One Lullet per user: a second launch hands its request to the first and ends.
     SingleInstance instance(SingleInstance::defaultSocketPath());
     const QString request = QString::fromLatin1(quickAdd ? SingleInstance::quickAddRequest
@@ -42,59 +61,63 @@ int main(int argc, char* argv[])
         return 0;
 
     SystemClock clock;
-    UserDefaults defaults(UserDefaults::defaultPath());
-    NotificationCenter notifCenter;
-    StoreStack store(StoreStack::defaultFolder(), clock);
-    MainWindow window;
-    ShellHost host(window);
+    Settings settings(Settings::defaultPath());
     ScreenSaverInhibitor inhibitor;
-    AppDelegate delegate({clock, defaults, notifCenter, store, host, inhibitor});
-    host.attach(delegate);
-
-    if (!delegate.awakeFromNib())
+    AppController core(clock, settings, Store::defaultFolder(), inhibitor);
+    const Store::Result opened = core.open();
+    if (opened.outcome != Store::Outcome::Opened) {
+        std::fprintf(stderr, "Lullet: %s\n", qPrintable(opened.message));
         return 1;
-    delegate.applicationWillFinishLaunching();
-    delegate.applicationDidFinishLaunching();
+    }
+    const Services& services = core.services();
+
+    MainWindow window;
+    Shell shell(services, window);
+    QObject::connect(&services.library, &Library::saveFailed, &window,
+                     [&window](const QString& message) { Dialogs::inform(&window, message); });
+    shell.showTray();
+    shell.prepareMainWindow(services.lock.isLocked());
+    // The idle question meets the user right after the window appears.
+    shell.bringMainWindowForward([&services] {
+        if (!services.running.item())
+            services.monitor.askWhatNow();
+    });
+    core.startMonitoring();
 
     QObject::connect(&instance, &SingleInstance::requestReceived, &app, [&](const QString& r) {
         if (r == QLatin1String(SingleInstance::quickAddRequest))
-            host.onQuickAdd();
+            shell.quickAdd();
         else if (r == QLatin1String(SingleInstance::showRequest))
-            delegate.applicationShouldHandleReopen();
+            shell.bringMainWindowForward();
     });
     if (quickAdd)
-        host.onQuickAdd();
+        shell.quickAdd();
 
     bool terminated = false;
     const auto quit = [&] {
-        if (terminated ||
-            delegate.applicationShouldTerminate() == AppDelegate::TerminateReply::TerminateCancel)
+        if (terminated)
+            return;
+        if (core.prepareToQuit() == AppController::QuitReply::SaveFailed &&
+            !Dialogs::confirm(&window,
+                              QStringLiteral("Could not save changes while quitting. Quit anyway?"),
+                              QStringLiteral("Quitting now will lose any changes you have made "
+                                             "since the last successful save"),
+                              QStringLiteral("Quit anyway"), QStringLiteral("Cancel")))
             return;
         terminated = true;
-        delegate.applicationWillTerminate();
+        core.finishQuit();
         QApplication::quit();
     };
-    TerminationSignals signals_;
-    QObject::connect(&signals_, &TerminationSignals::terminationRequested, &app, quit);
-    QObject::connect(&host, &ShellHost::quitRequested, &app, quit);
+    QObject::connect(&termination, &TerminationSignals::terminationRequested, &app, quit);
+    QObject::connect(&shell, &Shell::quitRequested, &app, quit);
     QObject::connect(&window, &MainWindow::quitRequested, &app, quit);
     // The session may end the program without asking; the store is saved all the same.
     QObject::connect(&app, &QApplication::aboutToQuit, &app, [&] {
         if (terminated)
             return;
         terminated = true;
-        delegate.applicationShouldTerminate();
-        delegate.applicationWillTerminate();
+        core.prepareToQuit();
+        core.finishQuit();
     });
-    QObject::connect(&app, &QApplication::applicationStateChanged, &delegate,
-                     [&](Qt::ApplicationState state) {
-                         if (state == Qt::ApplicationActive)
-                             delegate.applicationDidBecomeActive();
-                         else if (state == Qt::ApplicationInactive)
-                             delegate.applicationDidResignActive();
-                     });
-    const int status = app.exec();
-    // The open prompt acts on the controller: it goes first.
-    host.detach();
-    return status;
+    return app.exec();
 }

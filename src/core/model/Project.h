@@ -9,7 +9,7 @@
 
 namespace lullet {
 
-class ReminderInfo;
+class Item;
 
 // A named group of items.
 class Project final : public Record {
@@ -24,18 +24,18 @@ public:
     const std::optional<QString>& uniqueId() const { return m_uniqueId; }
     void setUniqueId(std::optional<QString> v) { assign(m_uniqueId, std::move(v)); }
 
-    // The inverse of ReminderInfo::toProject(); kept in step by ReminderInfo::setToProject().
-    const std::vector<ReminderInfo*>& toReminders() const { return m_toReminders; }
+    // The inverse of Item::toProject(); kept in step by Item::setToProject().
+    const std::vector<Item*>& toReminders() const { return m_toReminders; }
 
 private:
-    friend class ReminderInfo;
+    friend class Item;
     friend class ObjectContext;
     friend class RecordColumns;
 
     std::optional<QString> m_name;
     std::optional<Date> m_createdDate;
     std::optional<QString> m_uniqueId;
-    std::vector<ReminderInfo*> m_toReminders;
+    std::vector<Item*> m_toReminders;
 };
 
 } // namespace lullet

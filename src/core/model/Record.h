@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <optional>
 
 namespace lullet {
@@ -13,7 +14,7 @@ class ObjectContext;
 // a deleted record stays valid memory, flagged, so that no list or view can dangle.
 class Record {
 public:
-    enum class Entity { Project, RepeatReminderInfo, ReminderInfo };
+    enum class Entity { Project, Rule, Item };
 
     Record(const Record&) = delete;
     Record& operator=(const Record&) = delete;
@@ -39,6 +40,12 @@ protected:
         changed();
     }
     void changed();
+
+    // Hours and minutes of a planned duration as seconds.
+    static int plannedLength(const std::optional<int>& hours, const std::optional<int>& minutes)
+    {
+        return std::max(0, hours.value_or(0)) * 3600 + std::max(0, minutes.value_or(0)) * 60;
+    }
 
 private:
     friend class ObjectContext;

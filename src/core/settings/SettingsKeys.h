@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QLatin1String>
+#include <QVariant>
 
-// Every key of the user's settings, in one place.
+#include <vector>
+
+// Every key of the user's settings file, with its default, in one place.
 namespace lullet::SettingsKeys {
 
 inline constexpr QLatin1String isShowFirst{"isShowFirst"};
@@ -20,5 +23,21 @@ inline constexpr QLatin1String backupFiles2{"backupFiles2"};
 // Keys inside the "passwordValues" dictionary.
 inline constexpr QLatin1String isPassword{"isPassword"};
 inline constexpr QLatin1String password{"password"};
+
+struct Default {
+    QLatin1String key;
+    QVariant value;
+};
+
+// The defaults that answer for keys the user never set. They live in memory only and are never
+// written to the file. "disableAutoPrompt" is not among them: it is written as 0 when absent.
+inline const std::vector<Default>& registeredDefaults()
+{
+    static const std::vector<Default> table = {
+        {isShowFirst, 0},     {openAtLogIn, 0},        {isRating, 1},     {remindMe, 2},
+        {promptDuration, 15}, {automaticBackup, true}, {backupOption, 1},
+    };
+    return table;
+}
 
 } // namespace lullet::SettingsKeys

@@ -24,13 +24,13 @@ template <> const std::vector<Column<Project>>& columnsOf<Project>()
 {
     return RecordColumns::project();
 }
-template <> const std::vector<Column<RepeatReminderInfo>>& columnsOf<RepeatReminderInfo>()
+template <> const std::vector<Column<Rule>>& columnsOf<Rule>()
 {
-    return RecordColumns::repeatReminderInfo();
+    return RecordColumns::rule();
 }
-template <> const std::vector<Column<ReminderInfo>>& columnsOf<ReminderInfo>()
+template <> const std::vector<Column<Item>>& columnsOf<Item>()
 {
-    return RecordColumns::reminderInfo();
+    return RecordColumns::item();
 }
 
 const char* tableOf(Record::Entity entity)
@@ -38,9 +38,9 @@ const char* tableOf(Record::Entity entity)
     switch (entity) {
     case Record::Entity::Project:
         return "Project";
-    case Record::Entity::RepeatReminderInfo:
+    case Record::Entity::Rule:
         return "RepeatReminderInfo";
-    case Record::Entity::ReminderInfo:
+    case Record::Entity::Item:
         return "ReminderInfo";
     }
     return "";
@@ -54,15 +54,14 @@ template <class T> QByteArray columnList()
             list += ", ";
         list += c.name;
     }
-    if constexpr (std::is_same_v<T, ReminderInfo>)
+    if constexpr (std::is_same_v<T, Item>)
         list += ", toProject";
     return list;
 }
 
 template <class T> QByteArray insertSql(const char* table)
 {
-    const qsizetype count =
-        qsizetype(columnsOf<T>().size()) + (std::is_same_v<T, ReminderInfo> ? 1 : 0);
+    const qsizetype count = qsizetype(columnsOf<T>().size()) + (std::is_same_v<T, Item> ? 1 : 0);
     QByteArray marks;
     for (qsizetype i = 0; i < count; ++i)
         marks += i ? ", ?" : "?";
@@ -74,7 +73,7 @@ template <class T> QByteArray updateSql(const char* table)
     QByteArray set;
     for (const auto& c : columnsOf<T>())
         set += QByteArray(set.isEmpty() ? "" : ", ") + c.name + " = ?";
-    if constexpr (std::is_same_v<T, ReminderInfo>)
+    if constexpr (std::is_same_v<T, Item>)
         set += ", toProject = ?";
     return QByteArray("UPDATE ") + table + " SET " + set + " WHERE id = ?";
 }
@@ -85,7 +84,7 @@ template <class T> int bindAll(Stmt& stmt, const T& record)
     int i = 0;
     for (const auto& c : columnsOf<T>())
         c.bind(stmt, i++, record);
-    if constexpr (std::is_same_v<T, ReminderInfo>) {
+    if constexpr (std::is_same_v<T, Item>) {
         const Project* project = record.toProject();
         stmt.bind(i++, project && project->rowId() ? std::optional<qint64>(project->rowId())
                                                    : std::nullopt);
@@ -99,10 +98,10 @@ template <class F> bool visit(Record* record, F&& f)
     switch (record->entity()) {
     case Record::Entity::Project:
         return f(*static_cast<Project*>(record));
-    case Record::Entity::RepeatReminderInfo:
-        return f(*static_cast<RepeatReminderInfo*>(record));
-    case Record::Entity::ReminderInfo:
-        return f(*static_cast<ReminderInfo*>(record));
+    case Record::Entity::Rule:
+        return f(*static_cast<Rule*>(record));
+    case Record::Entity::Item:
+        return f(*static_cast<Item*>(record));
     }
     return false;
 }
@@ -174,8 +173,8 @@ bool ObjectContext::load()
     const bool ok =
         loadTable(m_projects, "Project",
                   [&](Project* p, const Stmt&, int) { projectsById.insert(p->rowId(), p); }) &&
-        loadTable(m_rules, "RepeatReminderInfo", [](RepeatReminderInfo*, const Stmt&, int) {}) &&
-        loadTable(m_reminders, "ReminderInfo", [&](ReminderInfo* r, const Stmt& s, int i) {
+        loadTable(m_rules, "RepeatReminderInfo", [](Rule*, const Stmt&, int) {}) &&
+        loadTable(m_reminders, "ReminderInfo", [&](Item* r, const Stmt& s, int i) {
             if (s.isNull(i))
                 return;
             if (Project* p = projectsById.value(s.columnInt64(i))) {
@@ -198,13 +197,13 @@ const std::vector<Project*>& ObjectContext::projects()
     return m_projects;
 }
 
-const std::vector<RepeatReminderInfo*>& ObjectContext::repeatReminderInfos()
+const std::vector<Rule*>& ObjectContext::rules()
 {
     load();
     return m_rules;
 }
 
-const std::vector<ReminderInfo*>& ObjectContext::reminderInfos()
+const std::vector<Item*>& ObjectContext::items()
 {
     load();
     return m_reminders;
@@ -219,19 +218,19 @@ Project* ObjectContext::insertProject()
     return p;
 }
 
-RepeatReminderInfo* ObjectContext::insertRepeatReminderInfo()
+Rule* ObjectContext::insertRule()
 {
     load();
-    RepeatReminderInfo* r = adopt(m_rules);
+    Rule* r = adopt(m_rules);
     r->m_inserted = true;
     m_inserted.push_back(r);
     return r;
 }
 
-ReminderInfo* ObjectContext::insertReminderInfo()
+Item* ObjectContext::insertItem()
 {
     load();
-    ReminderInfo* r = adopt(m_reminders);
+    Item* r = adopt(m_reminders);
     r->m_inserted = true;
     r->m_hasFinished = false;
     m_inserted.push_back(r);
@@ -255,16 +254,16 @@ void ObjectContext::deleteObject(Record* record)
     case Record::Entity::Project: {
         auto* project = static_cast<Project*>(record);
         // The items stay; they only leave the project.
-        for (ReminderInfo* item : std::vector<ReminderInfo*>(project->m_toReminders))
+        for (Item* item : std::vector<Item*>(project->m_toReminders))
             item->setToProject(nullptr);
         eraseFrom(m_projects, record);
         break;
     }
-    case Record::Entity::RepeatReminderInfo:
+    case Record::Entity::Rule:
         eraseFrom(m_rules, record);
         break;
-    case Record::Entity::ReminderInfo:
-        static_cast<ReminderInfo*>(record)->setToProject(nullptr);
+    case Record::Entity::Item:
+        static_cast<Item*>(record)->setToProject(nullptr);
         eraseFrom(m_reminders, record);
         break;
     }

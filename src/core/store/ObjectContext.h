@@ -1,8 +1,8 @@
 #pragma once
 
+#include "core/model/Item.h"
 #include "core/model/Project.h"
-#include "core/model/ReminderInfo.h"
-#include "core/model/RepeatReminderInfo.h"
+#include "core/model/Rule.h"
 
 #include <QString>
 
@@ -30,13 +30,13 @@ public:
 
     // Every live record of one entity, in store order; loads the store on first use.
     const std::vector<Project*>& projects();
-    const std::vector<RepeatReminderInfo*>& repeatReminderInfos();
-    const std::vector<ReminderInfo*>& reminderInfos();
+    const std::vector<Rule*>& rules();
+    const std::vector<Item*>& items();
 
     Project* insertProject();
-    RepeatReminderInfo* insertRepeatReminderInfo();
+    Rule* insertRule();
     // A new item starts unfinished: lists compare hasFinished with false.
-    ReminderInfo* insertReminderInfo();
+    Item* insertItem();
     // Takes the record out of the data. Its memory stays valid, flagged as deleted.
     void deleteObject(Record* record);
 
@@ -64,8 +64,8 @@ private:
     bool m_loaded = false;
     std::vector<std::unique_ptr<Record>> m_owned;
     std::vector<Project*> m_projects;
-    std::vector<RepeatReminderInfo*> m_rules;
-    std::vector<ReminderInfo*> m_reminders;
+    std::vector<Rule*> m_rules;
+    std::vector<Item*> m_reminders;
     std::vector<Record*> m_inserted;
     std::vector<Record*> m_updated;
     std::vector<Record*> m_deleted;

@@ -40,9 +40,9 @@ const std::vector<Column<Project>>& RecordColumns::project()
     return columns;
 }
 
-const std::vector<Column<RepeatReminderInfo>>& RecordColumns::repeatReminderInfo()
+const std::vector<Column<Rule>>& RecordColumns::rule()
 {
-    using R = RepeatReminderInfo;
+    using R = Rule;
     static const std::vector<Column<R>> columns = {
         column("uniqueId", &R::m_uniqueId),
         column("title", &R::m_title),
@@ -63,9 +63,9 @@ const std::vector<Column<RepeatReminderInfo>>& RecordColumns::repeatReminderInfo
     return columns;
 }
 
-const std::vector<Column<ReminderInfo>>& RecordColumns::reminderInfo()
+const std::vector<Column<Item>>& RecordColumns::item()
 {
-    using R = ReminderInfo;
+    using R = Item;
     static const std::vector<Column<R>> columns = {
         column("uniqueId", &R::m_uniqueId),
         column("title", &R::m_title),

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "core/model/Item.h"
 #include "core/model/Project.h"
-#include "core/model/ReminderInfo.h"
-#include "core/model/RepeatReminderInfo.h"
+#include "core/model/Rule.h"
 
 #include <functional>
 #include <vector>
@@ -21,12 +21,12 @@ template <class T> struct Column {
 };
 
 // The attribute columns of the three tables, in table order, without the row id and, for
-// ReminderInfo, without the toProject link, which the context resolves itself.
+// Item, without the toProject link, which the context resolves itself.
 class RecordColumns {
 public:
     static const std::vector<Column<Project>>& project();
-    static const std::vector<Column<RepeatReminderInfo>>& repeatReminderInfo();
-    static const std::vector<Column<ReminderInfo>>& reminderInfo();
+    static const std::vector<Column<Rule>>& rule();
+    static const std::vector<Column<Item>>& item();
 };
 
 } // namespace lullet

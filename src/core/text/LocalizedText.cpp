@@ -4,6 +4,8 @@
 #include "core/dates/IcuString.h"
 #include "core/text/PatternMatcher.h"
 
+#include <QTextBoundaryFinder>
+
 #include <unicode/coll.h>
 #include <unicode/locid.h>
 #include <unicode/normalizer2.h>
@@ -29,6 +31,15 @@ int LocalizedText::compare(const QString& a, const QString& b)
         return a.compare(b);
     UErrorCode status = U_ZERO_ERROR;
     return int(collator->compare(toIcu(a), toIcu(b), status));
+}
+
+QString LocalizedText::capitalizeFirst(const QString& text)
+{
+    QTextBoundaryFinder graphemes(QTextBoundaryFinder::Grapheme, text);
+    const qsizetype end = graphemes.toNextBoundary();
+    if (end <= 0)
+        return text;
+    return text.left(end).toUpper() + text.mid(end);
 }
 
 QString LocalizedText::foldDiacritics(const QString& text)

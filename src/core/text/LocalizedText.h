@@ -11,6 +11,10 @@ public:
     // ordered the way the user's language orders them.
     static int compare(const QString& a, const QString& b);
 
+    // The first user-perceived character in upper case, the rest as it is: "walk" is "Walk", and
+    // a letter with a combining accent keeps its accent.
+    static QString capitalizeFirst(const QString& text);
+
     // Removes accents and other combining marks: "Crème" becomes "Creme".
     static QString foldDiacritics(const QString& text);
 

@@ -1,0 +1,115 @@
+#include "core/app/AppController.h"
+
+#include "core/app/DisplaySleepInhibitor.h"
+#include "core/dates/Clock.h"
+#include "core/model/Item.h"
+#include "core/settings/Settings.h"
+#include "core/store/ObjectContext.h"
+
+#include <QPointer>
+#include <QTimer>
+
+#include <cmath>
+
+namespace lullet {
+
+namespace {
+
+// The idle clock starts at the nearest whole minute: seconds 0 to 30 round down, 31 to 59 up.
+Date nearestMinute(Date now)
+{
+    const int seconds = now.seconds();
+    const Date rounded(std::floor(now.timeIntervalSince1970()) - seconds);
+    return seconds > 30 ? rounded.dateByAddingMinutes(1) : rounded;
+}
+
+} // namespace
+
+AppController::AppController(const Clock& clock, Settings& settings, const QString& storeFolder,
+                             DisplaySleepInhibitor& inhibitor, QObject* parent)
+    : QObject(parent)
+    , m_clock(clock)
+    , m_settings(settings)
+    , m_inhibitor(inhibitor)
+    , m_store(storeFolder, clock)
+    , m_library(m_store)
+    , m_schedule(settings, clock)
+    , m_hours(m_schedule, clock.now())
+    , m_texts(clock, m_schedule, m_hours)
+    , m_generator(clock, m_library)
+    , m_catalogue({clock, m_library, m_generator, m_schedule, m_hours, m_texts})
+    , m_running(clock, m_library)
+    , m_monitor({clock, settings, m_library, m_catalogue, m_hours, m_running, m_lock})
+    , m_itemActions(m_library, m_running, m_catalogue)
+    , m_projectActions(clock, m_library)
+    , m_postponing(clock, m_library)
+    , m_services{clock,     settings,      m_library,        m_schedule,  m_hours,
+                 m_texts,   m_generator,   m_catalogue,      m_running,   m_lock,
+                 m_monitor, m_itemActions, m_projectActions, m_postponing}
+{
+}
+
+AppController::~AppController() = default;
+
+Store::Result AppController::open()
+{
+    m_settings.writeIdleQuestionSwitchIfAbsent();
+    const Store::Result opened = m_store.open();
+    if (opened.outcome != Store::Outcome::Opened)
+        return opened;
+    m_storeOpen = true;
+    m_library.loadProjects();
+    m_library.loadItems();
+    m_catalogue.rebuild();
+    m_running.stampPrompt(nearestMinute(m_clock.now()));
+    m_running.setPromptPeriod(m_settings.promptDuration());
+    if (m_settings.welcomeDone() && m_settings.passwordProtected())
+        m_lock.lock();
+    return opened;
+}
+
+void AppController::startMonitoring()
+{
+    QPointer<AppController> self(this);
+    m_inhibitor.inhibit(QStringLiteral("Reason for activity"),
+                        [self](std::optional<quint32> cookie) {
+                            if (self && cookie)
+                                self->m_inhibitCookie = cookie;
+                        });
+    m_timer = std::make_unique<QTimer>();
+    m_timer->setTimerType(Qt::PreciseTimer);
+    m_timer->setInterval(1000);
+    connect(m_timer.get(), &QTimer::timeout, &m_monitor, &Monitor::tick);
+    m_timer->start();
+}
+
+bool AppController::isMonitoring() const
+{
+    return m_timer && m_timer->isActive();
+}
+
+AppController::QuitReply AppController::prepareToQuit()
+{
+    if (Item* item = m_running.item())
+        m_running.finish(*item, RunningItem::Finish::Quietly);
+    if (!m_storeOpen)
+        return QuitReply::Now;
+    ObjectContext& context = m_store.context();
+    if (!context.hasChanges() || context.save())
+        return QuitReply::Now;
+    return QuitReply::SaveFailed;
+}
+
+void AppController::finishQuit()
+{
+    if (m_storeOpen)
+        m_schedule.save();
+    if (m_timer)
+        m_timer->stop();
+    if (m_inhibitCookie) {
+        m_inhibitor.release(*m_inhibitCookie);
+        m_inhibitCookie.reset();
+    }
+}
+
+} // namespace lullet

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "core/activity/ItemActions.h"
+#include "core/activity/Postponing.h"
+#include "core/activity/ProjectActions.h"
+#include "core/activity/RunningItem.h"
+#include "core/app/Services.h"
+#include "core/library/Library.h"
+#include "core/monitor/Monitor.h"
+#include "core/scheduling/Catalogue.h"
+#include "core/scheduling/Generator.h"
+#include "core/scheduling/ScheduleTexts.h"
+#include "core/scheduling/WorkingHours.h"
+#include "core/scheduling/WorkingSchedule.h"
+#include "core/security/Lock.h"
+#include "core/store/Store.h"
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+
+class QTimer;
+
+namespace lullet {
+
+class Clock;
+class DisplaySleepInhibitor;
+class Settings;
+
+// The composition root of the core: it builds the services in their order, owns the one-second
+// timer and the display-sleep inhibit, and runs the start and the stop of the program.
+class AppController final : public QObject {
+    Q_OBJECT
+public:
+    AppController(const Clock& clock, Settings& settings, const QString& storeFolder,
+                  DisplaySleepInhibitor& inhibitor, QObject* parent = nullptr);
+    ~AppController() override;
+
+    const Services& services() const { return m_services; }
+
+    // Opens the store and loads every record; every active rule gets its occurrence. The idle
+    // clock starts at the nearest whole minute, and a protected program starts locked. A store
+    // that cannot be used ends the launch: the result says why.
+    Store::Result open();
+    // The loop begins: the display is kept awake and the monitor ticks each second.
+    void startMonitoring();
+    bool isMonitoring() const;
+
+    enum class QuitReply { Now, SaveFailed };
+    // Quitting finishes the running item, whatever its time, and saves. When the save fails the
+    // caller asks whether to quit anyway.
+    QuitReply prepareToQuit();
+    // The last of the run: the schedule is written, the timer stops, the display may sleep.
+    void finishQuit();
+
+private:
+    const Clock& m_clock;
+    Settings& m_settings;
+    DisplaySleepInhibitor& m_inhibitor;
+    Store m_store;
+    Library m_library;
+    WorkingSchedule m_schedule;
+    WorkingHours m_hours;
+    ScheduleTexts m_texts;
+    Generator m_generator;
+    Catalogue m_catalogue;
+    RunningItem m_running;
+    Lock m_lock;
+    Monitor m_monitor;
+    ItemActions m_itemActions;
+    ProjectActions m_projectActions;
+    Postponing m_postponing;
+    Services m_services;
+    std::unique_ptr<QTimer> m_timer;
+    std::optional<quint32> m_inhibitCookie;
+    bool m_storeOpen = false;
+};
+
+} // namespace lullet

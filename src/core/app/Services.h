@@ -1,0 +1,39 @@
+#pragma once
+
+namespace lullet {
+
+class Catalogue;
+class Clock;
+class Generator;
+class ItemActions;
+class Library;
+class Lock;
+class Monitor;
+class Postponing;
+class ProjectActions;
+class RunningItem;
+class ScheduleTexts;
+class Settings;
+class WorkingHours;
+class WorkingSchedule;
+
+// The core services, for the views that use them. References only: every piece of state belongs
+// to the service that owns it.
+struct Services {
+    const Clock& clock;
+    Settings& settings;
+    Library& library;
+    WorkingSchedule& schedule;
+    const WorkingHours& hours;
+    const ScheduleTexts& texts;
+    Generator& generator;
+    Catalogue& catalogue;
+    RunningItem& running;
+    Lock& lock;
+    Monitor& monitor;
+    ItemActions& itemActions;
+    ProjectActions& projectActions;
+    Postponing& postponing;
+};
+
+} // namespace lullet

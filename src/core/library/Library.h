@@ -1,0 +1,114 @@
+#pragma once
+
+#include "core/model/Item.h"
+#include "core/model/Project.h"
+#include "core/model/Rule.h"
+
+#include <QObject>
+#include <QString>
+
+#include <vector>
+
+namespace lullet {
+
+class ObjectContext;
+class Store;
+
+// The records the program works with, over the one object context: every item (kept in the
+// shared order), every project (by name) and every rule. Adding, removing and saving happen
+// here, and so does telling the views what changed. A change is visible in the lists at once,
+// before it is saved. Main thread only.
+class Library final : public QObject {
+    Q_OBJECT
+public:
+    explicit Library(Store& store, QObject* parent = nullptr);
+
+    ObjectContext& context();
+
+    // Reads every record of the store into the lists.
+    void load();
+    void loadProjects();
+    void loadItems();
+    void loadRules();
+
+    const std::vector<Item*>& items() const { return m_items; }
+    const std::vector<Project*>& projects() const { return m_projects; }
+    const std::vector<Rule*>& rules() const { return m_rules; }
+
+    // New records in the context; they join the lists through add...().
+    Item* newItem();
+    Project* newProject();
+    Rule* newRule();
+
+    // Lists the item once, in the shared order.
+    void addItem(Item* item);
+    // Takes the item out of the list; its record stays in the store.
+    void removeItem(Item* item);
+    // Takes the item out and deletes its record.
+    void deleteItem(Item* item);
+    void resortItems();
+
+    // Lists the project once, in name order.
+    void addProject(Project* project);
+    // Takes the project and its items out of the lists; the records stay.
+    void removeProject(Project* project);
+    // The project of that name, compared ignoring case and diacritics, or none.
+    Project* projectNamed(const QString& name) const;
+
+    void addRule(Rule* rule);
+    void removeRule(Rule* rule);
+
+    // Writes every change. A failure is announced by saveFailed(); the changes stay for the
+    // next save.
+    bool save();
+
+    // Tells the views that items changed; `item` is the one added or edited, if there is one.
+    // Inside a batch the news waits and is told once when the batch ends.
+    void announceItemChanged(Item* item = nullptr);
+    // The same, after the current work is done.
+    void announceItemChangedLater(Item* item);
+    void announcePostponed(Item* item);
+    void announceProjectContent(Project* project);
+    // Rules changed: now, or after the current work is done.
+    void announceRulesChanged();
+    void announceRulesChangedLater();
+
+    // While a batch is open, item news is collected and told once, as one change of many items,
+    // when the outermost batch closes. Many occurrences made at launch thus reload a list once.
+    class Batch {
+    public:
+        explicit Batch(Library& library);
+        ~Batch();
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+
+    private:
+        Library& m_library;
+    };
+
+Q_SIGNALS:
+    // Items were added or edited; `item` is the one concerned, or null when several were.
+    void itemsChanged(lullet::Item* item);
+    void itemPostponed(lullet::Item* item);
+    // The item has left the list (deleted, or gone with its project).
+    void itemRemoved(lullet::Item* item);
+    // A project was added, renamed or removed.
+    void projectsChanged();
+    void projectRemoved(lullet::Project* project);
+    // An item joined or left the project.
+    void projectContentChanged(lullet::Project* project);
+    void rulesChanged();
+    void saveFailed(const QString& message);
+
+private:
+    void later(std::function<void()> emitter);
+
+    Store& m_store;
+    std::vector<Item*> m_items;
+    std::vector<Project*> m_projects;
+    std::vector<Rule*> m_rules;
+    int m_batchDepth = 0;
+    bool m_batchChanged = false;
+};
+
+} // namespace lullet

@@ -1,0 +1,113 @@
+#include "core/monitor/IdlePrompt.h"
+
+#include "core/activity/RunningItem.h"
+#include "core/dates/Clock.h"
+#include "core/library/Library.h"
+#include "core/model/Item.h"
+#include "core/model/RepeatCodes.h"
+#include "core/text/LocalizedText.h"
+
+namespace lullet {
+
+namespace {
+
+QString shortTime(Date d)
+{
+    return d.toString(DateStyle::none, DateStyle::shortStyle);
+}
+
+} // namespace
+
+IdlePrompt::IdlePrompt(const Clock& clock, Library& library, RunningItem& running, Date since,
+                       bool askNow)
+    : m_clock(clock)
+    , m_library(library)
+    , m_running(running)
+    , m_since(since)
+    , m_askNow(askNow)
+    , m_askedAt(clock.now())
+{
+    if (const std::optional<Date> unanswered = m_running.unansweredGapStart()) {
+        m_since = *unanswered;
+        m_running.setUnansweredGapStart(std::nullopt);
+    }
+}
+
+QString IdlePrompt::rangeText() const
+{
+    const Date now = m_clock.now();
+    if (m_askNow)
+        return QStringLiteral("(") + shortTime(now) + QStringLiteral(")");
+    return QStringLiteral("(") + shortTime(m_since) + QStringLiteral(" - ") + shortTime(now) +
+           QStringLiteral(")");
+}
+
+QString IdlePrompt::questionText() const
+{
+    if (m_askNow)
+        return QStringLiteral("What are you doing now ?");
+    const qint64 minutes = m_clock.now().minutesAfterDate(m_since);
+    return QStringLiteral("What were you doing for last %1 minutes ?").arg(minutes);
+}
+
+void IdlePrompt::extend(bool askNow)
+{
+    m_askNow = askNow;
+    if (m_askNow)
+        m_askedAt = m_clock.now();
+}
+
+void IdlePrompt::leaveUnanswered()
+{
+    if (!m_answered)
+        m_running.setUnansweredGapStart(m_since);
+}
+
+PromptOutcome IdlePrompt::answer(const QString& text, Project* project, bool alreadyDone)
+{
+    const QString title = text.trimmed();
+    if (title.isEmpty() || m_answered)
+        return PromptOutcome::Stay;
+    m_answered = true;
+    m_running.setUnansweredGapStart(std::nullopt);
+    const Date now = m_clock.now();
+
+    Item* item = m_library.newItem();
+    item->setUniqueId(placeholderId());
+    item->setTitle(LocalizedText::capitalizeFirst(title));
+    item->setDurationHr(0);
+    item->setDurationMin(0);
+    item->setRemindBefore(int(RemindBefore::OnTheDay));
+    item->setShouldRemind(false);
+    item->setDtReminder(m_since);
+    item->setRepeatInterval(0);
+    item->setRepeatIntervalType(0);
+    item->setRepeatOption(0);
+    item->setDtRepeatUpto(now);
+    item->setNotes(QString());
+    m_library.addItem(item);
+    if (project) {
+        item->setToProject(project);
+        m_library.announceProjectContent(project);
+    }
+
+    // An answer in the "now" mode counts from the moment of asking, any other from the start of
+    // the gap.
+    const Date from = m_askNow ? m_askedAt : m_since;
+    item->setElapsedTime(int(now.secondsAfterDate(from)));
+    const int period = m_running.promptPeriod();
+    const int sinceAsked = int(now.minutesAfterDate(m_askedAt));
+    item->setTimeLimitExtendedBy(period > sinceAsked ? 60 * period : 60 * (period + sinceAsked));
+    m_running.start(*item, RunningItem::Start::AsRecorded);
+    m_library.save();
+    m_library.announceItemChanged(item);
+    m_running.stampPrompt(m_askedAt);
+
+    if (alreadyDone) {
+        m_running.finish(*item);
+        return PromptOutcome::CloseAtOnceAndAsk;
+    }
+    return PromptOutcome::Close;
+}
+
+} // namespace lullet

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "core/monitor/PromptOutcome.h"
+
+#include <QString>
+
+namespace lullet {
+
+class Clock;
+class Item;
+class Library;
+class RunningItem;
+
+// The running item's time is over: is it finished, or does it need more time?
+class TimeOverPrompt {
+public:
+    TimeOverPrompt(const Clock& clock, Library& library, RunningItem& running, Item* item);
+
+    Item* item() const { return m_item; }
+
+    // "Have you finished : <title> ?", or nothing without an item.
+    static QString question(const Item* item);
+    QString question() const { return question(m_item); }
+    // Finishes the item and files it at this moment; the idle question may then ask at once
+    // what the user is doing now.
+    PromptOutcome finish();
+    PromptOutcome moreTime(int minutes);
+
+private:
+    const Clock& m_clock;
+    Library& m_library;
+    RunningItem& m_running;
+    Item* m_item;
+};
+
+} // namespace lullet

@@ -1,0 +1,29 @@
+#include "core/monitor/TodoPrompt.h"
+
+#include "core/activity/ItemActions.h"
+#include "core/model/Item.h"
+
+namespace lullet {
+
+TodoPrompt::TodoPrompt(ItemActions& actions, Item* item)
+    : m_actions(actions)
+    , m_item(item)
+{
+}
+
+QString TodoPrompt::text() const
+{
+    if (!m_item)
+        return {};
+    return QStringLiteral("Time for : ") + m_item->title().value_or(QString()) +
+           QStringLiteral(". Done ?");
+}
+
+PromptOutcome TodoPrompt::done()
+{
+    if (m_item)
+        m_actions.completeToDo(*m_item);
+    return PromptOutcome::Close;
+}
+
+} // namespace lullet

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "core/dates/Date.h"
+#include "core/presentation/ListRow.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace lullet {
+
+class Clock;
+class Item;
+class Library;
+class Project;
+
+// Which items each list shows, and in which order: "Today", "Anytime" and a project's list, and
+// the custom listings "Upcoming" and "Completed", by day.
+class ListBuilder {
+public:
+    struct Scope {
+        QString segment = QStringLiteral("Today");
+        Project* project = nullptr;
+        bool showRunningOnly = false;
+
+        bool isAnytime() const { return segment == QStringLiteral("Anytime"); }
+        bool isToday() const { return segment == QStringLiteral("Today"); }
+        bool isCustomListing() const
+        {
+            return segment == QStringLiteral("Upcoming") || segment == QStringLiteral("Completed");
+        }
+    };
+
+    // The days ahead within which an item already shows in "Today".
+    static int reminderWindowDays(const Item& item);
+
+    // Today's bounds, worked out once for a whole list.
+    struct Today {
+        Date start;
+        Date end;
+        explicit Today(Date now);
+        bool contains(Date d) const { return d >= start && d < end; }
+        // Calendar days from today to the day of `d`.
+        qint64 daysTo(Date d) const;
+    };
+
+    // The rule of a scope, worked out once for a pass over many items.
+    class Filter {
+    public:
+        Filter(const Scope& scope, Date now);
+        bool accepts(const Item& item) const;
+
+    private:
+        Today m_today;
+        Project* m_project;
+        bool m_anytime;
+        bool m_todayWithoutProject;
+        bool m_runningOnly;
+    };
+    // Whether the item belongs in the list of the scope now.
+    static bool belongs(const Item& item, const Scope& scope, Date now);
+
+    // The items of the scope, in the lists' order.
+    static std::vector<Item*> itemsFor(const Scope& scope, const Library& library, Date now);
+
+    // "Wed 25, Nov 2026": the heading of a day's group.
+    static QString dayHeading(Date day);
+    // Rows grouped by day, each day under its heading, the days in date order and the items
+    // without a date last under "AnyTime".
+    static std::vector<ListRow> groupByDay(const std::vector<Item*>& items, const Clock& clock,
+                                           bool withProjectName);
+
+    // "Upcoming" (unfinished items dated after now, the nearest day first) or "Completed"
+    // (finished dated items, the newest day first), by day; within a day the later first. A
+    // heading carries the day's count and the time used on it.
+    static std::vector<ListRow> customListing(const QString& segment, const Library& library,
+                                              const Clock& clock);
+    // Seconds used by day, the days in time order, for the chart.
+    static std::vector<std::pair<Date, int>> timeUsedByDay(const std::vector<ListRow>& rows);
+};
+
+} // namespace lullet

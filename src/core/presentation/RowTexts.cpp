@@ -1,0 +1,113 @@
+#include "core/presentation/RowTexts.h"
+
+#include "core/dates/Clock.h"
+#include "core/model/Item.h"
+
+namespace lullet {
+
+namespace {
+
+// Two digits, padded with a zero; rows are built by the thousand, so no formatting machinery.
+QString twoDigits(int value)
+{
+    if (value < 0 || value > 99)
+        return QString::number(value);
+    const QChar digits[2] = {QChar(u'0' + value / 10), QChar(u'0' + value % 10)};
+    return QString(digits, 2);
+}
+
+QString plural(qint64 n)
+{
+    return n > 1 ? QStringLiteral("s") : QString();
+}
+
+} // namespace
+
+QString RowTexts::getStringFromSeconds(int seconds)
+{
+    return twoDigits(seconds / 3600) + u':' + twoDigits(seconds % 3600 / 60) + u':' +
+           twoDigits(seconds % 60);
+}
+
+QString RowTexts::hoursAndMinutes(int hours, int minutes)
+{
+    return twoDigits(hours) + u':' + twoDigits(minutes) + u'm';
+}
+
+void RowTexts::setValues(ListRow& row, const Clock& clock, bool withProjectName)
+{
+    const Item* item = row.representedObject;
+    if (!item)
+        return;
+    const Date now = clock.now();
+    const Date today = now.dateAtStartOfDay();
+    row.type = ListRow::ItemRow;
+    row.title = item->title().value_or(QString());
+    row.isToDo = item->isToDo();
+    const bool finished = item->isFinished();
+    const bool started = item->isStarted();
+
+    row.dueOrOverdue = false;
+    row.time.clear();
+    if (const std::optional<Date> due = item->effectiveDate()) {
+        QString prefix;
+        if (!due->isToday(clock) && item->remindBefore()) {
+            // Calendar days from today, rounded since a day across a clock change is not 24 h.
+            const qint64 days = qRound64(
+                (due->dateAtStartOfDay().timeIntervalSince1970() - today.timeIntervalSince1970()) /
+                86400.0);
+            if (days > 0) {
+                prefix = QStringLiteral("In %1 day").arg(days) + plural(days);
+            } else if (days < 0 && !finished) {
+                prefix = QStringLiteral("Overdue by %1 day").arg(-days) + plural(-days);
+                row.dueOrOverdue = true;
+            }
+        } else if (due->isToday(clock) && item->remindBefore() && !finished && !started) {
+            const int late = (now.hour() - due->hour()) * 60 + (now.minute() - due->minute());
+            if (late > 0) {
+                const int hours = late / 60;
+                const int minutes = late - hours * 60;
+                prefix = QStringLiteral("Due from ");
+                if (hours > 0)
+                    prefix += QString::number(hours) + QStringLiteral(" hr ");
+                if (minutes > 0)
+                    prefix += QString::number(minutes) + QStringLiteral(" min");
+                row.dueOrOverdue = true;
+            }
+        }
+        const QString clockTime = due->toString(DateStyle::none, DateStyle::shortStyle);
+        row.time = prefix.isEmpty() ? clockTime : prefix + QStringLiteral(" at ") + clockTime;
+    }
+
+    row.timeUsed.clear();
+    row.timeUsedInSeconds = 0;
+    if (started) {
+        const int limit = item->timeLimit().value_or(0);
+        row.timeUsed = hoursAndMinutes(limit / 3600, limit % 3600 / 60);
+    } else if (finished) {
+        const int elapsed = item->elapsedTime().value_or(0);
+        row.timeUsed = getStringFromSeconds(elapsed);
+        row.timeUsedInSeconds = elapsed;
+    }
+
+    const int hours = item->durationHr().value_or(0);
+    const int minutes = item->durationMin().value_or(0);
+    row.duration = hours == 0 && minutes == 0 ? QString() : hoursAndMinutes(hours, minutes);
+
+    if (withProjectName) {
+        const Project* project = item->toProject();
+        row.projectName = project
+                              ? QStringLiteral("Lullet  |  ") + project->name().value_or(QString())
+                              : QStringLiteral("Lullet");
+    }
+}
+
+ListRow RowTexts::makeRow(Item* item, const Clock& clock, bool withProjectName)
+{
+    ListRow row;
+    row.representedObject = item;
+    setValues(row, clock, withProjectName);
+    return row;
+}
+
+} // namespace lullet

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace lullet {
+
+class Catalogue;
+class Clock;
+class Item;
+class Library;
+class Project;
+class RunningItem;
+
+// The sidebar of the main window: the six segments, a separator, then the projects.
+struct SidebarRow {
+    enum Type { Segment = 0, ProjectRow = 1, Separator = 3 };
+
+    QString name;
+    int type = Segment;
+    Project* project = nullptr;
+    // Search results may also be items.
+    Item* item = nullptr;
+    std::optional<int> count;
+    // A project's progress: time spent against time planned, 0 to 1.
+    std::optional<double> progress;
+};
+
+class Sidebar {
+public:
+    Sidebar(const Clock& clock, const Library& library, const Catalogue& catalogue,
+            const RunningItem& running);
+
+    // "Dashboard", "Lullets", "Today", "Upcoming", "Anytime", "Completed".
+    static const QStringList& segmentNames();
+    // The view that shows a selection: "Chart", "RepeatList", "LulletList", "CustomList" or
+    // "ProjectList" (for the selection "Project").
+    static QString viewFor(const QString& selection);
+
+    // The six segments with their counts, the separator, and a row for each project.
+    std::vector<SidebarRow> rows() const;
+    // The segments' counts, from one pass over every item.
+    struct Counts {
+        int today = 0;
+        int upcoming = 0;
+        int anytime = 0;
+        int completed = 0;
+        int lullets = 0;
+    };
+    Counts counts() const;
+    // The count of a row, as the sidebar shows it; none for the dashboard.
+    static std::optional<int> countFor(const SidebarRow& row, const Counts& counts);
+
+    // A project's progress, as its header's statistics reckon it.
+    double projectProgress(const Project& project) const;
+
+    // Where a search result leads: the project's own list, or the segment that lists the item.
+    QString segmentFor(const Item& item) const;
+
+    // Comma-separated terms; "today" and "anytime" stand for those items. Matching ignores case
+    // and diacritics: rows by name, projects also by the titles of their items, items by title.
+    std::vector<SidebarRow> search(const QString& text, const std::vector<SidebarRow>& rows) const;
+
+private:
+    const Clock& m_clock;
+    const Library& m_library;
+    const Catalogue& m_catalogue;
+    const RunningItem& m_running;
+};
+
+} // namespace lullet

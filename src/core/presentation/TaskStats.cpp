@@ -1,0 +1,81 @@
+#include "core/presentation/TaskStats.h"
+
+#include "core/activity/RunningItem.h"
+#include "core/dates/Clock.h"
+#include "core/model/Item.h"
+
+#include <algorithm>
+
+namespace lullet {
+
+TaskStats TaskStats::of(const std::vector<ListRow>& rows, const Clock& clock,
+                        const RunningItem& running)
+{
+    std::vector<Item*> items;
+    items.reserve(rows.size());
+    for (const ListRow& row : rows) {
+        if (row.representedObject)
+            items.push_back(row.representedObject);
+    }
+    return of(items, clock, running);
+}
+
+TaskStats TaskStats::of(const std::vector<Item*>& items, const Clock& clock,
+                        const RunningItem& running)
+{
+    TaskStats s;
+    const Date now = clock.now();
+    const std::optional<Date> lastPrompt = running.lastPromptAt();
+    const qint64 secondsNow = lastPrompt ? now.secondsAfterDate(*lastPrompt) : 0;
+    for (const Item* item : items) {
+        s.totalCount += 1;
+        const bool isToDo = item->isToDo();
+        const bool started = item->isStarted();
+        const bool finished = item->isFinished();
+
+        qint64 limit = item->timeLimit().value_or(0);
+        bool limitSet = true;
+        if (limit <= 0) {
+            const qint64 planned = item->plannedSeconds();
+            limitSet = planned > 0;
+            limit = std::max<qint64>(0, started ? planned - secondsNow : planned);
+        }
+        const qint64 elapsed = item->elapsedTime().value_or(0);
+        if (!limitSet) {
+            const int extendedBy = item->timeLimitExtendedBy().value_or(0);
+            const qint64 extended =
+                extendedBy > 0 ? extendedBy : qint64(running.promptPeriod()) * 60;
+            const qint64 covered = item->runningTimeCovered().value_or(0);
+            limit = started ? extended + covered : covered;
+        }
+        const std::optional<Date> date = item->effectiveDate();
+        const bool inToday = date && date->isToday(clock);
+
+        if (finished) {
+            s.completedCount += 1;
+            if (!isToDo) {
+                s.timeCompleted += elapsed;
+                if (!limitSet)
+                    limit = 0;
+                limit = std::min(limit, elapsed);
+                if (inToday) {
+                    s.countInToday += 1;
+                    s.timeCompletedToday += elapsed;
+                }
+                s.timeCompletedRunning += elapsed;
+            }
+        }
+        if (isToDo)
+            continue;
+        // Running time counts as today's, whatever the item's date.
+        if (!finished && started) {
+            s.timeCompletedToday += elapsed;
+            s.timeCompletedRunning += elapsed;
+        }
+        s.totalTimeAllotted += limit > 0 ? limit : elapsed;
+    }
+    s.totalTimeAllotted = std::max(s.totalTimeAllotted, s.timeCompletedRunning);
+    return s;
+}
+
+} // namespace lullet

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/dates/Date.h"
+
+#include <QString>
+
+namespace lullet {
+
+class Clock;
+class Rule;
+class Item;
+class WorkingHours;
+class WorkingSchedule;
+struct CatalogueRow;
+
+// The one-line texts that say what a rule or a suggestion is, when it comes next and how often:
+// "Lullet : Today at 3:00 PM, repeats every 2 hours".
+class ScheduleTexts {
+public:
+    ScheduleTexts(const Clock& clock, WorkingSchedule& schedule, const WorkingHours& hours);
+
+    // For a stored rule; no rule gives the empty text.
+    QString ruleText(const Rule* rule) const;
+    // For a suggestion without a rule: one step after the start of today's working hours, or
+    // after now when today has no single entry.
+    QString suggestionText(const CatalogueRow& row) const;
+    // The description of an item in the add task form's table: its repeat, date and duration.
+    QString itemText(const Item& item) const;
+
+    // "minute", "2 mins", "hour", "3 hours", ... for a unit code and count.
+    static QString intervalText(int repeatType, int count);
+    // The next date of a suggestion, as suggestionText words it.
+    Date suggestionNextDate(const CatalogueRow& row) const;
+
+private:
+    QString compose(bool isToDo, Date next, int repeatType, int count) const;
+    QString dateText(Date d) const;
+    QString timeText(Date d) const;
+
+    const Clock& m_clock;
+    WorkingSchedule& m_schedule;
+    const WorkingHours& m_hours;
+};
+
+} // namespace lullet

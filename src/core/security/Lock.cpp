@@ -1,0 +1,13 @@
+#include "core/security/Lock.h"
+
+namespace lullet {
+
+void Lock::unlock()
+{
+    if (!m_locked)
+        return;
+    m_locked = false;
+    Q_EMIT unlocked();
+}
+
+} // namespace lullet

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QObject>
+
+namespace lullet {
+
+// Whether the user is in. With password protection on, the program starts locked and the login
+// page unlocks it once per run; nothing locks it again until the next launch. While locked the
+// idle questions wait.
+class Lock final : public QObject {
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+    bool isLocked() const { return m_locked; }
+    void lock() { m_locked = true; }
+    void unlock();
+
+Q_SIGNALS:
+    void unlocked();
+
+private:
+    bool m_locked = false;
+};
+
+} // namespace lullet

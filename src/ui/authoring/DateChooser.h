@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/dates/Date.h"
+
+#include <QFrame>
+
+#include <optional>
+
+class QCalendarWidget;
+class QTimeEdit;
+
+namespace lullet {
+
+// The small date-and-time chooser of the forms. It answers the form that opened it with
+// chosen() or unset(), and closes on a click elsewhere.
+class DateChooser final : public QFrame {
+    Q_OBJECT
+public:
+    DateChooser(std::optional<Date> initial, std::optional<Date> minimum,
+                QWidget* parent = nullptr);
+
+    // Shows the chooser below the given widget.
+    void popUpBelow(QWidget* anchor);
+
+Q_SIGNALS:
+    void chosen(lullet::Date date);
+    // The user wants no date at all.
+    void unset();
+
+private:
+    void choose();
+    Date selected() const;
+
+    QCalendarWidget* m_calendar;
+    QTimeEdit* m_time;
+};
+
+} // namespace lullet

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QIcon>
+
+namespace lullet {
+
+// The status item's icon, drawn rather than loaded so that it needs no image plugin: a crescent
+// in one colour, the panel's text colour, so it reads on light and dark panels alike.
+class TrayIconPainter {
+public:
+    static QIcon make();
+};
+
+} // namespace lullet

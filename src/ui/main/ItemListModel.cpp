@@ -1,0 +1,164 @@
+#include "ui/main/ItemListModel.h"
+
+#include "core/activity/RunningItem.h"
+#include "core/dates/Clock.h"
+#include "core/model/Item.h"
+#include "core/presentation/RowTexts.h"
+
+#include <QColor>
+#include <QFont>
+
+namespace lullet {
+
+ItemListModel::ItemListModel(const Clock& clock, const Library& library, const RunningItem& running,
+                             ListBuilder::Scope scope, bool withProjectName, QObject* parent)
+    : QAbstractTableModel(parent)
+    , m_clock(clock)
+    , m_library(library)
+    , m_running(running)
+    , m_scope(std::move(scope))
+    , m_withProjectName(withProjectName)
+{
+    reload();
+}
+
+void ItemListModel::reload()
+{
+    beginResetModel();
+    m_rows.clear();
+    if (m_scope.isCustomListing()) {
+        m_rows = ListBuilder::customListing(m_scope.segment, m_library, m_clock);
+        endResetModel();
+        return;
+    }
+    const std::vector<Item*> items = ListBuilder::itemsFor(m_scope, m_library, m_clock.now());
+    // A project's list shows its whole content by day.
+    if (m_scope.project) {
+        m_rows = ListBuilder::groupByDay(items, m_clock, m_withProjectName);
+    } else {
+        for (Item* item : items)
+            m_rows.push_back(RowTexts::makeRow(item, m_clock, m_withProjectName));
+    }
+    endResetModel();
+}
+
+void ItemListModel::refreshTexts()
+{
+    for (ListRow& row : m_rows) {
+        if (row.type == ListRow::ItemRow)
+            RowTexts::setValues(row, m_clock, m_withProjectName);
+    }
+    if (!m_rows.empty())
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+}
+
+void ItemListModel::refreshItem(const Item* item)
+{
+    const int row = rowOf(item);
+    if (row < 0)
+        return;
+    RowTexts::setValues(m_rows[std::size_t(row)], m_clock, m_withProjectName);
+    Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
+}
+
+int ItemListModel::rowOf(const Item* item) const
+{
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (m_rows[i].representedObject == item)
+            return int(i);
+    }
+    return -1;
+}
+
+int ItemListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(m_rows.size());
+}
+
+int ItemListModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant ItemListModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= rowCount())
+        return {};
+    const ListRow& row = m_rows[std::size_t(index.row())];
+    const Item* item = row.representedObject;
+    switch (role) {
+    case ItemRole:
+        return QVariant::fromValue(row.representedObject);
+    case DueRole:
+        return row.dueOrOverdue;
+    case ProjectRole:
+        return row.projectName;
+    case RunningRole:
+        return m_running.isRunning(item);
+    case FinishedRole:
+        return item && item->isFinished();
+    case Qt::DisplayRole:
+        if (row.type == ListRow::DayHeading) {
+            if (index.column() == StartColumn)
+                return row.countOnDay > 0
+                           ? row.title + QStringLiteral("  (%1)").arg(row.countOnDay) +
+                                 (row.timeUsedInSeconds > 0 ? QStringLiteral("   ") + row.timeUsed
+                                                            : QString())
+                           : row.title;
+            return QVariant();
+        }
+        switch (index.column()) {
+        case TitleColumn:
+            return row.title;
+        case TimeColumn:
+            return row.time;
+        case DurationColumn:
+            return row.duration;
+        case UsedColumn:
+            return row.timeUsed;
+        default:
+            return {};
+        }
+    case Qt::ForegroundRole:
+        // Due and overdue times stand out in the warning colour.
+        if (index.column() == TimeColumn && row.dueOrOverdue)
+            return QColor(0xFC, 0x72, 0x74);
+        return {};
+    case Qt::FontRole:
+        if (row.type == ListRow::DayHeading) {
+            QFont font;
+            font.setBold(true);
+            return font;
+        }
+        if (index.column() == TitleColumn && item && item->isFinished()) {
+            QFont font;
+            font.setStrikeOut(true);
+            return font;
+        }
+        return {};
+    default:
+        return {};
+    }
+}
+
+QVariant ItemListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    switch (section) {
+    case StartColumn:
+        return QString();
+    case TitleColumn:
+        return tr("Lullet");
+    case TimeColumn:
+        return tr("Time");
+    case DurationColumn:
+        return tr("Duration");
+    case UsedColumn:
+        return tr("Used");
+    default:
+        return {};
+    }
+}
+
+} // namespace lullet

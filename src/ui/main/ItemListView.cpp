@@ -1,0 +1,496 @@
+#include "ui/main/ItemListView.h"
+
+#include "core/activity/ItemActions.h"
+#include "core/activity/Postponing.h"
+#include "core/activity/ProjectActions.h"
+#include "core/activity/RunningItem.h"
+#include "core/app/Services.h"
+#include "core/dates/Clock.h"
+#include "core/library/Library.h"
+#include "core/monitor/Monitor.h"
+#include "core/presentation/RowTexts.h"
+#include "core/presentation/TaskStats.h"
+#include "core/text/LocalizedText.h"
+#include "ui/main/ItemListModel.h"
+#include "ui/main/PostponePanel.h"
+#include "ui/widgets/CircularProgress.h"
+#include "ui/widgets/Dialogs.h"
+#include "ui/widgets/HexColor.h"
+#include "ui/widgets/StyledButton.h"
+
+#include <QBarCategoryAxis>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+#include <QValueAxis>
+
+namespace lullet {
+
+namespace {
+
+const QString ongoingColor = QStringLiteral("FC7274");
+const QString completedColor = QStringLiteral("A0CFAB");
+
+QLabel* countLabel(QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
+}
+
+} // namespace
+
+ItemListView::ItemListView(const Services& services, ListBuilder::Scope scope, bool withHeader,
+                           QWidget* parent)
+    : QWidget(parent)
+    , m_services(services)
+    , m_withHeader(withHeader)
+    , m_model(new ItemListModel(services.clock, services.library, services.running, scope,
+                                withHeader && !scope.project, this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(withHeader ? 16 : 0, withHeader ? 12 : 0, withHeader ? 16 : 0, 0);
+    if (withHeader)
+        buildHeader(layout);
+    buildTable(layout);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &ItemListView::onReset);
+    listenToChanges();
+    onReset();
+}
+
+void ItemListView::buildHeader(QVBoxLayout* layout)
+{
+    const ListBuilder::Scope& scope = m_model->scope();
+    auto* header = new QHBoxLayout;
+    auto* texts = new QVBoxLayout;
+    m_name =
+        new QLabel(scope.project ? scope.project->name().value_or(QString()) : scope.segment, this);
+    QFont big = m_name->font();
+    big.setPointSizeF(big.pointSizeF() * 1.6);
+    big.setBold(true);
+    m_name->setFont(big);
+    texts->addWidget(m_name);
+    buildCounts(texts);
+    header->addLayout(texts, 1);
+    if (scope.project)
+        buildProjectButtons(header, scope.project);
+    m_status = new StyledButton(QString(), this);
+    m_status->setHoverEnabled(false);
+    header->addWidget(m_status, 0, Qt::AlignVCenter);
+    m_progress = new CircularProgress(this);
+    m_progress->setColor(*HexColor::fromHex(ongoingColor));
+    m_progress->setLineWidth(8);
+    m_progress->setFixedSize(72, 72);
+    header->addWidget(m_progress);
+    layout->addLayout(header);
+    if (scope.isCustomListing()) {
+        m_chart = new QChartView(this);
+        m_chart->setObjectName(QStringLiteral("chart"));
+        m_chart->setRenderHint(QPainter::Antialiasing);
+        m_chart->setMinimumHeight(160);
+        m_chart->setMaximumHeight(200);
+        layout->addWidget(m_chart);
+    }
+}
+
+void ItemListView::buildCounts(QVBoxLayout* texts)
+{
+    auto* counts = new QHBoxLayout;
+    m_taskCount = countLabel(this);
+    m_completedCount = countLabel(this);
+    m_dueCount = countLabel(this);
+    m_todayCount = countLabel(this);
+    for (QLabel* label : {m_taskCount, m_completedCount, m_dueCount, m_todayCount})
+        counts->addWidget(label);
+    counts->addStretch();
+    texts->addLayout(counts);
+    m_timeUsed = countLabel(this);
+    texts->addWidget(m_timeUsed);
+}
+
+void ItemListView::buildProjectButtons(QHBoxLayout* header, Project* project)
+{
+    auto* duplicate = new QPushButton(tr("Duplicate"), this);
+    duplicate->setObjectName(QStringLiteral("duplicateProject"));
+    auto* remove = new QPushButton(tr("Delete"), this);
+    remove->setObjectName(QStringLiteral("deleteProject"));
+    header->addWidget(duplicate, 0, Qt::AlignVCenter);
+    header->addWidget(remove, 0, Qt::AlignVCenter);
+    connect(duplicate, &QPushButton::clicked, this, [this, project] {
+        Q_EMIT projectDuplicated(m_services.projectActions.duplicateAsNew(*project));
+    });
+    connect(remove, &QPushButton::clicked, this, [this, project] {
+        if (ProjectActions::deleteAsks(*project) &&
+            !Dialogs::confirm(this, ProjectActions::deleteTitle(),
+                              ProjectActions::deleteQuestion()))
+            return;
+        Q_EMIT projectDeletionRequested(project);
+    });
+}
+
+void ItemListView::buildTable(QVBoxLayout* layout)
+{
+    m_table = new QTableView(this);
+    m_table->setModel(m_model);
+    m_table->setObjectName(QStringLiteral("items"));
+    m_table->setShowGrid(false);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(34);
+    QHeaderView* columns = m_table->horizontalHeader();
+    columns->setSectionResizeMode(ItemListModel::TitleColumn, QHeaderView::Stretch);
+    columns->setSectionResizeMode(ItemListModel::StartColumn, QHeaderView::Fixed);
+    // The title takes what the other columns leave; the time column is wide enough for "Due
+    // from 1 hr 30 min at 10:15 AM" and the user may widen it.
+    m_table->setColumnWidth(ItemListModel::TimeColumn, 180);
+    m_table->setColumnWidth(ItemListModel::DurationColumn, 64);
+    m_table->setColumnWidth(ItemListModel::UsedColumn, 72);
+    columns->setMinimumSectionSize(36);
+    m_table->setWordWrap(false);
+    m_table->setFocusPolicy(Qt::NoFocus);
+    m_table->setColumnWidth(ItemListModel::StartColumn, 36);
+    columns->setVisible(m_withHeader);
+    if (!m_withHeader) {
+        m_table->hideColumn(ItemListModel::DurationColumn);
+        m_table->hideColumn(ItemListModel::UsedColumn);
+        m_table->setMinimumSize(380, 260);
+    }
+    m_table->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_table, &QWidget::customContextMenuRequested, this, [this](const QPoint& pos) {
+        const QModelIndex index = m_table->indexAt(pos);
+        auto* item = m_model->data(index, ItemListModel::ItemRole).value<Item*>();
+        // A click beside the rows or on a heading opens nothing.
+        if (!item)
+            return;
+        m_table->selectRow(index.row());
+        QMenu* menu = buildMenu(item);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->popup(m_table->viewport()->mapToGlobal(pos));
+    });
+    layout->addWidget(m_table, 1);
+    m_noData = new QLabel(tr("Nothing here. Enjoy the calm."), this);
+    m_noData->setAlignment(Qt::AlignCenter);
+    m_noData->setForegroundRole(QPalette::PlaceholderText);
+    layout->addWidget(m_noData, 1);
+}
+
+void ItemListView::listenToChanges()
+{
+    const Library& library = m_services.library;
+    connect(&library, &Library::itemsChanged, this, &ItemListView::onItemsChanged);
+    connect(&library, &Library::itemRemoved, this, &ItemListView::reload);
+    connect(&library, &Library::itemPostponed, this, &ItemListView::onPostponed);
+    const RunningItem& running = m_services.running;
+    connect(&running, &RunningItem::started, this, &ItemListView::onRunningChanged);
+    connect(&running, &RunningItem::finished, this, &ItemListView::onRunningChanged);
+    connect(&running, &RunningItem::extended, this, &ItemListView::onRunningChanged);
+    connect(&m_services.monitor, &Monitor::minutePassed, this, [this] {
+        m_model->refreshTexts();
+        updateStats();
+    });
+    connect(&m_services.monitor, &Monitor::ticked, this, [this] {
+        if (const Item* item = m_services.running.item()) {
+            m_model->refreshItem(item);
+            updateStats();
+        }
+    });
+}
+
+void ItemListView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    // A narrow window keeps the title readable and leaves the planned and used times out.
+    if (m_withHeader) {
+        const bool narrow = width() < 560;
+        m_table->setColumnHidden(ItemListModel::DurationColumn, narrow);
+        m_table->setColumnHidden(ItemListModel::UsedColumn, narrow);
+    }
+}
+
+void ItemListView::reload()
+{
+    m_model->reload();
+}
+
+void ItemListView::onReset()
+{
+    placeStartButtons();
+    m_table->selectionModel()->clear();
+    const bool empty = m_model->rowCount() == 0;
+    m_noData->setVisible(empty);
+    m_table->setVisible(!empty);
+    updateStats();
+    updateChart();
+}
+
+void ItemListView::select(const Item* item)
+{
+    const int row = m_model->rowOf(item);
+    if (row >= 0)
+        m_table->selectRow(row);
+}
+
+void ItemListView::onItemsChanged(Item* item)
+{
+    reload();
+    // A new or edited item is shown selected where it now stands.
+    if (m_model->rowOf(item) >= 0) {
+        select(item);
+        return;
+    }
+    // Not listed here: the main view moves to where it belongs.
+    const ListBuilder::Scope& shown = m_model->scope();
+    if (!item || !item->hasContext() || !m_withHeader || shown.project || shown.isCustomListing())
+        return;
+    const QString target =
+        item->effectiveDate() ? QStringLiteral("Today") : QStringLiteral("Anytime");
+    if (target != shown.segment &&
+        ListBuilder::belongs(*item, {target, nullptr, false}, m_services.clock.now()))
+        Q_EMIT segmentRequested(target);
+}
+
+void ItemListView::onPostponed(Item* item)
+{
+    const bool wasListed = item && m_model->rowOf(item) >= 0;
+    reload();
+    // Moved out of the day's list: say where it went.
+    const ListBuilder::Scope& shown = m_model->scope();
+    if (wasListed && m_model->rowOf(item) < 0 && isVisible() && !shown.project &&
+        !shown.isAnytime())
+        showPostponeMessage(*item);
+}
+
+void ItemListView::onRunningChanged(Item* item)
+{
+    // Upcoming and Completed give way to "Today", where the running state shows.
+    if (m_withHeader && m_model->scope().isCustomListing() && item) {
+        Q_EMIT segmentRequested(QStringLiteral("Today"));
+        return;
+    }
+    reload();
+}
+
+void ItemListView::placeStartButtons()
+{
+    m_table->clearSpans();
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const QModelIndex index = m_model->index(row, ItemListModel::StartColumn);
+        auto* item = m_model->data(index, ItemListModel::ItemRole).value<Item*>();
+        if (!item) {
+            // A day's heading across the whole row.
+            m_table->setSpan(row, 0, 1, ItemListModel::ColumnCount);
+            continue;
+        }
+        const bool running = m_services.running.isRunning(item);
+        const bool finished = item->isFinished();
+        auto* button = new QPushButton(finished  ? QStringLiteral("✓")
+                                       : running ? QStringLiteral("■")
+                                                 : QStringLiteral("▶"));
+        button->setFlat(true);
+        button->setEnabled(!finished);
+        button->setToolTip(running ? tr("Stop: it is done") : tr("Start"));
+        button->setObjectName(QStringLiteral("startOrStop"));
+        connect(button, &QPushButton::clicked, this, [this, item] { startOrStop(item); });
+        m_table->setIndexWidget(index, button);
+    }
+}
+
+void ItemListView::finish(Item* item)
+{
+    if (m_services.itemActions.finish(*item))
+        m_services.monitor.askWhatNow();
+}
+
+void ItemListView::startOrStop(Item* item)
+{
+    if (!item || !item->hasContext())
+        return;
+    if (m_services.running.isRunning(item)) {
+        finish(item);
+        // In the tray's panel, where nothing else shows it.
+        if (!m_withHeader)
+            Dialogs::inform(this, tr("Task completed"),
+                            item->title().value_or(QString()) +
+                                QStringLiteral(" has been completed now"));
+        return;
+    }
+    if (m_services.itemActions.start(*item) != ItemActions::StartResult::AnotherIsRunning)
+        return;
+    const int answer = Dialogs::ask(this, {ItemActions::alreadyRunningMessage(),
+                                           ItemActions::alreadyRunningInformation(),
+                                           {tr("Start"), tr("Cancel")}});
+    if (answer == 0 && item->hasContext())
+        m_services.itemActions.confirmStart(*item);
+}
+
+bool ItemListView::refusePostpone(Item* item)
+{
+    if (m_services.running.isRunning(item)) {
+        Dialogs::inform(this, ItemActions::cannotPostponeTitle(),
+                        ItemActions::cannotPostponeText());
+        return true;
+    }
+    // A finished item is silently not postponed.
+    return item->isFinished();
+}
+
+void ItemListView::postpone(Item* item)
+{
+    if (refusePostpone(item))
+        return;
+    auto* panel = new PostponePanel(m_services, item, this);
+    const int row = m_model->rowOf(item);
+    const QRect cell =
+        m_table->visualRect(m_model->index(std::max(row, 0), ItemListModel::TitleColumn));
+    panel->popUpAt(m_table->viewport()->mapToGlobal(cell.center()));
+}
+
+QMenu* ItemListView::buildMenu(Item* item)
+{
+    auto* menu = new QMenu(this);
+    const bool running = m_services.running.isRunning(item);
+    const bool finished = item->isFinished();
+    if (!finished) {
+        connect(menu->addAction(running ? tr("Stop") : tr("Start")), &QAction::triggered, this,
+                [this, item] { startOrStop(item); });
+        connect(menu->addAction(tr("Finish")), &QAction::triggered, this,
+                [this, item] { finish(item); });
+    }
+    // The reschedule choices, for an item neither finished nor running.
+    if (!finished && !item->isStarted())
+        addPostponeChoices(menu, item);
+    if (!finished) {
+        connect(menu->addAction(tr("Postpone…")), &QAction::triggered, this,
+                [this, item] { postpone(item); });
+    }
+    menu->addSeparator();
+    addMoveAndDuplicate(menu, item);
+    menu->addSeparator();
+    connect(menu->addAction(tr("Delete")), &QAction::triggered, this,
+            [this, item] { m_services.itemActions.deleteItem(*item); });
+    return menu;
+}
+
+void ItemListView::addPostponeChoices(QMenu* menu, Item* item)
+{
+    QMenu* later = menu->addMenu(tr("Postpone"));
+    Postponing& postponing = m_services.postponing;
+    const Date now = m_services.clock.now();
+    const std::pair<int, QString> choices[] = {
+        {Postponing::InThreeHours, tr("In 3 hours")},
+        {Postponing::ThisEvening, Postponing::eveningLabel(now, m_services.clock)},
+        {Postponing::Tomorrow, Postponing::nextDayLabel(now, m_services.clock)},
+        {Postponing::InTwoDays, Postponing::inTwoDaysLabel(now)},
+        {Postponing::ThisWeekend, Postponing::weekendLabel(now)},
+        {Postponing::NextWeek, tr("Next week")},
+        {Postponing::NextMonth, tr("In a month")},
+    };
+    for (const auto& [choice, label] : choices) {
+        const int tag = choice;
+        connect(later->addAction(label), &QAction::triggered, this,
+                [&postponing, item, tag] { postponing.chooseInMenu(item, tag); });
+    }
+}
+
+void ItemListView::addMoveAndDuplicate(QMenu* menu, Item* item)
+{
+    QMenu* moveTo = menu->addMenu(tr("Move to"));
+    QMenu* duplicateTo = menu->addMenu(tr("Duplicate to"));
+    ItemActions& actions = m_services.itemActions;
+    const auto addTarget = [&](const QString& title, Project* target) {
+        connect(moveTo->addAction(title), &QAction::triggered, this,
+                [&actions, item, target] { actions.moveToProject(*item, target); });
+        connect(duplicateTo->addAction(title), &QAction::triggered, this,
+                [&actions, item, target] { actions.duplicateToProject(*item, target); });
+    };
+    if (item->toProject())
+        addTarget(tr("No Project"), nullptr);
+    for (Project* project : actions.otherProjects(*item))
+        addTarget(project->name().value_or(QString()), project);
+    moveTo->setEnabled(!moveTo->isEmpty());
+    duplicateTo->setEnabled(!duplicateTo->isEmpty());
+}
+
+void ItemListView::showPostponeMessage(const Item& item)
+{
+    const std::optional<Date> due = item.effectiveDate();
+    if (!due)
+        return;
+    Dialogs::inform(this, tr("Lullet postponed"),
+                    item.title().value_or(QString()) + QStringLiteral(" has been postponed to ") +
+                        QString::number(due->day()) + u' ' +
+                        LocalizedText::capitalizeFirst(due->shortMonthToString()) + u' ' +
+                        QString::number(due->year()));
+}
+
+void ItemListView::updateChart()
+{
+    if (!m_chart)
+        return;
+    auto* set = new QBarSet(tr("Hours used"));
+    set->setColor(*HexColor::fromHex(ongoingColor));
+    QStringList days;
+    for (const auto& [day, seconds] : ListBuilder::timeUsedByDay(m_model->rows())) {
+        *set << seconds / 3600.0;
+        days << QString::number(day.day()) + u' ' + day.shortMonthToString();
+    }
+    auto* series = new QBarSeries;
+    series->append(set);
+    auto* chart = new QChart;
+    chart->addSeries(series);
+    chart->legend()->hide();
+    chart->setMargins(QMargins(0, 0, 0, 0));
+    auto* axisX = new QBarCategoryAxis;
+    axisX->append(days);
+    chart->addAxis(axisX, Qt::AlignBottom);
+    series->attachAxis(axisX);
+    auto* axisY = new QValueAxis;
+    axisY->setLabelFormat(QStringLiteral("%.1f h"));
+    chart->addAxis(axisY, Qt::AlignLeft);
+    series->attachAxis(axisY);
+    QChart* old = m_chart->chart();
+    m_chart->setChart(chart);
+    delete old;
+}
+
+void ItemListView::updateStats()
+{
+    if (!m_withHeader)
+        return;
+    const TaskStats s = TaskStats::of(m_model->rows(), m_services.clock, m_services.running);
+    int due = 0;
+    for (const ListRow& row : m_model->rows())
+        due += row.dueOrOverdue ? 1 : 0;
+    m_taskCount->setText(tr("Tasks: %1").arg(s.totalCount));
+    m_completedCount->setText(tr("Complete: %1").arg(s.completedCount));
+    m_dueCount->setText(tr("Due: %1").arg(due));
+    m_todayCount->setText(tr("Today: %1").arg(s.countInToday));
+    m_timeUsed->setText(tr("Time used %1 of %2")
+                            .arg(RowTexts::getStringFromSeconds(int(s.timeCompletedRunning)),
+                                 RowTexts::getStringFromSeconds(int(s.totalTimeAllotted))));
+    m_progress->setProgress(s.totalTimeAllotted > 0
+                                ? double(s.timeCompletedRunning) / double(s.totalTimeAllotted)
+                                : 0.0);
+    // The status: no rows, all done, or still going.
+    QString status = tr("No Lullet");
+    QString color = ongoingColor;
+    if (s.totalCount > 0) {
+        const bool allDone = s.completedCount == s.totalCount;
+        status = allDone ? tr("Completed") : tr("Ongoing");
+        color = allDone ? completedColor : ongoingColor;
+    }
+    m_status->setText(status);
+    m_status->setColor(*HexColor::fromHex(color));
+}
+
+} // namespace lullet

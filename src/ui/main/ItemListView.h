@@ -1,0 +1,91 @@
+#pragma once
+
+#include "core/presentation/ListBuilder.h"
+
+#include <QWidget>
+
+class QChartView;
+class QHBoxLayout;
+class QLabel;
+class QMenu;
+class QTableView;
+class QVBoxLayout;
+
+namespace lullet {
+
+class CircularProgress;
+class Item;
+class ItemListModel;
+class Project;
+class StyledButton;
+struct Services;
+
+// A list of items: "Today", "Anytime", "Upcoming", "Completed" or a project's, with the header
+// statistics in the main window; without the header, the day's list in the tray's panel. Each
+// row can be started or stopped, finished, postponed, moved, duplicated and deleted.
+class ItemListView final : public QWidget {
+    Q_OBJECT
+public:
+    ItemListView(const Services& services, ListBuilder::Scope scope, bool withHeader,
+                 QWidget* parent = nullptr);
+
+    ItemListModel& model() { return *m_model; }
+    QTableView* table() const { return m_table; }
+
+    // The row's start button: starts, or stops (which finishes) the item.
+    void startOrStop(Item* item);
+    // The context menu of a row, as built for it.
+    QMenu* buildMenu(Item* item);
+    // The postpone panel for the item, unless it runs (refused with a message) or is finished.
+    void postpone(Item* item);
+    // Selects the item's row, if it is listed.
+    void select(const Item* item);
+
+Q_SIGNALS:
+    // The main view is asked to show another segment, where an item now belongs.
+    void segmentRequested(const QString& segment);
+    // The project list's own buttons.
+    void projectDeletionRequested(lullet::Project* project);
+    void projectDuplicated(lullet::Project* project);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void buildHeader(QVBoxLayout* layout);
+    void buildCounts(QVBoxLayout* texts);
+    void buildProjectButtons(QHBoxLayout* header, Project* project);
+    void buildTable(QVBoxLayout* layout);
+    void listenToChanges();
+    void addMoveAndDuplicate(QMenu* menu, Item* item);
+    void addPostponeChoices(QMenu* menu, Item* item);
+    void finish(Item* item);
+    void reload();
+    void onReset();
+    void onItemsChanged(Item* item);
+    void onPostponed(Item* item);
+    void onRunningChanged(Item* item);
+    void updateStats();
+    void placeStartButtons();
+    // Upcoming and Completed: the time used by day, as bars.
+    void updateChart();
+    void showPostponeMessage(const Item& item);
+    bool refusePostpone(Item* item);
+
+    const Services& m_services;
+    bool m_withHeader;
+    ItemListModel* m_model;
+    QTableView* m_table = nullptr;
+    QLabel* m_noData = nullptr;
+    QLabel* m_name = nullptr;
+    QLabel* m_taskCount = nullptr;
+    QLabel* m_completedCount = nullptr;
+    QLabel* m_dueCount = nullptr;
+    QLabel* m_todayCount = nullptr;
+    QLabel* m_timeUsed = nullptr;
+    CircularProgress* m_progress = nullptr;
+    StyledButton* m_status = nullptr;
+    QChartView* m_chart = nullptr;
+};
+
+} // namespace lullet

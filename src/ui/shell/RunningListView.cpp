@@ -1,0 +1,59 @@
+#include "ui/shell/RunningListView.h"
+
+#include "core/activity/RunningItem.h"
+#include "core/app/Services.h"
+#include "core/model/Item.h"
+#include "core/monitor/Monitor.h"
+#include "core/presentation/RowTexts.h"
+#include "ui/main/ItemListView.h"
+#include "ui/prompts/PromptLayout.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace lullet {
+
+RunningListView::RunningListView(const Services& services, QWidget* parent)
+    : QWidget(parent)
+    , m_services(services)
+    , m_running(PromptLayout::message(this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(PromptLayout::heading(tr("Running now"), this));
+    layout->addWidget(m_running);
+    layout->addWidget(PromptLayout::heading(tr("Today"), this));
+    layout->addWidget(new ItemListView(m_services, {}, false, this));
+    auto* actions = new QHBoxLayout;
+    QPushButton* open = PromptLayout::button(tr("Open Lullet"), this, true);
+    QPushButton* quit = PromptLayout::button(tr("Quit"), this);
+    actions->addWidget(open);
+    actions->addStretch();
+    actions->addWidget(quit);
+    layout->addLayout(actions);
+    connect(open, &QPushButton::clicked, this, &RunningListView::openWindowRequested);
+    connect(quit, &QPushButton::clicked, this, &RunningListView::quitRequested);
+
+    connect(&services.monitor, &Monitor::ticked, this, &RunningListView::showRunning);
+    connect(&services.running, &RunningItem::started, this, &RunningListView::showRunning);
+    connect(&services.running, &RunningItem::finished, this, &RunningListView::showRunning);
+    showRunning();
+}
+
+void RunningListView::showRunning()
+{
+    const Item* running = m_services.running.item();
+    if (!running) {
+        m_running->setText(tr("Nothing is running."));
+        return;
+    }
+    const int limit = running->timeLimit().value_or(0);
+    QString time = RowTexts::getStringFromSeconds(running->elapsedTime().value_or(0));
+    if (limit > 0)
+        time += QStringLiteral(" / ") + RowTexts::getStringFromSeconds(limit);
+    m_running->setText(running->title().value_or(QString()) + QStringLiteral("  ") + time);
+}
+
+} // namespace lullet

@@ -1,0 +1,220 @@
+#include "ui/shell/Shell.h"
+
+#include "core/app/Services.h"
+#include "core/model/Item.h"
+#include "core/monitor/Monitor.h"
+#include "core/settings/Settings.h"
+#include "ui/authoring/QuickAddView.h"
+#include "ui/main/MainView.h"
+#include "ui/prompts/IdlePromptView.h"
+#include "ui/prompts/ReminderPromptView.h"
+#include "ui/prompts/TimeOverPromptView.h"
+#include "ui/prompts/TodoPromptView.h"
+#include "ui/shell/MainWindow.h"
+#include "ui/shell/RunningListView.h"
+#include "ui/shell/Tray.h"
+#include "ui/shell/WindowContent.h"
+#include "ui/widgets/Popover.h"
+
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScreen>
+#include <QTimer>
+
+namespace lullet {
+
+namespace {
+
+// A prompt raised for an item that has since been deleted has nothing to ask.
+bool gone(const Item* item)
+{
+    return item && !item->hasContext();
+}
+
+} // namespace
+
+Shell::Shell(const Services& services, MainWindow& window, QObject* parent)
+    : QObject(parent)
+    , m_services(services)
+    , m_window(window)
+    , m_tray(new Tray(window, this))
+{
+    connect(m_tray, &Tray::clicked, this, [this] {
+        m_tray->togglePopover([this]() -> QWidget* {
+            auto* view = new RunningListView(m_services);
+            connect(view, &RunningListView::openWindowRequested, this, [this] {
+                m_tray->closePopover();
+                bringMainWindowForward();
+            });
+            connect(view, &RunningListView::quitRequested, this, &Shell::quitRequested);
+            return view;
+        });
+    });
+    connect(m_tray, &Tray::retiring, this, &Shell::onRetiring);
+    connectMonitor();
+}
+
+Shell::~Shell()
+{
+    // The open prompt acts on the core's records: it goes while they still exist.
+    m_tray->dropPopover();
+    delete m_quickAddWindow;
+}
+
+void Shell::connectMonitor()
+{
+    const Monitor& monitor = m_services.monitor;
+    connect(&monitor, &Monitor::reminderDue, this, &Shell::showReminder);
+    connect(&monitor, &Monitor::idleQuestionDue, this, &Shell::askIdleQuestion);
+    connect(&monitor, &Monitor::timeOver, this, &Shell::showTimeOver);
+    connect(&monitor, &Monitor::toDoDue, this, &Shell::showToDo);
+}
+
+void Shell::showTray()
+{
+    auto* menu = new QMenu(&m_window);
+    connect(menu->addAction(tr("Open Lullet")), &QAction::triggered, this,
+            [this] { bringMainWindowForward(); });
+    menu->addSeparator();
+    connect(menu->addAction(tr("Quit Lullet")), &QAction::triggered, this, &Shell::quitRequested);
+    m_tray->showIcon(menu);
+}
+
+void Shell::prepareMainWindow(bool locked)
+{
+    if (!m_content) {
+        m_content = new WindowContent(m_services);
+        connect(m_content, &WindowContent::proceededFromWelcome, this, [this] {
+            m_window.setWindowFlags(Qt::Window);
+            m_window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+            m_window.applyWorkingSizing(false);
+            m_window.show();
+        });
+        m_window.setCentralWidget(m_content);
+    }
+    if (m_services.settings.welcomeDone())
+        m_window.applyWorkingSizing(locked);
+    else
+        m_window.applyWelcomeSizing();
+}
+
+void Shell::bringMainWindowForward(const std::function<void()>& whenShown)
+{
+    m_window.show();
+    m_window.raise();
+    m_window.activateWindow();
+    if (whenShown)
+        QTimer::singleShot(0, this, whenShown);
+}
+
+const Project* Shell::selectedProject() const
+{
+    const MainView* main = m_content ? m_content->mainView() : nullptr;
+    return main ? main->selectedProject() : nullptr;
+}
+
+void Shell::showPrompt(const std::function<QWidget*()>& make)
+{
+    m_tray->show([this, make] {
+        QWidget* content = make();
+        if (auto* prompt = qobject_cast<PromptView*>(content))
+            connect(prompt, &PromptView::answered, this, &Shell::onAnswered);
+        return content;
+    });
+}
+
+void Shell::onAnswered(PromptOutcome outcome)
+{
+    switch (outcome) {
+    case PromptOutcome::Stay:
+        return;
+    case PromptOutcome::Close:
+        m_tray->closePopover();
+        return;
+    case PromptOutcome::CloseAndAsk:
+        m_tray->closePopover();
+        m_services.monitor.askWhatNow();
+        return;
+    case PromptOutcome::CloseAtOnceAndAsk:
+        m_tray->closePopoverImmediate();
+        m_services.monitor.askWhatNow();
+        return;
+    }
+}
+
+void Shell::onRetiring(QWidget* content)
+{
+    // An idle question that goes unanswered hands its gap to the next question, before that one
+    // is made.
+    if (auto* idle = qobject_cast<IdlePromptView*>(content))
+        idle->leaveUnanswered();
+}
+
+void Shell::showReminder(Item* due, Item* previous)
+{
+    if (gone(due) || gone(previous))
+        return;
+    showPrompt([this, due, previous] { return new ReminderPromptView(m_services, due, previous); });
+}
+
+void Shell::askIdleQuestion(Date since, bool askNow)
+{
+    const Popover* open = m_tray->popover();
+    if (open && open->isShown()) {
+        if (auto* idle = qobject_cast<IdlePromptView*>(open->content())) {
+            idle->extend(askNow);
+            return;
+        }
+    }
+    showPrompt([this, since, askNow] {
+        return new IdlePromptView(m_services, since, askNow, selectedProject());
+    });
+}
+
+void Shell::showTimeOver(Item* item)
+{
+    if (gone(item))
+        return;
+    showPrompt([this, item] { return new TimeOverPromptView(m_services, item); });
+}
+
+void Shell::showToDo(Item* item)
+{
+    if (gone(item))
+        return;
+    showPrompt([this, item] { return new TodoPromptView(m_services, item); });
+}
+
+void Shell::quickAdd()
+{
+    MainView* main = m_content ? m_content->mainView() : nullptr;
+    if (m_window.isVisible() && main)
+        main->showQuickAddBar();
+    else
+        openQuickAddWindow();
+}
+
+void Shell::openQuickAddWindow()
+{
+    if (!m_quickAddWindow) {
+        m_quickAddWindow = new QuickAddView(m_services);
+        m_quickAddWindow->setWindowFlags(Qt::Window | Qt::WindowStaysOnTopHint);
+        connect(m_quickAddWindow, &QuickAddView::added, m_quickAddWindow, &QWidget::hide);
+        // Where a launcher would be: centred, in the upper third of the screen.
+        m_quickAddWindow->adjustSize();
+        if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+            const QRect area = screen->availableGeometry();
+            m_quickAddWindow->move(area.center().x() - m_quickAddWindow->width() / 2,
+                                   area.top() + area.height() / 3 - m_quickAddWindow->height() / 2);
+        }
+    }
+    if (!m_quickAddWindow->isVisible())
+        m_quickAddWindow->reset(selectedProject());
+    m_quickAddWindow->show();
+    m_quickAddWindow->raise();
+    m_quickAddWindow->activateWindow();
+    m_quickAddWindow->nameField()->setFocus();
+}
+
+} // namespace lullet

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "core/dates/Date.h"
+#include "core/monitor/PromptOutcome.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+
+namespace lullet {
+
+class Item;
+class MainWindow;
+class Project;
+class QuickAddView;
+class Tray;
+class WindowContent;
+struct Services;
+
+// The windows of the program: the main window with its content, the tray and its popover, the
+// prompts the monitor asks for and the quick-add window.
+class Shell final : public QObject {
+    Q_OBJECT
+public:
+    Shell(const Services& services, MainWindow& window, QObject* parent = nullptr);
+    ~Shell() override;
+
+    Tray& tray() { return *m_tray; }
+    WindowContent* content() const { return m_content; }
+
+    // Puts the icon in the panel.
+    void showTray();
+    // Gives the main window its content, and its size by the state of the welcome and the lock:
+    // fixed 800 by 600 for the welcome, at least 600 by 600 afterwards.
+    void prepareMainWindow(bool locked);
+    // Brings the main window to the front; whenShown runs once it is up.
+    void bringMainWindowForward(const std::function<void()>& whenShown = {});
+
+    // The prompts, one at a time in the tray's popover: a new one waits until the open one has
+    // closed. An idle question already open goes on counting instead of being replaced.
+    void showReminder(Item* due, Item* previous);
+    void askIdleQuestion(Date since, bool askNow);
+    void showTimeOver(Item* item);
+    void showToDo(Item* item);
+
+    // Quick add from anywhere: the main view's own bar when the window is up, else the quick-add
+    // window.
+    void quickAdd();
+    void openQuickAddWindow();
+
+Q_SIGNALS:
+    void quitRequested();
+
+private:
+    void connectMonitor();
+    void showPrompt(const std::function<QWidget*()>& make);
+    void onAnswered(PromptOutcome outcome);
+    void onRetiring(QWidget* content);
+    const Project* selectedProject() const;
+
+    const Services& m_services;
+    MainWindow& m_window;
+    Tray* m_tray;
+    WindowContent* m_content = nullptr;
+    QPointer<QuickAddView> m_quickAddWindow;
+};
+
+} // namespace lullet

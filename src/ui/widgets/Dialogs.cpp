@@ -1,0 +1,74 @@
+#include "ui/widgets/Dialogs.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QQueue>
+
+namespace lullet {
+
+namespace {
+
+QQueue<int>& answers()
+{
+    static QQueue<int> queue;
+    return queue;
+}
+
+QList<Dialogs::Question>& history()
+{
+    static QList<Dialogs::Question> list;
+    return list;
+}
+
+} // namespace
+
+int Dialogs::ask(QWidget* parent, const Question& question)
+{
+    history().append(question);
+    if (!answers().isEmpty())
+        return answers().dequeue();
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Lullet"), question.text,
+                    QMessageBox::NoButton, parent);
+    box.setInformativeText(question.information);
+    QList<QAbstractButton*> buttons;
+    for (int i = 0; i < question.buttons.size(); ++i) {
+        const bool last = i == question.buttons.size() - 1;
+        buttons << box.addButton(question.buttons[i],
+                                 last && i > 0 ? QMessageBox::RejectRole : QMessageBox::AcceptRole);
+    }
+    if (!buttons.isEmpty())
+        box.setEscapeButton(buttons.last());
+    box.exec();
+    const qsizetype chosen = buttons.indexOf(box.clickedButton());
+    return chosen >= 0 ? int(chosen) : int(buttons.size()) - 1;
+}
+
+bool Dialogs::confirm(QWidget* parent, const QString& text, const QString& information,
+                      const QString& yes, const QString& no)
+{
+    return ask(parent, {text, information, {yes, no}}) == 0;
+}
+
+void Dialogs::inform(QWidget* parent, const QString& text, const QString& information)
+{
+    ask(parent, {text, information, {QStringLiteral("Ok")}});
+}
+
+void Dialogs::answerNext(int button)
+{
+    answers().enqueue(button);
+}
+
+const QList<Dialogs::Question>& Dialogs::asked()
+{
+    return history();
+}
+
+void Dialogs::forgetAsked()
+{
+    history().clear();
+    answers().clear();
+}
+
+} // namespace lullet

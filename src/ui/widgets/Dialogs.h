@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+namespace lullet {
+
+// Every question and message the program puts to the user goes through here, as a small modal
+// panel with the message in its body and buttons that read as given. Tests answer the next
+// questions in advance, so no dialog needs a timer to press it.
+class Dialogs {
+public:
+    struct Question {
+        QString text;
+        QString information;
+        // The buttons, left to right; the last one is the way out (Escape, closing the panel).
+        QStringList buttons;
+    };
+
+    // The index of the button chosen.
+    static int ask(QWidget* parent, const Question& question);
+    // True for "Yes" (or the given first button), false for "No" and for closing the panel.
+    static bool confirm(QWidget* parent, const QString& text, const QString& information,
+                        const QString& yes = QStringLiteral("Yes"),
+                        const QString& no = QStringLiteral("No"));
+    // A message with one button, "Ok".
+    static void inform(QWidget* parent, const QString& text, const QString& information = {});
+
+    // Tests: the next question is answered with this button, without a panel. Answers queue up.
+    static void answerNext(int button);
+    // Tests: every question asked so far, the pre-answered ones included.
+    static const QList<Question>& asked();
+    static void forgetAsked();
+};
+
+} // namespace lullet

@@ -1,0 +1,101 @@
+#include "ui/widgets/Popover.h"
+
+#include <QGuiApplication>
+#include <QPropertyAnimation>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace lullet {
+
+namespace {
+constexpr int fadeMs = 150;
+constexpr int gap = 4;
+} // namespace
+
+Popover::Popover(QWidget* content, QWidget* host)
+    : QFrame(host,
+             host ? Qt::Widget : Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+    , m_content(content)
+{
+    setObjectName(QStringLiteral("popover"));
+    // A prompt never takes the keyboard from the program the user is typing in.
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    setStyleSheet(QStringLiteral("#popover { background: palette(window); border: 1px solid "
+                                 "palette(mid); border-radius: 6px; }"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 12, 12, 12);
+    layout->addWidget(content);
+}
+
+Popover::~Popover() = default;
+
+void Popover::showBelow(const QRect& anchor)
+{
+    adjustSize();
+    QScreen* screen = QGuiApplication::screenAt(anchor.center());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    const QRect area = screen ? screen->availableGeometry() : QRect(0, 0, 1280, 800);
+    QPoint pos(anchor.center().x() - width() / 2, anchor.bottom() + gap);
+    // A panel at the bottom of the screen opens upwards instead.
+    if (pos.y() + height() > area.bottom())
+        pos.setY(anchor.top() - gap - height());
+    pos.setX(std::clamp(pos.x(), area.left() + gap,
+                        std::max(area.left(), area.right() - width() - gap)));
+    pos.setY(std::clamp(pos.y(), area.top() + gap,
+                        std::max(area.top(), area.bottom() - height() - gap)));
+    move(pos);
+    setWindowOpacity(1.0);
+    show();
+    raise();
+}
+
+void Popover::showInHost()
+{
+    adjustSize();
+    const QWidget* host = parentWidget();
+    move(std::max(0, host->width() - width() - 20), 20);
+    show();
+    raise();
+}
+
+void Popover::performClose(const std::function<void()>& done)
+{
+    if (m_closing) {
+        if (done)
+            connect(m_fade, &QPropertyAnimation::finished, this, done);
+        return;
+    }
+    if (!isVisible()) {
+        if (done)
+            done();
+        return;
+    }
+    m_closing = true;
+    // A closing panel takes no more input: a second click can't answer twice.
+    setEnabled(false);
+    if (parentWidget()) {
+        hide();
+        m_closing = false;
+        if (done)
+            done();
+        return;
+    }
+    m_fade = new QPropertyAnimation(this, "windowOpacity", this);
+    m_fade->setDuration(fadeMs);
+    m_fade->setStartValue(windowOpacity());
+    m_fade->setEndValue(0.0);
+    connect(m_fade, &QPropertyAnimation::finished, this, [this] {
+        hide();
+        m_closing = false;
+    });
+    if (done)
+        connect(m_fade, &QPropertyAnimation::finished, this, done);
+    m_fade->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+} // namespace lullet

@@ -1,0 +1,316 @@
+#include "core/dates/CalendarContext.h"
+#include "core/library/ItemOrder.h"
+#include "core/monitor/Monitor.h"
+#include "core/scheduling/WorkingHours.h"
+#include "core/security/Lock.h"
+#include "core/store/Db.h"
+#include "support/DatePrinting.h"
+#include "support/Launched.h"
+#include "support/TestMain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+namespace {
+
+QByteArray fileText(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+} // namespace
+
+// The start and the stop of the program, and the shared lists it keeps.
+class TestAppController : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+
+    QString dir() const { return m_dir->path(); }
+
+private Q_SLOTS:
+    void init()
+    {
+        CalendarContext::setLocale(QStringLiteral("en_US"));
+        CalendarContext::setTimeZone(QStringLiteral("America/New_York"));
+        m_dir = std::make_unique<QTemporaryDir>();
+    }
+
+    void launchRoundsTheIdleClockToTheNearestMinute_data()
+    {
+        QTest::addColumn<Date>("launch");
+        QTest::addColumn<Date>("expected");
+        QTest::newRow("hh:mm:30 rounds down")
+            << at(2026, 11, 23, 10, 0, 30) << at(2026, 11, 23, 10, 0);
+        QTest::newRow("hh:mm:31 rounds up")
+            << at(2026, 11, 23, 10, 0, 31) << at(2026, 11, 23, 10, 1);
+        QTest::newRow("fraction of :30 rounds down")
+            << Date(at(2026, 11, 23, 10, 0, 30).timeIntervalSince1970() + 0.9)
+            << at(2026, 11, 23, 10, 0);
+        QTest::newRow("hh:59:59 rolls the hour")
+            << at(2026, 11, 23, 10, 59, 59) << at(2026, 11, 23, 11, 0);
+    }
+
+    void launchRoundsTheIdleClockToTheNearestMinute()
+    {
+        QFETCH(Date, launch);
+        QFETCH(Date, expected);
+        Launched app(dir(), launch);
+        QVERIFY(app.open());
+        QCOMPARE(*app.running().lastPromptAt(), expected);
+        // The launch day never moves, however long the run.
+        app.clock.advance(3 * 86400);
+        QCOMPARE(app.services().hours.onLaunchDay(at(2026, 1, 1, 9, 30)).dateAtStartOfDay(),
+                 launch.dateAtStartOfDay());
+    }
+
+    void registeredDefaultsAnswerButAreNeverWritten()
+    {
+        {
+            Launched app(dir(), at(2026, 11, 23, 9));
+            QVERIFY(app.open(false));
+            QCOMPARE(app.settings.promptDuration(), 15);
+            QCOMPARE(app.running().promptPeriod(), 15);
+            QCOMPARE(app.settings.integer(SettingsKeys::remindMe), 2);
+            QVERIFY(app.settings.boolean(SettingsKeys::automaticBackup));
+            QVERIFY(!app.settings.contains(SettingsKeys::promptDuration));
+            QVERIFY(app.settings.contains(SettingsKeys::disableAutoPrompt));
+            app.settings.sync();
+        }
+        const QByteArray written = fileText(QDir(dir()).filePath(QStringLiteral("Lullet.conf")));
+        QVERIFY2(written.contains("disableAutoPrompt=0"), written.constData());
+        for (const char* key : {"isShowFirst", "openAtLogIn", "isRating", "remindMe",
+                                "promptDuration", "automaticBackup", "backupOption"})
+            QVERIFY2(!written.contains(key), key);
+
+        // A value the user set wins over the registered one.
+        Launched again(dir(), at(2026, 11, 23, 9));
+        again.settings.setValue(SettingsKeys::promptDuration, 40);
+        QVERIFY(again.open());
+        QCOMPARE(again.running().promptPeriod(), 40);
+    }
+
+    void thePasswordIsNeverWrittenInClearText()
+    {
+        Settings settings(QDir(dir()).filePath(QStringLiteral("p.conf")));
+        settings.setDictionary(SettingsKeys::passwordValues,
+                               {{QString(SettingsKeys::isPassword), true},
+                                {QString(SettingsKeys::password), QStringLiteral("hunter2")}});
+        settings.sync();
+        QVERIFY(!fileText(settings.filePath()).contains("hunter2"));
+        const QVariantMap read = settings.dictionary(SettingsKeys::passwordValues);
+        QCOMPARE(read.value(SettingsKeys::isPassword).toBool(), true);
+        QCOMPARE(read.value(SettingsKeys::password).toString(), QString());
+    }
+
+    void aProtectedProgramStartsLockedAfterTheWelcome_data()
+    {
+        QTest::addColumn<int>("isShowFirst");
+        QTest::addColumn<bool>("password");
+        QTest::addColumn<bool>("locked");
+        QTest::newRow("first run") << -1 << true << false;
+        QTest::newRow("welcome not done") << 0 << true << false;
+        QTest::newRow("welcome done") << 1 << false << false;
+        QTest::newRow("password on") << 1 << true << true;
+    }
+
+    void aProtectedProgramStartsLockedAfterTheWelcome()
+    {
+        QFETCH(int, isShowFirst);
+        QFETCH(bool, password);
+        QFETCH(bool, locked);
+        Launched app(dir(), at(2026, 11, 23, 9));
+        if (isShowFirst >= 0)
+            app.settings.setValue(SettingsKeys::isShowFirst, isShowFirst);
+        app.settings.setDictionary(SettingsKeys::passwordValues,
+                                   {{QString(SettingsKeys::isPassword), password}});
+        QVERIFY(app.open(false));
+        QCOMPARE(app.services().lock.isLocked(), locked);
+    }
+
+    void theRunHoldsTheDisplayAwakeAndTicks()
+    {
+        Launched app(dir(), at(2026, 11, 23, 9));
+        QVERIFY(app.open());
+        QVERIFY(!app.core.isMonitoring());
+        app.core.startMonitoring();
+        QVERIFY(app.core.isMonitoring());
+        QCOMPARE(app.inhibitor.reasons, QStringList{QStringLiteral("Reason for activity")});
+
+        QSignalSpy ticks(&app.monitor(), &Monitor::ticked);
+        app.monitor().tick();
+        QCOMPARE(ticks.count(), 1);
+
+        QCOMPARE(app.core.prepareToQuit(), AppController::QuitReply::Now);
+        app.core.finishQuit();
+        QVERIFY(!app.core.isMonitoring());
+        QCOMPARE(app.inhibitor.released, std::vector<quint32>{77});
+    }
+
+    void aDesktopWithoutTheServiceIsNoError()
+    {
+        Launched app(dir(), at(2026, 11, 23, 9));
+        app.inhibitor.cookie.reset();
+        QVERIFY(app.open());
+        app.core.startMonitoring();
+        app.core.finishQuit();
+        QVERIFY(app.inhibitor.released.empty());
+    }
+
+    void quittingFinishesTheRunningItem()
+    {
+        {
+            Launched app(dir(), at(2026, 11, 23, 9));
+            QVERIFY(app.open());
+            Item* item = app.addItem(QStringLiteral("Walk break"), at(2026, 11, 23, 9));
+            item->setDurationMin(10);
+            app.running().start(*item);
+            item->setElapsedTime(120);
+            app.library().save();
+            QCOMPARE(app.core.prepareToQuit(), AppController::QuitReply::Now);
+            QVERIFY(!app.running().item());
+        }
+        Launched next(dir(), at(2026, 11, 23, 10));
+        QVERIFY(next.open());
+        QCOMPARE(next.library().items().size(), std::size_t(1));
+        const Item* item = next.library().items().front();
+        QCOMPARE(item->hasStarted(), std::optional<bool>(false));
+        QCOMPARE(item->hasFinished(), std::optional<bool>(true));
+        QCOMPARE(*item->elapsedTime(), 120);
+    }
+
+    void aFailedSaveAtQuitIsToldToTheCaller()
+    {
+        Launched app(dir(), at(2026, 11, 23, 9));
+        QVERIFY(app.open());
+        Db db(QDir(dir()).filePath(QStringLiteral("data/Lullet.sqlite")));
+        QVERIFY(db.exec("CREATE TRIGGER refuse BEFORE INSERT ON ReminderInfo "
+                        "BEGIN SELECT RAISE(ABORT, 'disk is full'); END"));
+        app.library().newItem();
+        QCOMPARE(app.core.prepareToQuit(), AppController::QuitReply::SaveFailed);
+        QVERIFY(app.context().hasChanges());
+
+        // A save elsewhere tells its failure and keeps the change.
+        QSignalSpy failed(&app.library(), &Library::saveFailed);
+        QVERIFY(!app.library().save());
+        QCOMPARE(failed.count(), 1);
+        QVERIFY(failed.front().front().toString().contains(QStringLiteral("disk is full")));
+        QVERIFY(app.context().hasChanges());
+    }
+
+    void aStoreThatCannotBeOpenedEndsTheLaunch()
+    {
+        QVERIFY(QFile(QDir(dir()).filePath(QStringLiteral("data"))).open(QIODevice::WriteOnly));
+        Launched app(dir(), at(2026, 11, 23, 9));
+        QCOMPARE(app.core.open().outcome, Store::Outcome::FolderIsFile);
+        QCOMPARE(app.core.prepareToQuit(), AppController::QuitReply::Now);
+    }
+
+    void sharedListsStayOrdered()
+    {
+        Launched app(dir(), at(2026, 11, 23, 9));
+        QVERIFY(app.open());
+        const auto make = [&](const char* title, std::optional<Date> due, bool finished,
+                              std::optional<Date> postponed = std::nullopt) {
+            Item* r = app.library().newItem();
+            r->setTitle(QString::fromUtf8(title));
+            r->setDtReminder(due);
+            r->setDtReminderPostponed(postponed);
+            r->setHasFinished(finished);
+            return r;
+        };
+        make("done early", at(2026, 11, 20), true);
+        make("anytime", std::nullopt, false);
+        make("later", at(2026, 11, 25), false);
+        make("postponed", at(2026, 11, 21), false, at(2026, 11, 26));
+        make("soon", at(2026, 11, 24), false);
+        make("done late", at(2026, 11, 22), true);
+        Item* noValue = make("no value", at(2026, 11, 23, 12), false);
+        noValue->setHasFinished(std::nullopt);
+        app.library().save();
+        app.library().loadItems();
+        QStringList order;
+        for (const Item* r : app.library().items())
+            order << *r->title();
+        QCOMPARE(order, (QStringList{QStringLiteral("no value"), QStringLiteral("soon"),
+                                     QStringLiteral("later"), QStringLiteral("postponed"),
+                                     QStringLiteral("anytime"), QStringLiteral("done late"),
+                                     QStringLiteral("done early")}));
+        // The lists read the finished ones the other way round.
+        std::vector<Item*> forList = app.library().items();
+        ItemOrder::sortForList(forList);
+        QCOMPARE(*forList[5]->title(), QStringLiteral("done early"));
+
+        Item* extra = make("extra", at(2026, 11, 23, 8), false);
+        app.library().addItem(extra);
+        app.library().addItem(extra);
+        const auto& items = app.library().items();
+        QCOMPARE(std::count(items.begin(), items.end(), extra), 1);
+        QCOMPARE(items.front(), extra);
+
+        // Taking the running item out of the list stops it and counts as an event for the idle
+        // clock.
+        app.running().start(*extra);
+        app.clock.advance(125);
+        app.library().removeItem(extra);
+        QVERIFY(!app.running().item());
+        QCOMPARE(*app.running().lastPromptAt(), app.clock.now());
+        QCOMPARE(app.library().items().size(), std::size_t(7));
+    }
+
+    void projectsAreListedByNameAndLeaveCleanly()
+    {
+        Launched app(dir(), at(2026, 11, 23, 9));
+        QVERIFY(app.open());
+        for (const char* name : {"work", "Éducation", "Home"})
+            app.library().newProject()->setName(QString::fromUtf8(name));
+        app.library().save();
+        app.library().loadProjects();
+        QStringList names;
+        for (const Project* p : app.library().projects())
+            names << *p->name();
+        QCOMPARE(names, (QStringList{QStringLiteral("Éducation"), QStringLiteral("Home"),
+                                     QStringLiteral("work")}));
+
+        Project* home = app.library().projects()[1];
+        Item* task = app.library().newItem();
+        task->setToProject(home);
+        app.library().addItem(task);
+        QSignalSpy changed(&app.library(), &Library::projectsChanged);
+        QSignalSpy removed(&app.library(), &Library::projectRemoved);
+        app.library().removeProject(home);
+        QCOMPARE(removed.count(), 1);
+        QCOMPARE(app.library().projects().size(), std::size_t(2));
+        QVERIFY(app.library().items().empty());
+        // Told after the caller's work, not during it.
+        QCOMPARE(changed.count(), 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void itemNewsInABatchIsToldOnce()
+    {
+        Launched app(dir(), at(2026, 11, 23, 9));
+        QVERIFY(app.open());
+        QSignalSpy changed(&app.library(), &Library::itemsChanged);
+        {
+            const Library::Batch batch(app.library());
+            for (int i = 0; i < 5; ++i)
+                app.library().announceItemChanged(app.addItem(QStringLiteral("Item"), {}));
+        }
+        QCOMPARE(changed.count(), 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.front().front().value<Item*>(), nullptr);
+    }
+};
+
+LULLET_TEST_MAIN(TestAppController)
+#include "tst_appcontroller.moc"

@@ -1,0 +1,299 @@
+#include "core/activity/ItemActions.h"
+#include "core/dates/CalendarContext.h"
+#include "core/model/RepeatCodes.h"
+#include "core/monitor/IdlePrompt.h"
+#include "core/monitor/ReminderPrompt.h"
+#include "core/monitor/TimeOverPrompt.h"
+#include "core/monitor/TodoPrompt.h"
+#include "core/presentation/ProjectChoices.h"
+#include "core/scheduling/Catalogue.h"
+#include "support/DatePrinting.h"
+#include "support/Heard.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+// What each prompt's answers do to the records, and what they announce.
+class TestPrompts : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+    std::unique_ptr<Heard> m_heard;
+
+    Launched& app() { return *m_app; }
+    Date now() const { return m_app->clock.now(); }
+    QStringList& heard() { return m_heard->events; }
+
+    Item* item(const QString& title, Date due, int hours = 0, int minutes = 0)
+    {
+        Item* r = app().addItem(title, due);
+        r->setShouldRemind(true);
+        r->setDurationHr(hours);
+        r->setDurationMin(minutes);
+        app().library().save();
+        return r;
+    }
+
+    ReminderPrompt reminder(Item* due, Item* previous)
+    {
+        return ReminderPrompt(app().clock, app().library(), app().running(), due, previous);
+    }
+
+    TimeOverPrompt timeOver(Item* item)
+    {
+        return TimeOverPrompt(app().clock, app().library(), app().running(), item);
+    }
+
+    IdlePrompt idle(Date since, bool askNow)
+    {
+        return IdlePrompt(app().clock, app().library(), app().running(), since, askNow);
+    }
+
+private Q_SLOTS:
+    void initTestCase() { init(); }
+
+    void init()
+    {
+        lullet::test::useTestCalendar();
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 15, 20));
+        QVERIFY(app().open());
+        m_heard = std::make_unique<Heard>(app().library(), app().running());
+    }
+
+    void cleanup()
+    {
+        m_heard.reset();
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void startingMakesTheItemRun()
+    {
+        Item* due = item(QStringLiteral("Walk"), at(2026, 11, 21, 10, 15), 1, 30);
+        ReminderPrompt prompt = reminder(due, nullptr);
+        QCOMPARE(prompt.reminderText(),
+                 QStringLiteral("Time for : Walk, at :") +
+                     at(2026, 11, 21, 10, 15).toString(DateStyle::none, DateStyle::shortStyle));
+        QVERIFY(prompt.previousText().isEmpty());
+        QCOMPARE(prompt.start(), PromptOutcome::Close);
+        QCOMPARE(app().running().item(), due);
+        QVERIFY(*due->hasStarted());
+        QCOMPARE(*due->timeLimit(), 5400);
+        QCOMPARE(*due->elapsedTime(), 0);
+        // Its own day, at the present time of day; nothing saved.
+        QCOMPARE(*due->dtReminderPostponed(), at(2026, 11, 21, 10, 15, 20));
+        QVERIFY(app().context().hasChanges());
+        QCOMPARE(heard(),
+                 (QStringList{QStringLiteral("started:Walk"), QStringLiteral("itemsChanged")}));
+
+        Item* open = item(QStringLiteral("Read"), at(2026, 11, 23, 10, 15));
+        reminder(open, nullptr).start();
+        QCOMPARE(*open->timeLimit(), 0);
+    }
+
+    void delaysAndWhatReachesTheDisk()
+    {
+        Item* due = item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15));
+        due->setDtReminderPostponed(at(2026, 11, 23, 10, 20));
+        app().library().save();
+        const Date alert = *app().running().lastPromptAt();
+        QCOMPARE(reminder(due, nullptr).postpone10(), PromptOutcome::Close);
+        QCOMPARE(*due->dtReminderPostponed(), at(2026, 11, 23, 10, 30));
+        QVERIFY(app().context().hasChanges());
+        reminder(due, nullptr).postpone30();
+        QCOMPARE(*due->dtReminderPostponed(), at(2026, 11, 23, 11, 0));
+        QVERIFY(!app().context().hasChanges());
+        QCOMPARE(*app().running().lastPromptAt(), alert);
+        QCOMPARE(heard(),
+                 (QStringList{QStringLiteral("postponed:Tea"), QStringLiteral("postponed:Tea")}));
+    }
+
+    void finishingThePreviousStartsTheDueOne()
+    {
+        Item* previous = item(QStringLiteral("Write"), at(2026, 11, 23, 9, 0), 1, 0);
+        reminder(previous, nullptr).start();
+        previous->setRunningTimeCovered(40);
+        Item* due = item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15));
+        heard().clear();
+        m_app->clock.advance(5);
+        ReminderPrompt prompt = reminder(due, previous);
+        QCOMPARE(prompt.previousText(), QStringLiteral("Have you finished : Write ?"));
+        QCOMPARE(prompt.finishPrevious(), PromptOutcome::Close);
+        QVERIFY(*previous->hasFinished());
+        QVERIFY(!*previous->hasStarted());
+        QVERIFY(!previous->runningTimeCovered());
+        QCOMPARE(*previous->dtReminder(), at(2026, 11, 23, 9, 0));
+        QCOMPARE(*app().running().lastPromptAt(), now());
+        QCOMPARE(app().running().item(), due);
+        QCOMPARE(heard(),
+                 (QStringList{QStringLiteral("finished:Write"), QStringLiteral("started:Tea"),
+                              QStringLiteral("itemsChanged")}));
+    }
+
+    void moreTimeForBothKindsOfItem()
+    {
+        Item* limited = item(QStringLiteral("Limited"), at(2026, 11, 23, 9, 0), 1, 30);
+        reminder(limited, nullptr).start();
+        Item* due = item(QStringLiteral("Due"), at(2026, 11, 23, 10, 15));
+        heard().clear();
+        reminder(due, limited).moreTime(15);
+        QCOMPARE(*limited->timeLimit(), 6300);
+        QCOMPARE(*limited->durationHr(), 1);
+        QCOMPARE(*limited->durationMin(), 45);
+        QCOMPARE(*due->dtReminderPostponed(), at(2026, 11, 23, 10, 30));
+        QCOMPARE(heard(), (QStringList{QStringLiteral("extended:Limited"),
+                                       QStringLiteral("postponed:Due")}));
+
+        // A limit without a planned length grows alone.
+        limited->setDurationHr(0);
+        limited->setDurationMin(0);
+        timeOver(limited).moreTime(10);
+        QCOMPARE(*limited->timeLimit(), 6900);
+        QCOMPARE(*limited->durationMin(), 0);
+
+        Item* open = item(QStringLiteral("Open"), at(2026, 11, 23, 9, 0));
+        reminder(open, nullptr).start();
+        open->setElapsedTime(333);
+        heard().clear();
+        ReminderPrompt none = reminder(nullptr, open);
+        QCOMPARE(none.reminderText(), QStringLiteral("None"));
+        none.moreTime(20);
+        QCOMPARE(*open->timeLimit(), 0);
+        QCOMPARE(*open->timeLimitExtendedBy(), 1200);
+        QCOMPARE(*open->runningTimeCovered(), 333);
+        QVERIFY(heard().isEmpty());
+        QVERIFY(!app().context().hasChanges());
+    }
+
+    void timeOverFinishFilesTheItemNowAndAsksAgain()
+    {
+        Item* r = item(QStringLiteral("Nap"), at(2026, 11, 23, 9, 50), 0, 20);
+        reminder(r, nullptr).start();
+        r->setRunningTimeCovered(5);
+        m_app->clock.set(at(2026, 11, 23, 10, 40, 7));
+        heard().clear();
+        QCOMPARE(timeOver(r).finish(), PromptOutcome::CloseAndAsk);
+        QCOMPARE(*r->dtReminder(), now());
+        QCOMPARE(*r->dtReminderPostponed(), now());
+        QVERIFY(*r->hasFinished() && !*r->hasStarted() && !r->runningTimeCovered());
+        QVERIFY(!app().running().item());
+        QCOMPARE(heard(),
+                 (QStringList{QStringLiteral("finished:Nap"), QStringLiteral("itemsChanged")}));
+    }
+
+    void aToDoConfirmedMakesItsNextOccurrence()
+    {
+        Rule* rule = app().library().newRule();
+        rule->setUniqueId(QStringLiteral("Water_1"));
+        rule->setTitle(QStringLiteral("Water"));
+        rule->setDtReminder(at(2026, 11, 23, 9, 0));
+        rule->setRepeatIntervalType(RepeatUnit::Hour);
+        rule->setRepeatInterval(2);
+        rule->setIsCustom(true);
+        rule->setIsActive(true);
+        app().services().catalogue.registerRule(rule);
+        Item* occurrence = app().library().items().front();
+        QCOMPARE(*occurrence->dtReminder(), at(2026, 11, 23, 11, 0));
+        occurrence->setDtReminderPostponed(at(2026, 11, 23, 11, 30));
+
+        TodoPrompt cancel(app().services().itemActions, occurrence);
+        QCOMPARE(cancel.text(), QStringLiteral("Time for : Water. Done ?"));
+        QCOMPARE(TodoPrompt::dismiss(), PromptOutcome::Close);
+        QVERIFY(!*occurrence->hasFinished());
+
+        m_app->clock.set(at(2026, 11, 23, 11, 0, 5));
+        heard().clear();
+        TodoPrompt(app().services().itemActions, occurrence).done();
+        QVERIFY(*occurrence->hasFinished());
+        QCOMPARE(*occurrence->dtReminder(), now());
+        // The next one steps from the postponed date it was due on.
+        QCOMPARE(app().library().items().size(), std::size_t(2));
+        QCOMPARE(*app().library().items().front()->dtReminder(), at(2026, 11, 23, 13, 30));
+        QCOMPARE(heard().first(), QStringLiteral("finished:Water"));
+        // The confirmed to-do is no event for the idle clock.
+        QCOMPARE(*app().running().lastPromptAt(), at(2026, 11, 23, 10, 15));
+    }
+
+    void theIdleAnswerBecomesTheRunningItem()
+    {
+        Project* home = app().library().newProject();
+        home->setName(QStringLiteral("Home"));
+        app().library().addProject(home);
+        m_app->clock.set(at(2026, 11, 23, 10, 20));
+        app().running().setPromptPeriod(15);
+        IdlePrompt prompt = idle(at(2026, 11, 23, 10, 0), false);
+        const ProjectChoices choices(app().library(), IdlePrompt::noProjectChoice());
+        QCOMPARE(choices.titles(), (QStringList{QStringLiteral("Today"), QStringLiteral("Home")}));
+        QCOMPARE(choices.projectAt(1), home);
+        QVERIFY(!choices.projectAt(0));
+        m_app->clock.set(at(2026, 11, 23, 10, 25));
+        QCOMPARE(prompt.questionText(),
+                 QStringLiteral("What were you doing for last 25 minutes ?"));
+        QVERIFY(prompt.rangeText().startsWith(QStringLiteral("(10:00")));
+        QCOMPARE(prompt.answer(QStringLiteral("   "), nullptr, false), PromptOutcome::Stay);
+        QCOMPARE(prompt.answer(QStringLiteral(" walk "), home, false), PromptOutcome::Close);
+        // An answer is acted on once.
+        QCOMPARE(prompt.answer(QStringLiteral("again"), home, false), PromptOutcome::Stay);
+        QCOMPARE(app().library().items().size(), std::size_t(1));
+
+        Item* r = app().running().item();
+        QVERIFY(r);
+        QCOMPARE(*r->title(), QStringLiteral("Walk"));
+        QCOMPARE(*r->dtReminder(), at(2026, 11, 23, 10, 0));
+        QCOMPARE(*r->elapsedTime(), 1500);
+        QCOMPARE(*r->timeLimitExtendedBy(), 900);
+        QCOMPARE(*r->uniqueId(), QStringLiteral("<to make>"));
+        QVERIFY(*r->hasStarted());
+        QCOMPARE(r->toProject(), home);
+        QCOMPARE(*app().running().lastPromptAt(), at(2026, 11, 23, 10, 20));
+        QVERIFY(!app().running().unansweredGapStart());
+        QCOMPARE(heard(), (QStringList{QStringLiteral("projectContentChanged"),
+                                       QStringLiteral("itemsChanged:Walk")}));
+    }
+
+    void anUnansweredQuestionHandsOnItsStart()
+    {
+        m_app->clock.set(at(2026, 11, 23, 10, 30));
+        idle(at(2026, 11, 23, 10, 0), false).leaveUnanswered();
+        QCOMPARE(*app().running().unansweredGapStart(), at(2026, 11, 23, 10, 0));
+        IdlePrompt next = idle(at(2026, 11, 23, 10, 30), false);
+        QCOMPARE(next.gapStart(), at(2026, 11, 23, 10, 0));
+        QVERIFY(!app().running().unansweredGapStart());
+        QCOMPARE(next.questionText(), QStringLiteral("What were you doing for last 30 minutes ?"));
+        // An answered question hands nothing on.
+        next.answer(QStringLiteral("reading"), nullptr, false);
+        next.leaveUnanswered();
+        QVERIFY(!app().running().unansweredGapStart());
+    }
+
+    void anAnswerAlreadyDoneFinishesAndAsksAgain()
+    {
+        m_app->clock.set(at(2026, 11, 23, 10, 30));
+        app().running().setPromptPeriod(0);
+        IdlePrompt prompt = idle(at(2026, 11, 23, 10, 0), true);
+        QCOMPARE(prompt.questionText(), QStringLiteral("What are you doing now ?"));
+        m_app->clock.set(at(2026, 11, 23, 10, 37));
+        QCOMPARE(prompt.answer(QStringLiteral("email"), nullptr, true),
+                 PromptOutcome::CloseAtOnceAndAsk);
+        QVERIFY(!app().running().item());
+        const Item* r = app().library().items().back();
+        QCOMPARE(*r->title(), QStringLiteral("Email"));
+        QVERIFY(*r->hasFinished() && !*r->hasStarted());
+        // Counted from the moment of asking in the "now" mode; a period of 0 gives 60 × P.
+        QCOMPARE(*r->elapsedTime(), 420);
+        QCOMPARE(*r->timeLimitExtendedBy(), 420);
+        QVERIFY(!r->toProject());
+        QCOMPARE(*app().running().lastPromptAt(), now());
+    }
+};
+
+LULLET_TEST_MAIN(TestPrompts)
+#include "tst_prompts.moc"

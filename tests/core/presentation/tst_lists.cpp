@@ -1,0 +1,293 @@
+#include "core/activity/ItemActions.h"
+#include "core/dates/CalendarContext.h"
+#include "core/model/RepeatCodes.h"
+#include "core/presentation/ListBuilder.h"
+#include "core/presentation/RowTexts.h"
+#include "core/presentation/TaskStats.h"
+#include "core/scheduling/Catalogue.h"
+#include "support/DatePrinting.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <memory>
+#include <tuple>
+
+using namespace lullet;
+using namespace lullet::test;
+
+class TestLists : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    Launched& app() { return *m_app; }
+    ItemActions& actions() { return app().services().itemActions; }
+    const Clock& clock() { return m_app->clock; }
+
+    Item* item(const QString& title, std::optional<Date> due, int remindBefore = 0)
+    {
+        Item* r = app().addItem(title, due);
+        r->setRemindBefore(remindBefore);
+        r->setShouldRemind(true);
+        return r;
+    }
+
+    QStringList titles(const ListBuilder::Scope& scope)
+    {
+        QStringList list;
+        for (const Item* r : ListBuilder::itemsFor(scope, app().library(), clock().now()))
+            list << *r->title();
+        return list;
+    }
+
+    QString timeText(Item* r) { return RowTexts::makeRow(r, clock(), true).time; }
+    QString at(Date d) { return d.toString(DateStyle::none, DateStyle::shortStyle); }
+
+private Q_SLOTS:
+    void initTestCase() { init(); }
+
+    void init()
+    {
+        lullet::test::useTestCalendar();
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), test::at(2026, 11, 25, 12, 0));
+        QVERIFY(app().open());
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void todayHoldsTheOverdueAndWhatIsWithinItsWindow()
+    {
+        Item* yesterday = item(QStringLiteral("Overdue"), test::at(2026, 11, 24, 9, 0));
+        Item* inThree = item(QStringLiteral("In three"), test::at(2026, 11, 28, 9, 0), 3);
+        item(QStringLiteral("In four"), test::at(2026, 11, 29, 9, 0), 3);
+        // The form stores the menu's row for "10 days", which the lists know nothing of.
+        item(QStringLiteral("Row eight"), test::at(2026, 11, 27, 9, 0), 8);
+        Item* doneYesterday = item(QStringLiteral("Done yesterday"), test::at(2026, 11, 24, 9, 0));
+        doneYesterday->setHasFinished(true);
+        Item* doneToday = item(QStringLiteral("Done today"), test::at(2026, 11, 25, 8, 0));
+        doneToday->setHasFinished(true);
+        item(QStringLiteral("Anytime"), std::nullopt);
+
+        QCOMPARE(titles({}), (QStringList{QStringLiteral("Overdue"), QStringLiteral("In three"),
+                                          QStringLiteral("Done today")}));
+        QCOMPARE(timeText(yesterday),
+                 QStringLiteral("Overdue by 1 day at ") + at(*yesterday->dtReminder()));
+        QVERIFY(RowTexts::makeRow(yesterday, clock(), true).dueOrOverdue);
+        QCOMPARE(timeText(inThree), QStringLiteral("In 3 days at ") + at(*inThree->dtReminder()));
+        QCOMPARE(titles({QStringLiteral("Anytime"), nullptr, false}),
+                 QStringList{QStringLiteral("Anytime")});
+    }
+
+    void dueTodayTellsHowLate()
+    {
+        Item* late = item(QStringLiteral("Late"), test::at(2026, 11, 25, 10, 30));
+        QCOMPARE(timeText(late),
+                 QStringLiteral("Due from 1 hr 30 min at ") + at(*late->dtReminder()));
+        Item* hour = item(QStringLiteral("Hour"), test::at(2026, 11, 25, 11, 0));
+        // Whole hours leave the minutes out and keep the blank behind " hr ".
+        QCOMPARE(timeText(hour), QStringLiteral("Due from 1 hr  at ") + at(*hour->dtReminder()));
+        Item* soon = item(QStringLiteral("Soon"), test::at(2026, 11, 25, 12, 5));
+        QCOMPARE(timeText(soon), at(*soon->dtReminder()));
+        QVERIFY(!RowTexts::makeRow(soon, clock(), true).dueOrOverdue);
+        soon->setDurationHr(1);
+        soon->setDurationMin(5);
+        const ListRow row = RowTexts::makeRow(soon, clock(), true);
+        QCOMPARE(row.duration, QStringLiteral("01:05m"));
+        QCOMPARE(row.projectName, QStringLiteral("Lullet"));
+        soon->setHasFinished(true);
+        soon->setElapsedTime(3725);
+        QCOMPARE(RowTexts::makeRow(soon, clock(), true).timeUsed, QStringLiteral("01:02:05"));
+    }
+
+    void statisticsNeverPassAHundredPercent()
+    {
+        Item* todo = item(QStringLiteral("Water"), test::at(2026, 11, 25, 9, 0));
+        todo->setRepeatOption(RepeatEnd::toDoMarker);
+        todo->setHasFinished(true);
+        Item* done = item(QStringLiteral("Done"), test::at(2026, 11, 25, 9, 0));
+        done->setDurationMin(10);
+        done->setTimeLimit(600);
+        done->setElapsedTime(1500);
+        done->setHasFinished(true);
+        Item* running = item(QStringLiteral("Running"), test::at(2026, 11, 24, 9, 0));
+        running->setHasStarted(true);
+        running->setTimeLimit(1800);
+        running->setElapsedTime(300);
+        std::vector<ListRow> rows;
+        for (Item* r : {todo, done, running})
+            rows.push_back(RowTexts::makeRow(r, clock(), true));
+        const TaskStats s = TaskStats::of(rows, clock(), app().running());
+        QCOMPARE(s.totalCount, 3);
+        QCOMPARE(s.completedCount, 2);
+        QCOMPARE(s.timeCompleted, 1500);
+        QCOMPARE(s.countInToday, 1);
+        // Running time counts as today's, whatever the running item's date.
+        QCOMPARE(s.timeCompletedToday, 1800);
+        QCOMPARE(s.timeCompletedRunning, 1800);
+        // 600 planned for the finished one (capped at what it used) and 1800 for the running one.
+        QCOMPARE(s.totalTimeAllotted, 2400);
+
+        done->setTimeLimit(0);
+        done->setDurationMin(0);
+        rows[1] = RowTexts::makeRow(done, clock(), true);
+        running->setTimeLimit(100);
+        running->setElapsedTime(5000);
+        const TaskStats capped = TaskStats::of(rows, clock(), app().running());
+        QVERIFY(capped.totalTimeAllotted >= capped.timeCompletedRunning);
+        QCOMPARE(capped.totalTimeAllotted, 6500);
+    }
+
+    void startStopAndTheItemAlreadyRunning()
+    {
+        Item* first = item(QStringLiteral("First"), test::at(2026, 11, 23, 9, 0));
+        first->setDurationMin(20);
+        QCOMPARE(actions().start(*first), ItemActions::StartResult::Started);
+        QCOMPARE(app().running().item(), first);
+        QCOMPARE(*first->timeLimit(), 1200);
+        QCOMPARE(*first->dtReminderPostponed(), test::at(2026, 11, 23, 12, 0));
+
+        Item* second = item(QStringLiteral("Second"), std::nullopt);
+        QCOMPARE(actions().start(*second), ItemActions::StartResult::AnotherIsRunning);
+        QVERIFY(!second->hasStarted().value_or(false));
+        actions().confirmStart(*second);
+        QVERIFY(*first->hasFinished());
+        QCOMPARE(app().running().item(), second);
+        QCOMPARE(*second->dtReminderPostponed(), test::at(2026, 11, 25, 12, 0));
+
+        // Stopping is finishing, and then the question of what now may come.
+        QVERIFY(actions().finish(*second));
+        QVERIFY(*second->hasFinished() && !*second->hasStarted());
+        QVERIFY(!app().running().item());
+    }
+
+    void aToDoStartIsDoneWithItsNext()
+    {
+        Rule* rule = app().library().newRule();
+        rule->setUniqueId(QStringLiteral("Water_1"));
+        rule->setTitle(QStringLiteral("Water"));
+        rule->setDtReminder(test::at(2026, 11, 25, 9, 0));
+        rule->setRepeatIntervalType(RepeatUnit::Hour);
+        rule->setRepeatInterval(1);
+        rule->setIsCustom(true);
+        rule->setIsActive(true);
+        app().services().catalogue.registerRule(rule);
+        Item* occurrence = app().library().items().front();
+        QCOMPARE(*occurrence->dtReminder(), test::at(2026, 11, 25, 12, 0));
+        m_app->clock.advance(30);
+        QCOMPARE(actions().start(*occurrence), ItemActions::StartResult::ToDoDone);
+        QVERIFY(*occurrence->hasFinished());
+        QVERIFY(!app().running().item());
+        QCOMPARE(*app().library().items().front()->dtReminder(), test::at(2026, 11, 25, 13, 0));
+    }
+
+    void aProjectListsItsItemsByDay()
+    {
+        Project* home = app().library().newProject();
+        home->setName(QStringLiteral("Home"));
+        item(QStringLiteral("Later"), test::at(2026, 11, 27, 9, 0))->setToProject(home);
+        Item* done = item(QStringLiteral("Done"), test::at(2026, 11, 25, 8, 0));
+        done->setToProject(home);
+        done->setHasFinished(true);
+        item(QStringLiteral("Soon"), test::at(2026, 11, 25, 15, 0))->setToProject(home);
+        item(QStringLiteral("Whenever"), std::nullopt)->setToProject(home);
+        item(QStringLiteral("Elsewhere"), test::at(2026, 11, 25, 9, 0));
+        const ListBuilder::Scope scope{QStringLiteral("Project"), home, false};
+        const std::vector<ListRow> rows = ListBuilder::groupByDay(
+            ListBuilder::itemsFor(scope, app().library(), clock().now()), clock(), false);
+        QStringList shown;
+        for (const ListRow& row : rows)
+            shown << (row.type == ListRow::DayHeading ? QStringLiteral("# ") : QString()) +
+                         row.title;
+        QCOMPARE(shown, (QStringList{QStringLiteral("# Wed 25, Nov 2026"), QStringLiteral("Done"),
+                                     QStringLiteral("Soon"), QStringLiteral("# Fri 27, Nov 2026"),
+                                     QStringLiteral("Later"), QStringLiteral("# AnyTime"),
+                                     QStringLiteral("Whenever")}));
+    }
+
+    void upcomingAndCompletedByDay()
+    {
+        item(QStringLiteral("Past open"), test::at(2026, 11, 25, 9, 0));
+        item(QStringLiteral("Tomorrow early"), test::at(2026, 11, 26, 8, 0));
+        item(QStringLiteral("Tomorrow late"), test::at(2026, 11, 26, 17, 0));
+        item(QStringLiteral("Later"), test::at(2026, 11, 30, 9, 0));
+        item(QStringLiteral("No date"), std::nullopt);
+        for (const auto& [title, due, used] :
+             {std::tuple{"Done a", test::at(2026, 11, 24, 9, 0), 600},
+              std::tuple{"Done b", test::at(2026, 11, 24, 15, 0), 900},
+              std::tuple{"Done c", test::at(2026, 11, 24, 11, 0), 300},
+              std::tuple{"Done d", test::at(2026, 11, 25, 8, 0), 60}}) {
+            Item* r = item(QString::fromLatin1(title), due);
+            r->setHasFinished(true);
+            r->setElapsedTime(used);
+        }
+        const auto shown = [this](const QString& segment) {
+            QStringList list;
+            for (const ListRow& row : ListBuilder::customListing(segment, app().library(), clock()))
+                list << (row.type == ListRow::DayHeading ? QStringLiteral("# %1 %2 %3")
+                                                               .arg(row.title)
+                                                               .arg(row.countOnDay)
+                                                               .arg(row.timeUsed)
+                                                         : row.title);
+            return list;
+        };
+        // The nearest day first, the later first within a day; nothing past or undated.
+        QCOMPARE(shown(QStringLiteral("Upcoming")),
+                 (QStringList{QStringLiteral("# Thu 26, Nov 2026 2 00:00:00"),
+                              QStringLiteral("Tomorrow late"), QStringLiteral("Tomorrow early"),
+                              QStringLiteral("# Mon 30, Nov 2026 1 00:00:00"),
+                              QStringLiteral("Later")}));
+        QCOMPARE(
+            shown(QStringLiteral("Completed")),
+            (QStringList{QStringLiteral("# Wed 25, Nov 2026 1 00:01:00"), QStringLiteral("Done d"),
+                         QStringLiteral("# Tue 24, Nov 2026 3 00:30:00"), QStringLiteral("Done b"),
+                         QStringLiteral("Done c"), QStringLiteral("Done a")}));
+        const auto byDay = ListBuilder::timeUsedByDay(
+            ListBuilder::customListing(QStringLiteral("Completed"), app().library(), clock()));
+        QCOMPARE(byDay.size(), std::size_t(2));
+        QCOMPARE(byDay[0].second, 1800);
+    }
+
+    void deleteMoveAndDuplicate()
+    {
+        Project* home = app().library().newProject();
+        home->setName(QStringLiteral("Home"));
+        Project* work = app().library().newProject();
+        work->setName(QStringLiteral("Work"));
+        app().library().addProject(home);
+        app().library().addProject(work);
+        Item* task = item(QStringLiteral("Paint"), test::at(2026, 11, 26, 9, 0));
+        task->setDurationMin(40);
+        task->setToProject(home);
+        QCOMPARE(actions().otherProjects(*task), std::vector<Project*>{work});
+
+        actions().moveToProject(*task, work);
+        QCOMPARE(task->toProject(), work);
+        actions().moveToProject(*task, nullptr);
+        QVERIFY(!task->toProject());
+
+        Item* copy = actions().duplicateToProject(*task, home);
+        QCOMPARE(*copy->title(), QStringLiteral("Paint"));
+        QCOMPARE(*copy->durationMin(), 40);
+        QVERIFY(!copy->dtReminder());
+        QCOMPARE(copy->toProject(), home);
+
+        QSignalSpy removed(&app().library(), &Library::itemRemoved);
+        actions().deleteItem(*task);
+        QCOMPARE(removed.count(), 1);
+        QVERIFY(!task->hasContext());
+        QCOMPARE(app().library().items(), std::vector<Item*>{copy});
+        QVERIFY(!app().context().hasChanges());
+    }
+};
+
+LULLET_TEST_MAIN(TestLists)
+#include "tst_lists.moc"

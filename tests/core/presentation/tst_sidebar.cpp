@@ -1,0 +1,174 @@
+#include "core/activity/ProjectActions.h"
+#include "core/dates/CalendarContext.h"
+#include "core/presentation/Sidebar.h"
+#include "core/scheduling/Catalogue.h"
+#include "support/DatePrinting.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+class TestSidebar : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    Launched& app() { return *m_app; }
+    ProjectActions& projects() { return app().services().projectActions; }
+    Sidebar sidebar()
+    {
+        const Services& s = app().services();
+        return Sidebar(s.clock, s.library, s.catalogue, s.running);
+    }
+
+    Item* item(const QString& title, std::optional<Date> due, Project* project = nullptr)
+    {
+        Item* r = app().addItem(title, due);
+        r->setRemindBefore(0);
+        r->setToProject(project);
+        return r;
+    }
+
+    static std::optional<int> count(const std::vector<SidebarRow>& rows, const QString& name)
+    {
+        for (const SidebarRow& row : rows) {
+            if (row.name == name)
+                return row.count;
+        }
+        return std::nullopt;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { lullet::test::useTestCalendar(); }
+
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 25, 12, 0));
+        QVERIFY(app().open());
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void theSidebarCounts()
+    {
+        Project* home = app().library().newProject();
+        home->setName(QStringLiteral("Home"));
+        app().library().addProject(home);
+        item(QStringLiteral("Walk the dog"), at(2026, 11, 25, 18, 0));
+        item(QStringLiteral("Overdue"), at(2026, 11, 24, 9, 0));
+        item(QStringLiteral("Next week"), at(2026, 12, 2, 9, 0), home);
+        item(QStringLiteral("Someday"), std::nullopt, home);
+        Item* done = item(QStringLiteral("Done"), at(2026, 11, 25, 8, 0));
+        done->setHasFinished(true);
+
+        const std::vector<SidebarRow> rows = sidebar().rows();
+        QCOMPARE(rows.size(), std::size_t(8));
+        QCOMPARE(rows[6].type, int(SidebarRow::Separator));
+        QCOMPARE(rows[7].project, home);
+        QVERIFY(!count(rows, QStringLiteral("Dashboard")));
+        QCOMPARE(count(rows, QStringLiteral("Lullets")), std::optional<int>(16));
+        QCOMPARE(count(rows, QStringLiteral("Today")), std::optional<int>(3));
+        QCOMPARE(count(rows, QStringLiteral("Upcoming")), std::optional<int>(2));
+        QCOMPARE(count(rows, QStringLiteral("Anytime")), std::optional<int>(1));
+        QCOMPARE(count(rows, QStringLiteral("Completed")), std::optional<int>(1));
+        QCOMPARE(count(rows, QStringLiteral("Home")), std::optional<int>(2));
+        QCOMPARE(rows[7].progress, std::optional<double>(0.0));
+        Item* half = item(QStringLiteral("Half"), at(2026, 11, 25, 8, 0), home);
+        half->setDurationMin(20);
+        half->setHasFinished(true);
+        half->setElapsedTime(600);
+        item(QStringLiteral("Planned"), at(2026, 11, 26, 8, 0), home)->setDurationMin(10);
+        QCOMPARE(sidebar().projectProgress(*home), 0.5);
+        QCOMPARE(Sidebar::viewFor(QStringLiteral("Upcoming")), QStringLiteral("CustomList"));
+        QCOMPARE(Sidebar::viewFor(QStringLiteral("Project")), QStringLiteral("ProjectList"));
+    }
+
+    void aSearchForTodayAndWalk()
+    {
+        Project* errands = app().library().newProject();
+        errands->setName(QStringLiteral("Errands"));
+        app().library().addProject(errands);
+        item(QStringLiteral("Water the plants"), at(2026, 11, 25, 18, 0));
+        item(QStringLiteral("Wälk to the park"), at(2026, 11, 28, 9, 0));
+        item(QStringLiteral("Buy stamps"), at(2026, 11, 27, 9, 0), errands);
+        item(QStringLiteral("Long walk"), std::nullopt, errands);
+        const std::vector<SidebarRow> found =
+            sidebar().search(QStringLiteral(" today , walk,, "), sidebar().rows());
+        QStringList names;
+        for (const SidebarRow& row : found)
+            names << row.name;
+        // The "Today" segment, the project holding a walk, today's item and both walks.
+        QCOMPARE(names,
+                 (QStringList{QStringLiteral("Today"), QStringLiteral("Errands"),
+                              QStringLiteral("Water the plants"),
+                              QStringLiteral("Wälk to the park"), QStringLiteral("Long walk")}));
+    }
+
+    void aSearchResultLeadsToItsList()
+    {
+        Project* home = app().library().newProject();
+        QCOMPARE(sidebar().segmentFor(*item(QStringLiteral("In project"), std::nullopt, home)),
+                 QStringLiteral("Project"));
+        Item* done = item(QStringLiteral("Done"), at(2026, 11, 20));
+        done->setHasFinished(true);
+        QCOMPARE(sidebar().segmentFor(*done), QStringLiteral("Completed"));
+        QCOMPARE(sidebar().segmentFor(*item(QStringLiteral("No date"), std::nullopt)),
+                 QStringLiteral("Anytime"));
+        QCOMPARE(sidebar().segmentFor(*item(QStringLiteral("Late"), at(2026, 11, 1))),
+                 QStringLiteral("Today"));
+        QCOMPARE(sidebar().segmentFor(*item(QStringLiteral("Later"), at(2026, 11, 27))),
+                 QStringLiteral("Upcoming"));
+    }
+
+    void projectsAreNamedDeletedAndDuplicated()
+    {
+        QCOMPARE(projects().addProject(QStringLiteral("  ")).refusal,
+                 QStringLiteral("Name is blank\nPlease set a name"));
+        Project* home = projects().addProject(QStringLiteral(" home ")).project;
+        QVERIFY(home);
+        QCOMPARE(*home->name(), QStringLiteral("Home"));
+        QCOMPARE(projects().addProject(QStringLiteral("home")).refusal,
+                 QStringLiteral("Project alreday exists\nPlease enter different name"));
+        Project* work = projects().addProject(QStringLiteral("work")).project;
+        QVERIFY(!projects().renameProject(*work, QStringLiteral("home")));
+        QVERIFY(!projects().renameProject(*work, QStringLiteral("  ")));
+        QVERIFY(projects().renameProject(*work, QStringLiteral("Another job")));
+        QCOMPARE(app().library().projects().front(), work);
+
+        Item* paint = item(QStringLiteral("Paint"), at(2026, 11, 26, 9, 0), home);
+        paint->setDurationMin(30);
+        paint->setHasFinished(true);
+        Project* copy = projects().duplicateAsNew(*home);
+        QCOMPARE(*copy->name(), QStringLiteral("Home Copy"));
+        QCOMPARE(*copy->uniqueId(), QStringLiteral("<to make>"));
+        QCOMPARE(copy->toReminders().size(), std::size_t(1));
+        const Item* twin = copy->toReminders().front();
+        QCOMPARE(*twin->durationMin(), 30);
+        QVERIFY(!twin->dtReminder() && !twin->hasFinished().value_or(false));
+        QCOMPARE(*projects().duplicateAsNew(*home)->name(), QStringLiteral("Home Copy"));
+
+        QVERIFY(ProjectActions::deleteAsks(*home));
+        QVERIFY(!ProjectActions::deleteAsks(*work));
+        QSignalSpy removed(&app().library(), &Library::projectRemoved);
+        projects().deleteProject(*home);
+        QVERIFY(!paint->hasContext());
+        QCOMPARE(removed.count(), 1);
+        QCOMPARE(app().library().projects().size(), std::size_t(3));
+        QVERIFY(!app().context().hasChanges());
+    }
+};
+
+LULLET_TEST_MAIN(TestSidebar)
+#include "tst_sidebar.moc"

@@ -1,0 +1,273 @@
+#include "core/dates/CalendarContext.h"
+#include "core/model/RepeatCodes.h"
+#include "core/scheduling/Catalogue.h"
+#include "core/scheduling/Generator.h"
+#include "core/scheduling/ScheduleTexts.h"
+#include "support/DatePrinting.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+class TestCatalogue : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    Launched& app() { return *m_app; }
+    Catalogue& catalogue() { return app().services().catalogue; }
+    const std::vector<CatalogueRowPtr>& rows() { return catalogue().rows(); }
+
+    CatalogueRowPtr row(const QString& title)
+    {
+        for (const CatalogueRowPtr& r : rows()) {
+            if (r->title == title && r->type == CatalogueRow::ItemRow)
+                return r;
+        }
+        return {};
+    }
+
+    // A monday at 08:00, before the working hours start.
+    void launch(const std::function<void(ObjectContext&)>& seed = {})
+    {
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 8, 0));
+        if (seed) {
+            Store store(m_dir->filePath(QStringLiteral("data")), m_app->clock);
+            QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+            seed(store.context());
+            QVERIFY(store.context().save());
+        }
+        QVERIFY(app().open());
+    }
+
+    static Rule* storedRule(ObjectContext& ctx, const QString& title, std::optional<bool> custom)
+    {
+        Rule* r = ctx.insertRule();
+        r->setTitle(title);
+        r->setUniqueId(title + QStringLiteral("_1795000000.0"));
+        r->setNotes(QStringLiteral("mine"));
+        r->setIsCustom(custom);
+        r->setIsActive(true);
+        r->setRepeatInterval(1);
+        r->setRepeatIntervalType(RepeatUnit::Day);
+        r->setRepeatOption(0);
+        r->setDtReminder(at(2026, 11, 20, 12));
+        return r;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { init(); }
+
+    void init()
+    {
+        lullet::test::useTestCalendar();
+        m_dir = std::make_unique<QTemporaryDir>();
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void anEmptyStoreListsTheSixteenSuggestions()
+    {
+        launch();
+        QCOMPARE(rows().size(), std::size_t(20));
+        QStringList headers;
+        int dummies = 0;
+        for (const CatalogueRowPtr& r : rows()) {
+            if (r->type == CatalogueRow::Header) {
+                headers << r->title;
+                QVERIFY(!r->isDummy() && !r->representedObject);
+            } else if (r->isDummy()) {
+                ++dummies;
+                QVERIFY(!r->isActive);
+                QVERIFY(!r->notes2.isEmpty());
+            }
+        }
+        QCOMPARE(
+            headers,
+            (QStringList{QStringLiteral("Rest breaks"), QStringLiteral("Nutrition breaks"),
+                         QStringLiteral("Fitness breaks"), QStringLiteral("Light Food breaks")}));
+        QCOMPARE(dummies, 16);
+        QCOMPARE(rows()[1]->title, QStringLiteral("Lunch break"));
+        QCOMPARE(rows().back()->title, QStringLiteral("Coffee break"));
+        QVERIFY(app().library().items().empty());
+
+        const CatalogueRowPtr lunch = row(QStringLiteral("Lunch break"));
+        QCOMPARE(lunch->isToDoOrJob, std::optional<bool>(false));
+        QCOMPARE(lunch->defaultDurationHr, std::optional<int>(1));
+        QCOMPARE(lunch->defaultDurationMin, std::optional<int>(0));
+        QCOMPARE(lunch->defaultRepeatType, std::optional<int>(RepeatUnit::Day));
+        const CatalogueRowPtr tea = row(QStringLiteral("Tea break"));
+        QCOMPARE(tea->defaultDurationHr, std::optional<int>(0));
+        QCOMPARE(tea->defaultDurationMin, std::optional<int>(10));
+        QCOMPARE(tea->defaultRepeatValue, std::optional<int>(3));
+        const CatalogueRowPtr snack = row(QStringLiteral("Snack break"));
+        QCOMPARE(snack->isToDoOrJob, std::optional<bool>(true));
+        QCOMPARE(snack->defaultRepeatType, std::optional<int>(RepeatUnit::Minute));
+        QCOMPARE(snack->defaultRepeatValue, std::optional<int>(1));
+        QCOMPARE(row(QStringLiteral("Washroom"))->isToDoOrJob, std::optional<bool>(true));
+    }
+
+    void storedRulesClaimTheirSuggestions()
+    {
+        launch([](ObjectContext& ctx) {
+            storedRule(ctx, QStringLiteral("LUNCH BREAK"), std::nullopt);
+            storedRule(ctx, QStringLiteral("Tea break"), true);
+            storedRule(ctx, QStringLiteral("Walk break"), false);
+            storedRule(ctx, QStringLiteral("walk BREAK"), false);
+            storedRule(ctx, QStringLiteral("Ständ up"), false);
+        });
+        const CatalogueRowPtr lunch = row(QStringLiteral("LUNCH BREAK"));
+        QVERIFY(lunch && lunch->representedObject && !lunch->isCustom);
+        QVERIFY(lunch->isActive);
+        QCOMPARE(lunch->notes, QStringLiteral("mine"));
+        QVERIFY(lunch->nextRepeatOn);
+        // A custom rule of the same name keeps to itself, and two claims cancel each other.
+        QVERIFY(row(QStringLiteral("Tea break"))->isDummy());
+        QVERIFY(row(QStringLiteral("Walk break"))->isDummy());
+        QVERIFY(row(QStringLiteral("Ständ up"))->representedObject);
+
+        const auto header =
+            std::find_if(rows().begin(), rows().end(), [](const CatalogueRowPtr& r) {
+                return r->title == QStringLiteral("Custom breaks");
+            });
+        QVERIFY(header != rows().end());
+        QStringList custom;
+        for (auto it = header + 1; it != rows().end(); ++it) {
+            QVERIFY((*it)->isCustom);
+            custom << (*it)->title;
+        }
+        QCOMPARE(custom, (QStringList{QStringLiteral("Tea break"), QStringLiteral("Walk break"),
+                                      QStringLiteral("walk BREAK")}));
+    }
+
+    void aRuleAtItsEndShowsAsOff_data()
+    {
+        QTest::addColumn<Date>("upto");
+        QTest::addColumn<bool>("active");
+        QTest::newRow("ends at today 00:00:00") << at(2026, 11, 23, 0, 0, 0) << false;
+        QTest::newRow("ends at today 00:00:01") << at(2026, 11, 23, 0, 0, 1) << true;
+    }
+
+    void aRuleAtItsEndShowsAsOff()
+    {
+        QFETCH(Date, upto);
+        QFETCH(bool, active);
+        launch([upto](ObjectContext& ctx) {
+            Rule* r = storedRule(ctx, QStringLiteral("Mine"), true);
+            r->setRepeatOption(1);
+            r->setDtRepeatUpto(upto);
+        });
+        const CatalogueRowPtr mine = row(QStringLiteral("Mine"));
+        QCOMPARE(mine->isActive, active);
+        QCOMPARE(mine->nextRepeatOn.has_value(), active);
+        // The rule itself stays switched on.
+        QVERIFY(mine->representedObject->isActive().value_or(false));
+    }
+
+    void switchingASuggestionOnMakesItsRule()
+    {
+        launch();
+        const CatalogueRowPtr water = row(QStringLiteral("Water time"));
+        m_app->clock.set(at(2026, 11, 23, 8, 0, 17));
+        Rule* rule = catalogue().createRuleFor(*water);
+        QCOMPARE(water->representedObject, rule);
+        QCOMPARE(*rule->uniqueId(), QStringLiteral("Water time_1795417217.0"));
+        // Anchored at the start of Monday's working hours, and off until switched on.
+        QCOMPARE(*rule->dtReminder(), at(2026, 11, 23, 9, 0));
+        QCOMPARE(*rule->dtRepeatUpto(), at(2026, 11, 23, 9, 0));
+        QCOMPARE(*rule->isToDoOrJob(), true);
+        QCOMPARE(*rule->isActive(), false);
+        QCOMPARE(*rule->durationMin(), 0);
+        QCOMPARE(*rule->repeatIntervalType(), int(RepeatUnit::Hour));
+        QVERIFY(app().library().items().empty());
+
+        rule->setIsActive(true);
+        catalogue().refreshRow(*water);
+        app().library().save();
+        QVERIFY(water->isActive);
+        QCOMPARE(app().library().items().size(), std::size_t(1));
+        QCOMPARE(*app().library().items().front()->dtReminder(), at(2026, 11, 23, 9, 0));
+    }
+
+    void onlySuggestionsWithoutARuleAreRefreshed()
+    {
+        launch();
+        QSignalSpy posted(&catalogue(), &Catalogue::suggestionsChanged);
+        catalogue().refreshSuggestionTexts();
+        QCoreApplication::processEvents();
+        QCOMPARE(posted.count(), 1);
+
+        for (const CatalogueRowPtr& r : rows()) {
+            if (r->type == CatalogueRow::ItemRow)
+                catalogue().createRuleFor(*r);
+        }
+        catalogue().refreshSuggestionTexts();
+        QCoreApplication::processEvents();
+        QCOMPARE(posted.count(), 1);
+    }
+
+    void scheduleTexts()
+    {
+        launch();
+        const ScheduleTexts& notes = app().services().texts;
+        const Date three = at(2026, 11, 23, 15, 0);
+        const QString threePm = three.toString(DateStyle::none, DateStyle::shortStyle);
+        QVERIFY(notes.ruleText(nullptr).isEmpty());
+
+        Rule toDo;
+        toDo.setDtReminder(three);
+        toDo.setRepeatIntervalType(RepeatUnit::Hour);
+        toDo.setRepeatInterval(2);
+        QCOMPARE(notes.ruleText(&toDo), QStringLiteral("Lullet : Today at ") + threePm +
+                                            QStringLiteral(", repeats every 2 hours"));
+
+        // Not today: one step from the anchor.
+        Rule monthly;
+        monthly.setIsToDoOrJob(false);
+        monthly.setDtReminder(at(2026, 12, 5, 15, 0));
+        monthly.setRepeatIntervalType(RepeatUnit::Month);
+        monthly.setRepeatInterval(1);
+        QCOMPARE(notes.ruleText(&monthly), QStringLiteral("Task : On Tue 5, Jan 2027 at ") +
+                                               threePm + QStringLiteral(", repeats every month"));
+
+        const QString water = notes.suggestionText(*row(QStringLiteral("Water time")));
+        QCOMPARE(water,
+                 QStringLiteral("Lullet : Today at ") +
+                     at(2026, 11, 23, 10, 0).toString(DateStyle::none, DateStyle::shortStyle) +
+                     QStringLiteral(", repeats every hour"));
+        QCOMPARE(ScheduleTexts::intervalText(RepeatUnit::Minute, 20), QStringLiteral("20 mins"));
+        QCOMPARE(ScheduleTexts::intervalText(RepeatUnit::Year, 1), QStringLiteral("year"));
+        QCOMPARE(ScheduleTexts::intervalText(7, 2), QString());
+
+        Item item;
+        item.setShouldRemind(true);
+        item.setRepeatInterval(2);
+        item.setRepeatIntervalType(RepeatUnit::Day);
+        item.setDtReminder(three);
+        item.setDurationHr(1);
+        item.setDurationMin(30);
+        QCOMPARE(notes.itemText(item), QStringLiteral("Repeat every 2 days, Today, at ") + threePm +
+                                           QStringLiteral(", For : 1hr:30min"));
+        item.setRepeatIntervalType(9);
+        item.setRepeatInterval(1);
+        item.setDtReminder(at(2026, 12, 5, 15, 0));
+        item.setDurationHr(0);
+        item.setDurationMin(0);
+        QCOMPARE(notes.itemText(item),
+                 QStringLiteral("Repeat every 1 year, , On 05 Dec 2026, at ") + threePm);
+    }
+};
+
+LULLET_TEST_MAIN(TestCatalogue)
+#include "tst_catalogue.moc"

@@ -1,0 +1,325 @@
+#include "core/store/Db.h"
+#include "core/store/ObjectContext.h"
+#include "core/store/Store.h"
+#include "core/store/StoreSchema.h"
+#include "support/DatePrinting.h"
+#include "support/FakeClock.h"
+#include "support/TestMain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace lullet;
+using lullet::test::FakeClock;
+
+namespace {
+
+QByteArray readAll(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
+QStringList asideFiles(const QString& folder)
+{
+    QStringList stores;
+    for (const QString& name :
+         QDir(folder).entryList({QStringLiteral("Lullet.sqlite.unreadable-*")}, QDir::Files)) {
+        if (!name.endsWith(QStringLiteral("-wal")) && !name.endsWith(QStringLiteral("-shm")))
+            stores << name;
+    }
+    return stores;
+}
+
+} // namespace
+
+class TestStore : public QObject {
+    Q_OBJECT
+    QTemporaryDir m_dir;
+    FakeClock m_clock{Date(1'795'340'000)};
+
+    QString folder() const { return m_dir.filePath(QStringLiteral("data/Lullet")); }
+
+private Q_SLOTS:
+    void init()
+    {
+        QDir(m_dir.path()).removeRecursively();
+        QVERIFY(QDir().mkpath(m_dir.path()));
+    }
+
+    void firstRunCreatesTheFolderAndAWalStore()
+    {
+        Store store(folder(), m_clock);
+        const auto result = store.open();
+        QCOMPARE(result.outcome, Store::Outcome::Opened);
+        QVERIFY(QFileInfo(folder()).isDir());
+        QCOMPARE(store.db().queryText("PRAGMA journal_mode").value_or(QString()),
+                 QStringLiteral("wal"));
+        QCOMPARE(store.db().queryInt("PRAGMA application_id").value_or(0),
+                 StoreSchema::applicationId);
+        QCOMPARE(store.db().queryInt("PRAGMA user_version").value_or(0),
+                 StoreSchema::latestVersion());
+        store.context().insertProject()->setName(QStringLiteral("Home"));
+        QVERIFY(store.context().save());
+        QVERIFY(QFile::exists(store.storePath() + QStringLiteral("-wal")));
+        QVERIFY(QFile::exists(store.storePath() + QStringLiteral("-shm")));
+    }
+
+    void everyAttributeSurvivesAReload()
+    {
+        {
+            Store store(folder(), m_clock);
+            QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+            ObjectContext& ctx = store.context();
+            Project* home = ctx.insertProject();
+            home->setName(QStringLiteral("Hôme"));
+            home->setCreatedDate(Date(1'700'000'000.5));
+            Rule* rule = ctx.insertRule();
+            rule->setUniqueId(QStringLiteral("Water time_1700000000.25"));
+            rule->setTitle(QStringLiteral("Water time"));
+            rule->setRepeatInterval(1);
+            rule->setRepeatIntervalType(1);
+            rule->setRepeatOption(1);
+            rule->setDtRepeatUpto(Date(1'800'000'000));
+            rule->setIsCustom(false);
+            rule->setIsToDoOrJob(true);
+            rule->setIsActive(true);
+            Item* item = ctx.insertItem();
+            QCOMPARE(item->hasFinished(), std::optional<bool>(false));
+            item->setUniqueId(QStringLiteral("<to make>"));
+            item->setTitle(QStringLiteral("Write report — ünïcode"));
+            item->setNotes(QString());
+            item->setDurationHr(1);
+            item->setDurationMin(30);
+            item->setShouldRemind(true);
+            item->setRemindBefore(3);
+            item->setDtReminder(Date(1'795'340'100));
+            item->setDtReminderPostponed(Date(1'795'340'700));
+            item->setRepeatOption(-5);
+            item->setHasStarted(false);
+            item->setTimeLimit(5400);
+            item->setElapsedTime(12);
+            item->setTimeLimitExtendedBy(600);
+            item->setRunningTimeCovered(7);
+            item->setToProject(home);
+            Item* bare = ctx.insertItem();
+            bare->setHasFinished(std::nullopt);
+            QVERIFY(ctx.hasChanges());
+            QVERIFY(ctx.save());
+            QVERIFY(!ctx.hasChanges());
+            QVERIFY(item->rowId() > 0);
+        }
+        Store store(folder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        ObjectContext& ctx = store.context();
+        QCOMPARE(ctx.projects().size(), std::size_t(1));
+        QCOMPARE(ctx.rules().size(), std::size_t(1));
+        QCOMPARE(ctx.items().size(), std::size_t(2));
+        Project* home = ctx.projects().front();
+        QCOMPARE(*home->name(), QStringLiteral("Hôme"));
+        QCOMPARE(*home->createdDate(), Date(1'700'000'000.5));
+        QVERIFY(!home->uniqueId());
+        const Rule* rule = ctx.rules().front();
+        QCOMPARE(*rule->uniqueId(), QStringLiteral("Water time_1700000000.25"));
+        QCOMPARE(*rule->isCustom(), false);
+        QCOMPARE(*rule->isActive(), true);
+        QVERIFY(!rule->notes());
+        Item* item = ctx.items()[0]->title() ? ctx.items()[0] : ctx.items()[1];
+        QCOMPARE(*item->title(), QStringLiteral("Write report — ünïcode"));
+        QCOMPARE(item->notes(), std::optional<QString>(QString()));
+        QCOMPARE(*item->durationMin(), 30);
+        QCOMPARE(*item->repeatOption(), -5);
+        QCOMPARE(*item->effectiveDate(), Date(1'795'340'700));
+        QCOMPARE(*item->runningTimeCovered(), 7);
+        QVERIFY(!item->repeatInterval());
+        QCOMPARE(item->toProject(), home);
+        QCOMPARE(home->toReminders().size(), std::size_t(1));
+        QCOMPARE(home->toReminders().front(), item);
+        const Item* bare = item == ctx.items()[0] ? ctx.items()[1] : ctx.items()[0];
+        QVERIFY(!bare->hasFinished());
+        QVERIFY(!bare->toProject());
+    }
+
+    void onlyRealChangesCount()
+    {
+        Store store(folder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        ObjectContext& ctx = store.context();
+        Item* item = ctx.insertItem();
+        item->setTitle(QStringLiteral("Tea"));
+        QVERIFY(ctx.save());
+        item->setTitle(QStringLiteral("Tea"));
+        QVERIFY(!ctx.hasChanges());
+        item->setTitle(QStringLiteral("Coffee"));
+        QVERIFY(ctx.hasChanges());
+        QVERIFY(ctx.save());
+        // A record deleted before its first save never reaches the file.
+        Item* scratch = ctx.insertItem();
+        ctx.deleteObject(scratch);
+        QVERIFY(!ctx.hasChanges());
+        QVERIFY(!scratch->hasContext());
+        QCOMPARE(store.db().queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 1);
+    }
+
+    void deletingKeepsMemoryAndRelationshipsInStep()
+    {
+        Store store(folder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        ObjectContext& ctx = store.context();
+        Project* work = ctx.insertProject();
+        Item* a = ctx.insertItem();
+        Item* b = ctx.insertItem();
+        a->setToProject(work);
+        b->setToProject(work);
+        QVERIFY(ctx.save());
+        ctx.deleteObject(a);
+        QVERIFY(a->isDeleted());
+        QVERIFY(!a->hasContext());
+        QCOMPARE(work->toReminders(), std::vector<Item*>{b});
+        ctx.deleteObject(work);
+        QVERIFY(!b->toProject());
+        QCOMPARE(ctx.items(), std::vector<Item*>{b});
+        QVERIFY(ctx.save());
+        QCOMPARE(store.db().queryInt("SELECT count(*) FROM Project").value_or(-1), 0);
+        QCOMPARE(store.db()
+                     .queryInt("SELECT count(*) FROM ReminderInfo WHERE toProject IS NULL")
+                     .value_or(-1),
+                 1);
+        // Writing to a deleted record changes nothing.
+        a->setTitle(QStringLiteral("ghost"));
+        QVERIFY(!ctx.hasChanges());
+    }
+
+    void aFailedSaveKeepsEveryChangeForTheNextTry()
+    {
+        Store store(folder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        ObjectContext& ctx = store.context();
+        QVERIFY(store.db().exec("CREATE TRIGGER refuse BEFORE INSERT ON ReminderInfo "
+                                "BEGIN SELECT RAISE(ABORT, 'disk is full'); END"));
+        Project* p = ctx.insertProject();
+        Item* item = ctx.insertItem();
+        item->setToProject(p);
+        QVERIFY(!ctx.save());
+        QVERIFY(ctx.errorMessage().contains(QStringLiteral("disk is full")));
+        QVERIFY(ctx.hasChanges());
+        QCOMPARE(p->rowId(), 0);
+        QCOMPARE(store.db().queryInt("SELECT count(*) FROM Project").value_or(-1), 0);
+        QVERIFY(store.db().exec("DROP TRIGGER refuse"));
+        QVERIFY(ctx.save());
+        QCOMPARE(store.db().queryInt("SELECT toProject FROM ReminderInfo").value_or(-1),
+                 p->rowId());
+    }
+
+    void aFileWhereTheFolderShouldBeEndsTheBuild()
+    {
+        QVERIFY(QDir().mkpath(m_dir.filePath(QStringLiteral("data"))));
+        writeFile(folder(), "not a folder");
+        Store store(folder(), m_clock);
+        const auto result = store.open();
+        QCOMPARE(result.outcome, Store::Outcome::FolderIsFile);
+        QCOMPARE(result.message,
+                 QStringLiteral("Expected a folder to store application data, found a file %1.")
+                     .arg(folder()));
+        QCOMPARE(readAll(folder()), QByteArray("not a folder"));
+        QVERIFY(!store.isOpen());
+    }
+
+    void unusableFilesAreMovedAsideNeverDeleted_data()
+    {
+        QTest::addColumn<QByteArray>("setupSql");
+        QTest::addColumn<QByteArray>("garbage");
+        QTest::newRow("not a database") << QByteArray() << QByteArray(8192, 'x');
+        QTest::newRow("another program's database")
+            << QByteArray("CREATE TABLE notes (id INTEGER PRIMARY KEY, body TEXT);"
+                          "INSERT INTO notes (body) VALUES ('keep me');")
+            << QByteArray();
+        QTest::newRow("written by a newer Lullet")
+            << QByteArray("PRAGMA application_id = 1282763884; PRAGMA user_version = 99;"
+                          "CREATE TABLE Future (id INTEGER);")
+            << QByteArray();
+    }
+
+    void unusableFilesAreMovedAsideNeverDeleted()
+    {
+        QFETCH(QByteArray, setupSql);
+        QFETCH(QByteArray, garbage);
+        QVERIFY(QDir().mkpath(folder()));
+        const QString path = QDir(folder()).filePath(QStringLiteral("Lullet.sqlite"));
+        if (!garbage.isEmpty()) {
+            writeFile(path, garbage);
+            writeFile(path + QStringLiteral("-wal"), "log");
+        } else {
+            Db db(path);
+            QVERIFY(db.exec(setupSql.constData()));
+        }
+        const QByteArray before = readAll(path);
+
+        {
+            Store store(folder(), m_clock);
+            const auto result = store.open();
+            QCOMPARE(result.outcome, Store::Outcome::MovedAside);
+            QVERIFY(!QFile::exists(path));
+            QCOMPARE(asideFiles(folder()).size(), 1);
+            QCOMPARE(readAll(result.movedTo), before);
+            QVERIFY(result.message.contains(result.movedTo));
+            if (!garbage.isEmpty())
+                QCOMPARE(readAll(result.movedTo + QStringLiteral("-wal")), QByteArray("log"));
+        }
+        // The next launch starts empty, and the moved file is still there.
+        Store next(folder(), m_clock);
+        QCOMPARE(next.open().outcome, Store::Outcome::Opened);
+        QVERIFY(next.context().items().empty());
+        QCOMPARE(asideFiles(folder()).size(), 1);
+    }
+
+    void impossibleValuesOnDiskReadAsMissing()
+    {
+        {
+            Store store(folder(), m_clock);
+            QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        }
+        {
+            // Another writer, without our foreign-key checks.
+            Db db(QDir(folder()).filePath(QStringLiteral("Lullet.sqlite")));
+            QVERIFY(db.exec(
+                "INSERT INTO ReminderInfo (title, dtReminder, dtReminderPostponed, durationHr, "
+                "hasFinished, toProject) VALUES (NULL, 1e300, 'yesterday', 99999999999, 'x', 42)"));
+        }
+        Store store(folder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        QCOMPARE(store.context().items().size(), std::size_t(1));
+        const Item* item = store.context().items().front();
+        QVERIFY(!item->title());
+        QVERIFY(!item->dtReminder());
+        QVERIFY(!item->durationHr());
+        QVERIFY(!item->toProject());
+    }
+
+    void resetDetachesRecordsAndReloads()
+    {
+        Store store(folder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        ObjectContext& ctx = store.context();
+        Item* item = ctx.insertItem();
+        item->setTitle(QStringLiteral("Stretch"));
+        QVERIFY(ctx.save());
+        ctx.reset();
+        QVERIFY(!item->hasContext());
+        QCOMPARE(*item->title(), QStringLiteral("Stretch"));
+        QCOMPARE(ctx.items().size(), std::size_t(1));
+        QVERIFY(ctx.items().front() != item);
+        QCOMPARE(*ctx.items().front()->title(), QStringLiteral("Stretch"));
+    }
+};
+
+LULLET_TEST_MAIN(TestStore)
+#include "tst_store.moc"

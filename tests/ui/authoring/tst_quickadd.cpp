@@ -1,0 +1,143 @@
+#include "core/dates/CalendarContext.h"
+#include "core/presentation/ProjectChoices.h"
+#include "core/presentation/QuickAddForm.h"
+#include "support/DatePrinting.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+#include "ui/authoring/DateChooser.h"
+#include "ui/authoring/QuickAddView.h"
+#include "ui/desktop/SingleInstance.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+class TestQuickAdd : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    Launched& app() { return *m_app; }
+    QuickAddForm form() { return QuickAddForm(m_app->clock, app().library()); }
+
+private Q_SLOTS:
+    void initTestCase() { init(); }
+
+    void init()
+    {
+        lullet::test::useTestCalendar();
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 15, 30));
+        QVERIFY(app().open());
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void aTaskIsDueTenMinutesAfterTheFormOpened()
+    {
+        QuickAddForm quick = form();
+        QCOMPARE(quick.dateLabel(), QStringLiteral("23 Nov 2026"));
+        QVERIFY(quick.timeLabel().startsWith(QStringLiteral("at 10:25")));
+        QCOMPARE(ProjectChoices(app().library(), QStringLiteral("No Project")).titles(),
+                 QStringList{QStringLiteral("No Project")});
+        QCOMPARE(QuickAddForm::durationChoices().size(), 14);
+        m_app->clock.advance(120);
+        QVERIFY(!quick.add(QStringLiteral("  "), nullptr));
+        Item* item = quick.add(QStringLiteral("buy milk"), nullptr);
+        QVERIFY(item);
+        QCOMPARE(*item->title(), QStringLiteral("Buy milk"));
+        QCOMPARE(*item->dtReminder(), at(2026, 11, 23, 10, 25, 30));
+        QVERIFY(*item->shouldRemind());
+        QCOMPARE(*item->uniqueId(), QStringLiteral("<to make>"));
+        QCOMPARE(*item->durationMin(), 0);
+        QVERIFY(!item->toProject());
+        QVERIFY(!app().context().hasChanges());
+        QCOMPARE(app().library().items().size(), std::size_t(1));
+    }
+
+    void noDateAndAProject()
+    {
+        Project* home = app().library().newProject();
+        home->setName(QStringLiteral("Home"));
+        app().library().addProject(home);
+        QCOMPARE(ProjectChoices(app().library(), QStringLiteral("No Project")).indexOf(home), 1);
+        QuickAddForm quick = form();
+        quick.setDate(std::nullopt);
+        QCOMPARE(quick.dateLabel() + u' ' + quick.timeLabel(), QStringLiteral("No date"));
+        QCOMPARE(quick.chooserStart(), at(2026, 11, 23, 10, 25, 30));
+        QSignalSpy contentChanged(&app().library(), &Library::projectContentChanged);
+        Item* item = quick.add(QStringLiteral("Fix the tap"), home);
+        QVERIFY(!item->dtReminder());
+        QVERIFY(!*item->shouldRemind());
+        QCOMPARE(item->toProject(), home);
+        QCOMPARE(contentChanged.count(), 1);
+    }
+
+    void eachFormTakesOnlyItsOwnDates()
+    {
+        QuickAddView window(app().services());
+        QuickAddView bar(app().services());
+        QSignalSpy added(&window, &QuickAddView::added);
+        window.findChild<QPushButton*>(QStringLiteral("chooseDate"))->click();
+        auto* chooser = window.findChild<DateChooser*>();
+        QVERIFY(chooser);
+        Q_EMIT chooser->chosen(at(2026, 11, 24, 8, 0));
+        QCOMPARE(*window.form().date(), at(2026, 11, 24, 8, 0));
+        QCOMPARE(*bar.form().date(), at(2026, 11, 23, 10, 25, 30));
+        window.nameField()->setText(QStringLiteral("call mum"));
+        window.findChild<QPushButton*>(QStringLiteral("add"))->click();
+        QCOMPARE(added.count(), 1);
+        QCOMPARE(*app().library().items().front()->dtReminder(), at(2026, 11, 24, 8, 0));
+    }
+
+    void aFormUsedAfreshIsDueTenMinutesFromThen()
+    {
+        Project* home = app().library().newProject();
+        home->setName(QStringLiteral("Home"));
+        app().library().addProject(home);
+        QuickAddView bar(app().services());
+        m_app->clock.advance(2 * 3600);
+        bar.reset(home);
+        bar.nameField()->setText(QStringLiteral("water plants"));
+        bar.add();
+        const Item* item = app().library().items().front();
+        QCOMPARE(*item->dtReminder(), at(2026, 11, 23, 12, 25, 30));
+        QCOMPARE(item->toProject(), home);
+    }
+
+    void oneInstanceTakesTheRequestsOfTheNext()
+    {
+        const QString path = m_dir->filePath(QStringLiteral("lullet.socket"));
+        // A file left where the socket belongs, as after a crash, is replaced.
+        QFile stale(path);
+        QVERIFY(stale.open(QIODevice::WriteOnly));
+        stale.close();
+        SingleInstance first(path);
+        QVERIFY(!first.forward(QStringLiteral("show")));
+        QVERIFY(first.listen());
+        QSignalSpy requests(&first, &SingleInstance::requestReceived);
+
+        SingleInstance second(path);
+        QVERIFY(second.forward(QStringLiteral("quick-add")));
+        QVERIFY(!second.listen());
+        QTRY_COMPARE(requests.count(), 1);
+        QCOMPARE(requests.at(0).at(0).toString(), QStringLiteral("quick-add"));
+    }
+};
+
+LULLET_TEST_MAIN_WITH(QApplication, TestQuickAdd)
+#include "tst_quickadd.moc"

@@ -1,0 +1,153 @@
+#include "core/dates/CalendarContext.h"
+#include "support/DatePrinting.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+#include "ui/main/ItemListModel.h"
+#include "ui/main/ItemListView.h"
+#include "ui/main/PostponePanel.h"
+
+#include <QApplication>
+#include <QDateTimeEdit>
+#include <QDir>
+#include <QMenu>
+#include <QPointer>
+#include <QPushButton>
+#include <QTableView>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+// The day's list on screen, driven through its rows.
+class TestListView : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    Launched& app() { return *m_app; }
+
+    Item* item(const QString& title, std::optional<Date> due)
+    {
+        Item* r = app().addItem(title, due);
+        r->setRemindBefore(0);
+        r->setDurationMin(15);
+        return r;
+    }
+
+    // For review: with LULLET_SHOTS set to a folder, the widgets are saved there as pictures.
+    static void saveShot(QWidget* widget, const QString& name)
+    {
+        const QString folder = qEnvironmentVariable("LULLET_SHOTS");
+        if (!folder.isEmpty())
+            widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
+    }
+
+    static QAction* action(QMenu* menu, const QString& text)
+    {
+        for (QAction* a : menu->actions()) {
+            if (a->text() == text)
+                return a;
+        }
+        return nullptr;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { lullet::test::useTestCalendar(); }
+
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 25, 12, 0));
+        QVERIFY(app().open());
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void rowsStartStopAndGo()
+    {
+        Item* write = item(QStringLiteral("Write"), at(2026, 11, 25, 11, 0));
+        Item* read = item(QStringLiteral("Read"), at(2026, 11, 25, 14, 0));
+        item(QStringLiteral("Someday"), std::nullopt);
+        ItemListView view(app().services(), {}, true);
+        view.show();
+        QCOMPARE(view.model().rowCount(), 2);
+        QCOMPARE(view.model().rows()[0].representedObject, write);
+
+        auto* start = qobject_cast<QPushButton*>(
+            view.table()->indexWidget(view.model().index(0, ItemListModel::StartColumn)));
+        QVERIFY(start);
+        start->click();
+        QCOMPARE(app().running().item(), write);
+        QCOMPARE(*write->timeLimit(), 900);
+
+        // A tick shows the running row's progress without rebuilding the list.
+        m_app->clock.advance(1);
+        app().monitor().tick();
+        QCOMPARE(view.model().rowCount(), 2);
+
+        // Stopping is finishing; the finished row goes below the open ones.
+        start = qobject_cast<QPushButton*>(view.table()->indexWidget(
+            view.model().index(view.model().rowOf(write), ItemListModel::StartColumn)));
+        start->click();
+        QVERIFY(*write->hasFinished());
+        QCOMPARE(view.model().rows()[0].representedObject, read);
+
+        std::unique_ptr<QMenu> menu(view.buildMenu(read));
+        QVERIFY(action(menu.get(), QStringLiteral("Delete")));
+        action(menu.get(), QStringLiteral("Delete"))->trigger();
+        QVERIFY(!read->hasContext());
+        QCOMPARE(view.model().rowCount(), 1);
+    }
+
+    void aRunningItemCannotBeRescheduledFromItsMenu()
+    {
+        Item* running = item(QStringLiteral("Busy"), at(2026, 11, 25, 11, 0));
+        ItemListView view(app().services(), {}, true);
+        view.startOrStop(running);
+        std::unique_ptr<QMenu> menu(view.buildMenu(running));
+        QVERIFY(!action(menu.get(), QStringLiteral("Postpone")));
+        QVERIFY(action(menu.get(), QStringLiteral("Stop")));
+
+        Item* waiting = item(QStringLiteral("Later"), at(2026, 11, 25, 15, 0));
+        std::unique_ptr<QMenu> other(view.buildMenu(waiting));
+        QAction* postpone = action(other.get(), QStringLiteral("Postpone"));
+        QVERIFY(postpone && postpone->menu());
+        // The menu counts from now: "Tomorrow" is tomorrow at 09:00.
+        action(postpone->menu(), QStringLiteral("Tomorrow"))->trigger();
+        QCOMPARE(*waiting->dtReminderPostponed(), at(2026, 11, 26, 9, 0));
+        QCOMPARE(view.model().rowOf(waiting), -1);
+    }
+
+    void thePostponePanel()
+    {
+        m_app->clock.set(at(2026, 11, 25, 20, 0));
+        Item* task = item(QStringLiteral("Plan"), at(2026, 11, 25, 21, 0));
+        auto* panel = new PostponePanel(app().services(), task);
+        QPointer<PostponePanel> alive(panel);
+        panel->popUpAt(QPoint(100, 100));
+        saveShot(panel, QStringLiteral("postpone-panel"));
+        auto* evening = panel->findChild<QPushButton*>(QStringLiteral("choice2"));
+        QVERIFY(evening);
+        QCOMPARE(evening->text(), QStringLiteral("Tomorrow eve"));
+        QCOMPARE(panel->findChild<QPushButton*>(QStringLiteral("choice4"))->text(),
+                 QStringLiteral("Friday"));
+        // A free date keeps the panel open; a named choice closes it.
+        panel->findChild<QPushButton*>(QStringLiteral("choice9"))->click();
+        QVERIFY(panel->findChild<QDateTimeEdit*>()->isVisible());
+        panel->postponeToChosenDate();
+        QVERIFY(alive);
+        evening->click();
+        QCOMPARE(*task->dtReminderPostponed(), at(2026, 11, 26, 19, 0));
+        QTRY_VERIFY(!alive);
+    }
+};
+
+LULLET_TEST_MAIN_WITH(QApplication, TestListView)
+#include "tst_listview.moc"

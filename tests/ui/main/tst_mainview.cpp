@@ -1,0 +1,189 @@
+#include "core/activity/ItemActions.h"
+#include "core/dates/CalendarContext.h"
+#include "support/DatePrinting.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+#include "ui/authoring/DateChooser.h"
+#include "ui/authoring/QuickAddView.h"
+#include "ui/main/ItemListView.h"
+#include "ui/main/MainView.h"
+#include "ui/shell/WindowContent.h"
+#include "ui/widgets/ViewSwitcher.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+// The main window's content: every segment walked, a project added, a search.
+class TestMainView : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    Launched& app() { return *m_app; }
+
+    static void saveShot(QWidget* widget, const QString& name)
+    {
+        const QString folder = qEnvironmentVariable("LULLET_SHOTS");
+        if (!folder.isEmpty())
+            widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
+    }
+
+private Q_SLOTS:
+    void initTestCase() { lullet::test::useTestCalendar(); }
+
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 25, 12, 0));
+        QVERIFY(app().open(false));
+        app().addItem(QStringLiteral("Walk the dog"), at(2026, 11, 25, 18, 0));
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void everySegmentShowsItsView()
+    {
+        MainView view(app().services());
+        view.resize(900, 600);
+        view.show();
+        QCOMPARE(view.switcher().currentName(), QStringLiteral("LulletList"));
+        QCOMPARE(view.rows()[2].count, std::optional<int>(1));
+        const std::pair<QString, QString> expected[] = {
+            {QStringLiteral("Dashboard"), QStringLiteral("Chart")},
+            {QStringLiteral("Lullets"), QStringLiteral("RepeatList")},
+            {QStringLiteral("Today"), QStringLiteral("LulletList")},
+            {QStringLiteral("Upcoming"), QStringLiteral("CustomList")},
+            {QStringLiteral("Anytime"), QStringLiteral("LulletList")},
+            {QStringLiteral("Completed"), QStringLiteral("CustomList")},
+        };
+        for (const auto& [segment, viewName] : expected) {
+            view.selectSegment(segment);
+            QCOMPARE(view.selectedSegment(), segment);
+            QCOMPARE(view.switcher().currentName(), viewName);
+            saveShot(&view, QStringLiteral("segment-") + segment);
+        }
+        // The separator can't be chosen.
+        view.sidebar()->setCurrentRow(6);
+        QCOMPARE(view.selectedSegment(), QStringLiteral("Completed"));
+    }
+
+    void upcomingGivesWayToTodayWhenAnItemStarts()
+    {
+        MainView view(app().services());
+        view.selectSegment(QStringLiteral("Upcoming"));
+        QCOMPARE(view.switcher().currentName(), QStringLiteral("CustomList"));
+        app().services().itemActions.start(*app().library().items().front());
+        QTRY_COMPARE(view.selectedSegment(), QStringLiteral("Today"));
+        QTRY_COMPARE(view.switcher().currentName(), QStringLiteral("LulletList"));
+    }
+
+    void theWelcomeLeadsToTheMainView()
+    {
+        WindowContent container(app().services());
+        QVERIFY(container.showsWelcome());
+        QVERIFY(!container.findChild<MainView*>());
+        QSignalSpy proceeded(&container, &WindowContent::proceededFromWelcome);
+        container.findChild<QPushButton*>(QStringLiteral("getStarted"))->click();
+        QCOMPARE(proceeded.count(), 1);
+        QVERIFY(m_app->settings.welcomeDone());
+        QVERIFY(container.findChild<MainView*>());
+        // With the welcome done, the idle question may come at once.
+        QCoreApplication::processEvents();
+        QCOMPARE(m_app->prompts.kinds(), QStringList{QStringLiteral("idle")});
+        // Next time the main view comes first.
+        WindowContent again(app().services());
+        QVERIFY(!again.showsWelcome());
+    }
+
+    void theQuickAddBarAndWhereTheTaskShows()
+    {
+        MainView view(app().services());
+        view.show();
+        QVERIFY(!view.quickAddBar()->isVisible());
+        view.showQuickAddBar();
+        QVERIFY(view.quickAddBar()->isVisible());
+        // Without a date the task belongs to "Anytime", where the view moves.
+        view.quickAddBar()->findChild<QPushButton*>(QStringLiteral("chooseDate"))->click();
+        auto* chooser = view.quickAddBar()->findChild<DateChooser*>();
+        QVERIFY(chooser);
+        Q_EMIT chooser->unset();
+        view.quickAddBar()->nameField()->setText(QStringLiteral("read a book"));
+        view.showQuickAddBar();
+        QVERIFY(!view.quickAddBar()->isVisible());
+        QCOMPARE(*app().library().items().back()->title(), QStringLiteral("Read a book"));
+        QTRY_COMPARE(view.selectedSegment(), QStringLiteral("Anytime"));
+        QTRY_COMPARE(view.sidebar()->currentRow(), 4);
+    }
+
+    void aNewProjectIsSelectedAndListed()
+    {
+        MainView view(app().services());
+        auto* field = view.findChild<QLineEdit*>(QStringLiteral("newProject"));
+        field->setText(QStringLiteral("garden"));
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(view.selectedSegment(), QStringLiteral("Project"));
+        QVERIFY(view.selectedProject());
+        QCOMPARE(*view.selectedProject()->name(), QStringLiteral("Garden"));
+        QCOMPARE(view.switcher().currentName(), QStringLiteral("ProjectList"));
+        QCOMPARE(view.rows().back().name, QStringLiteral("Garden"));
+        QVERIFY(field->text().isEmpty());
+    }
+
+    void projectsAreRenamedDuplicatedAndDeleted()
+    {
+        MainView view(app().services());
+        auto* field = view.findChild<QLineEdit*>(QStringLiteral("newProject"));
+        for (const char* name : {"Home", "Work"}) {
+            field->setText(QString::fromLatin1(name));
+            QTest::keyClick(field, Qt::Key_Return);
+        }
+        Project* home = app().library().projects().front();
+        view.renameProject(home);
+        view.sidebar()->item(7)->setText(QStringLiteral("house"));
+        QCOMPARE(*home->name(), QStringLiteral("House"));
+
+        view.duplicateProject(home);
+        QCOMPARE(*view.selectedProject()->name(), QStringLiteral("House Copy"));
+        // Without items, no question; the selection moves to a neighbour.
+        Project* copy = view.selectedProject();
+        view.deleteProject(copy);
+        QVERIFY(!copy->hasContext());
+        QVERIFY(view.selectedProject() && view.selectedProject() != copy);
+        QCOMPARE(view.rows().size(), std::size_t(9));
+    }
+
+    void aSearchResultLeadsToItsList()
+    {
+        MainView view(app().services());
+        auto* search = view.findChild<QLineEdit*>(QStringLiteral("searchField"));
+        search->setText(QStringLiteral("today, walk"));
+        QStringList shown;
+        for (int i = 0; i < view.sidebar()->count(); ++i)
+            shown << view.sidebar()->item(i)->text();
+        QCOMPARE(shown.size(), 2);
+        QVERIFY(shown[0].startsWith(QStringLiteral("Today")));
+        QCOMPARE(shown[1], QStringLiteral("• Walk the dog"));
+        view.sidebar()->setCurrentRow(1);
+        QVERIFY(search->text().isEmpty());
+        QCOMPARE(view.selectedSegment(), QStringLiteral("Today"));
+    }
+};
+
+LULLET_TEST_MAIN_WITH(QApplication, TestMainView)
+#include "tst_mainview.moc"

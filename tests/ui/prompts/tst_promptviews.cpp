@@ -1,0 +1,255 @@
+#include "core/dates/CalendarContext.h"
+#include "core/model/RepeatCodes.h"
+#include "core/monitor/IdlePrompt.h"
+#include "support/DatePrinting.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+#include "ui/prompts/IdlePromptView.h"
+#include "ui/prompts/ReminderPromptView.h"
+#include "ui/prompts/TimeOverPromptView.h"
+#include "ui/prompts/TodoPromptView.h"
+#include "ui/shell/MainWindow.h"
+#include "ui/shell/Shell.h"
+#include "ui/shell/Tray.h"
+#include "ui/widgets/Balloon.h"
+#include "ui/widgets/Popover.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+namespace {
+
+void click(QWidget* prompt, const char* name)
+{
+    auto* button = prompt->findChild<QPushButton*>(QString::fromLatin1(name));
+    QVERIFY2(button, name);
+    QVERIFY2(button->isVisibleTo(prompt), name);
+    button->click();
+}
+
+Balloon* shownBalloon()
+{
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+        if (auto* b = qobject_cast<Balloon*>(w); b && b->isVisible())
+            return b;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+// Each prompt on screen, driven by its buttons as a user would.
+class TestPromptViews : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    Launched& app() { return *m_app; }
+    const Services& services() { return m_app->services(); }
+
+    Item* item(const QString& title, Date due, int minutes = 0)
+    {
+        Item* r = app().addItem(title, due);
+        r->setShouldRemind(true);
+        r->setDurationMin(minutes);
+        return r;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { init(); }
+
+    void init()
+    {
+        lullet::test::useTestCalendar();
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 15, 0));
+        QVERIFY(app().open());
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void theReminderStartsTheDueItem()
+    {
+        Item* due = item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15), 10);
+        ReminderPromptView alone(services(), due, nullptr);
+        QSignalSpy answered(&alone, &PromptView::answered);
+        alone.show();
+        QVERIFY(
+            !alone.findChild<QPushButton*>(QStringLiteral("finishPrevious"))->isVisibleTo(&alone));
+        click(&alone, "start");
+        QCOMPARE(app().running().item(), due);
+        QCOMPARE(*due->timeLimit(), 600);
+        // One answer: a second click while it closes does nothing.
+        QCOMPARE(answered.count(), 1);
+        QVERIFY(!alone.isEnabled());
+
+        Item* next = item(QStringLiteral("Walk"), at(2026, 11, 23, 10, 15));
+        ReminderPromptView both(services(), next, due);
+        both.show();
+        click(&both, "finishPrevious");
+        QVERIFY(*due->hasFinished());
+        QCOMPARE(app().running().item(), next);
+
+        Item* later = item(QStringLiteral("Call"), at(2026, 11, 23, 10, 15));
+        ReminderPromptView delay(services(), later, nullptr);
+        QSignalSpy closed(&delay, &PromptView::answered);
+        click(&delay, "postpone30");
+        QCOMPARE(*later->dtReminderPostponed(), at(2026, 11, 23, 10, 45));
+        QCOMPARE(closed.front().front().value<PromptOutcome>(), PromptOutcome::Close);
+        // A double click delays once.
+        click(&delay, "postpone30");
+        QCOMPARE(*later->dtReminderPostponed(), at(2026, 11, 23, 10, 45));
+    }
+
+    void theMoreTimeMenuExtendsTheRunningItem()
+    {
+        Item* r = item(QStringLiteral("Nap"), at(2026, 11, 23, 10, 0), 20);
+        app().running().start(*r);
+        TimeOverPromptView prompt(services(), r);
+        auto* more = prompt.findChild<QPushButton*>(QStringLiteral("moreTime"));
+        QVERIFY(more && more->menu());
+        QAction* fifteen = nullptr;
+        for (QAction* a : more->menu()->actions()) {
+            if (a->data().toInt() == 15)
+                fifteen = a;
+        }
+        QVERIFY(fifteen);
+        fifteen->trigger();
+        QCOMPARE(*r->timeLimit(), 35 * 60);
+        TimeOverPromptView again(services(), r);
+        click(&again, "finish");
+        QVERIFY(*r->hasFinished());
+        QVERIFY(!app().running().item());
+    }
+
+    void theToDoPromptConfirmsOrLeavesAlone()
+    {
+        Item* todo = item(QStringLiteral("Water"), at(2026, 11, 23, 10, 15));
+        todo->setRepeatOption(RepeatEnd::toDoMarker);
+        TodoPromptView prompt(services(), todo);
+        click(&prompt, "dismiss");
+        QVERIFY(!*todo->hasFinished());
+        TodoPromptView again(services(), todo);
+        click(&again, "done");
+        QVERIFY(*todo->hasFinished());
+    }
+
+    void theIdlePromptRefusesABlankName()
+    {
+        IdlePromptView prompt(services(), at(2026, 11, 23, 10, 0), false, nullptr);
+        prompt.show();
+        QCOMPARE(prompt.answerField()->placeholderText(),
+                 QStringLiteral("What were you doing for last 15 minutes ?"));
+        prompt.answerField()->setText(QStringLiteral("   "));
+        click(&prompt, "answer");
+        QPointer<Balloon> balloon = shownBalloon();
+        QVERIFY(balloon);
+        QCOMPARE(balloon->text(), QStringLiteral(" Task name is blank! Please enter task name. "));
+        QVERIFY(!app().running().item());
+        // A second blank answer replaces the balloon instead of stacking another.
+        click(&prompt, "answer");
+        QTRY_VERIFY(!balloon);
+        QVERIFY(shownBalloon());
+
+        // The return key answers from the field and leaves the item running.
+        prompt.answerField()->setText(QStringLiteral("reading"));
+        QTest::keyClick(prompt.answerField(), Qt::Key_Return);
+        QVERIFY(app().running().item());
+        QCOMPARE(*app().running().item()->title(), QStringLiteral("Reading"));
+        // A valid answer takes its balloon away.
+        QTRY_VERIFY(!shownBalloon());
+    }
+
+    void aBalloonClosesByItself()
+    {
+        QLineEdit field;
+        field.show();
+        QPointer<Balloon> balloon = Balloon::show(QStringLiteral("Nope"), &field, 20);
+        QVERIFY(balloon && balloon->isVisible());
+        QTRY_VERIFY(!balloon);
+    }
+
+    void oneQuestionAtATimeInThePopover()
+    {
+        MainWindow window;
+        Shell shell(services(), window);
+        Item* first = item(QStringLiteral("First"), at(2026, 11, 23, 10, 15));
+        Item* second = item(QStringLiteral("Second"), at(2026, 11, 23, 10, 15));
+        shell.showReminder(first, nullptr);
+        Popover* popover = shell.tray().popover();
+        QVERIFY(popover && popover->isShown());
+        // The next prompt waits for the first to close.
+        shell.showReminder(second, nullptr);
+        QTRY_VERIFY(shell.tray().popover() && shell.tray().popover() != popover);
+        auto* shown = qobject_cast<ReminderPromptView*>(shell.tray().popover()->content());
+        QVERIFY(shown);
+        QCOMPARE(shown->prompt().due(), second);
+
+        // An idle question already open goes on counting instead of being replaced.
+        shell.askIdleQuestion(at(2026, 11, 23, 10, 0), false);
+        QTRY_VERIFY(qobject_cast<IdlePromptView*>(shell.tray().popover()->content()));
+        Popover* idle = shell.tray().popover();
+        shell.askIdleQuestion(at(2026, 11, 23, 10, 5), true);
+        QCOMPARE(shell.tray().popover(), idle);
+        auto* question = qobject_cast<IdlePromptView*>(idle->content());
+        QVERIFY(question->prompt().asksNow());
+
+        // Dropped unanswered, it hands its start to the next question.
+        shell.tray().closePopoverImmediate();
+        QVERIFY(!shell.tray().popover());
+        QCOMPARE(*app().running().unansweredGapStart(), at(2026, 11, 23, 10, 0));
+    }
+
+    // An unanswered question replaced by the next: the next counts from the first's start, and
+    // the one after that from where the second was answered.
+    void anUnansweredGapGoesToTheNextQuestion()
+    {
+        MainWindow window;
+        Shell shell(services(), window);
+        m_app->clock.set(at(2026, 11, 23, 10, 15));
+        shell.askIdleQuestion(at(2026, 11, 23, 10, 0), false);
+        QTRY_VERIFY(shell.tray().popover());
+        const QWidget* a = shell.tray().popover()->content();
+        // The tray closes it without an answer: hidden, not answered.
+        shell.tray().closePopover();
+        m_app->clock.set(at(2026, 11, 23, 10, 30));
+        shell.askIdleQuestion(at(2026, 11, 23, 10, 15), false);
+        IdlePromptView* b = nullptr;
+        QTRY_VERIFY((b = qobject_cast<IdlePromptView*>(
+                         shell.tray().popover() ? shell.tray().popover()->content() : nullptr)) &&
+                    b != a);
+        QCOMPARE(b->prompt().gapStart(), at(2026, 11, 23, 10, 0));
+        QCOMPARE(b->prompt().questionText(),
+                 QStringLiteral("What were you doing for last 30 minutes ?"));
+        b->answerField()->setText(QStringLiteral("writing"));
+        click(b, "answer");
+        QVERIFY(!app().running().unansweredGapStart());
+        app().running().finish(*app().running().item());
+        m_app->clock.set(at(2026, 11, 23, 10, 50));
+        shell.askIdleQuestion(at(2026, 11, 23, 10, 30), false);
+        IdlePromptView* c = nullptr;
+        QTRY_VERIFY((c = qobject_cast<IdlePromptView*>(
+                         shell.tray().popover() ? shell.tray().popover()->content() : nullptr)) &&
+                    c != b);
+        QCOMPARE(c->prompt().gapStart(), at(2026, 11, 23, 10, 30));
+    }
+};
+
+LULLET_TEST_MAIN_WITH(QApplication, TestPromptViews)
+#include "tst_promptviews.moc"

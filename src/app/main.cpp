@@ -16,6 +16,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <memory>
 
 using namespace lullet;
 
@@ -33,6 +34,52 @@ int parseOptions(int argc, char* argv[], bool& quickAdd)
         quickAdd = true;
     }
     return 0;
+}
+
+// The windows of a run, once the core is open.
+void showWindows(const Services& services, Shell& shell, MainWindow& window)
+{
+    QObject::connect(&services.library, &Library::saveFailed, &window,
+                     [&window](const QString& message) { Dialogs::inform(&window, message); });
+    shell.showTray();
+    shell.prepareMainWindow(services.lock.isLocked());
+    // The idle question meets the user right after the window appears.
+    shell.bringMainWindowForward([&services] {
+        if (!services.running.item())
+            services.monitor.askWhatNow();
+    });
+}
+
+// Quitting finishes the running item and saves; every way to end the program comes here.
+void connectQuitPaths(AppController& core, Shell& shell, MainWindow& window,
+                      TerminationSignals& termination)
+{
+    auto terminated = std::make_shared<bool>(false);
+    const auto quit = [&core, &window, terminated] {
+        if (*terminated)
+            return;
+        if (core.prepareToQuit() == AppController::QuitReply::SaveFailed &&
+            !Dialogs::confirm(&window,
+                              QStringLiteral("Could not save changes while quitting. Quit anyway?"),
+                              QStringLiteral("Quitting now will lose any changes you have made "
+                                             "since the last successful save"),
+                              QStringLiteral("Quit anyway"), QStringLiteral("Cancel")))
+            return;
+        *terminated = true;
+        core.finishQuit();
+        QApplication::quit();
+    };
+    QObject::connect(&termination, &TerminationSignals::terminationRequested, qApp, quit);
+    QObject::connect(&shell, &Shell::quitRequested, qApp, quit);
+    QObject::connect(&window, &MainWindow::quitRequested, qApp, quit);
+    // The session may end the program without asking; the store is saved all the same.
+    QObject::connect(qApp, &QApplication::aboutToQuit, qApp, [&core, terminated] {
+        if (*terminated)
+            return;
+        *terminated = true;
+        core.prepareToQuit();
+        core.finishQuit();
+    });
 }
 
 } // namespace
@@ -69,21 +116,11 @@ int main(int argc, char* argv[])
         std::fprintf(stderr, "Lullet: %s\n", qPrintable(opened.message));
         return 1;
     }
-    const Services& services = core.services();
 
     MainWindow window;
-    Shell shell(services, window);
-    QObject::connect(&services.library, &Library::saveFailed, &window,
-                     [&window](const QString& message) { Dialogs::inform(&window, message); });
-    shell.showTray();
-    shell.prepareMainWindow(services.lock.isLocked());
-    // The idle question meets the user right after the window appears.
-    shell.bringMainWindowForward([&services] {
-        if (!services.running.item())
-            services.monitor.askWhatNow();
-    });
+    Shell shell(core.services(), window);
+    showWindows(core.services(), shell, window);
     core.startMonitoring();
-
     QObject::connect(&instance, &SingleInstance::requestReceived, &app, [&](const QString& r) {
         if (r == QLatin1String(SingleInstance::quickAddRequest))
             shell.quickAdd();
@@ -92,32 +129,6 @@ int main(int argc, char* argv[])
     });
     if (quickAdd)
         shell.quickAdd();
-
-    bool terminated = false;
-    const auto quit = [&] {
-        if (terminated)
-            return;
-        if (core.prepareToQuit() == AppController::QuitReply::SaveFailed &&
-            !Dialogs::confirm(&window,
-                              QStringLiteral("Could not save changes while quitting. Quit anyway?"),
-                              QStringLiteral("Quitting now will lose any changes you have made "
-                                             "since the last successful save"),
-                              QStringLiteral("Quit anyway"), QStringLiteral("Cancel")))
-            return;
-        terminated = true;
-        core.finishQuit();
-        QApplication::quit();
-    };
-    QObject::connect(&termination, &TerminationSignals::terminationRequested, &app, quit);
-    QObject::connect(&shell, &Shell::quitRequested, &app, quit);
-    QObject::connect(&window, &MainWindow::quitRequested, &app, quit);
-    // The session may end the program without asking; the store is saved all the same.
-    QObject::connect(&app, &QApplication::aboutToQuit, &app, [&] {
-        if (terminated)
-            return;
-        terminated = true;
-        core.prepareToQuit();
-        core.finishQuit();
-    });
+    connectQuitPaths(core, shell, window, termination);
     return app.exec();
 }

@@ -54,7 +54,7 @@ AppController::~AppController() = default;
 Store::Result AppController::open()
 {
     m_settings.writeIdleQuestionSwitchIfAbsent();
-    const Store::Result opened = m_store.open();
+    Store::Result opened = m_store.open();
     if (opened.outcome != Store::Outcome::Opened)
         return opened;
     m_storeOpen = true;

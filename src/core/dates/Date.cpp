@@ -130,7 +130,7 @@ QString translated(const char* text)
 
 std::unique_ptr<icu::TimeZone> zoneFor(TimeZone zone)
 {
-    if (zone == TimeZone::utc)
+    if (zone == TimeZone::Utc)
         return std::unique_ptr<icu::TimeZone>(icu::TimeZone::getGMT()->clone());
     return CalendarContext::timeZone();
 }
@@ -182,32 +182,34 @@ Date Date::fromString(QStringView text, const DateFormat& format, const Clock& c
         return clock.now();
     std::optional<Date> parsed;
     switch (format.kind) {
-    case DateFormat::Kind::dotNet: {
+    case DateFormat::Kind::DotNet: {
         const qsizetype open = text.indexOf(u'(');
         const qsizetype close = text.indexOf(u')');
         if (open >= 0 && close > open) {
             bool ok = false;
             const qint64 ms = text.sliced(open + 1, close - open - 1).toLongLong(&ok);
+            // Whole seconds, as the text is read.
+            const qint64 seconds = ms / 1000;
             if (ok)
-                parsed = Date(double(ms / 1000));
+                parsed = Date(double(seconds));
         }
         break;
     }
-    case DateFormat::Kind::iso8601: {
+    case DateFormat::Kind::Iso8601: {
         const ISO8601Format iso = format.iso.value_or(iso8601FormatForDateString(text));
         parsed = parse(text, iso8601Pattern(iso), posixLocale(), zone);
         break;
     }
-    case DateFormat::Kind::rss:
-    case DateFormat::Kind::altRSS: {
+    case DateFormat::Kind::Rss:
+    case DateFormat::Kind::AltRss: {
         QString input = text.toString();
         if (input.endsWith(u'Z'))
             input = input.chopped(1) + QStringLiteral("GMT");
-        const char16_t* pattern = format.kind == DateFormat::Kind::rss ? RSSFormat : AltRSSFormat;
+        const char16_t* pattern = format.kind == DateFormat::Kind::Rss ? RSSFormat : AltRSSFormat;
         parsed = parse(input, QString::fromUtf16(pattern), CalendarContext::locale(), zone);
         break;
     }
-    case DateFormat::Kind::custom:
+    case DateFormat::Kind::Custom:
         parsed = parse(text, format.pattern, localeFor(format), zone);
         break;
     }
@@ -585,7 +587,7 @@ QString Date::veryShortMonthToString() const
 
 QString Date::toString() const
 {
-    return toString(DateStyle::shortStyle, DateStyle::shortStyle);
+    return toString(DateStyle::Short, DateStyle::Short);
 }
 
 QString Date::toString(DateStyle dateStyle, DateStyle timeStyle, const Clock* relativeTo) const
@@ -596,7 +598,7 @@ QString Date::toString(DateStyle dateStyle, DateStyle timeStyle, const Clock* re
 QString Date::toString(const DateFormat& fmt, TimeZone zone) const
 {
     switch (fmt.kind) {
-    case DateFormat::Kind::dotNet: {
+    case DateFormat::Kind::DotNet: {
         UErrorCode status = U_ZERO_ERROR;
         int32_t raw = 0;
         int32_t dst = 0;
@@ -604,14 +606,14 @@ QString Date::toString(const DateFormat& fmt, TimeZone zone) const
         const int hours = (raw + dst) / 1000 / hourInSeconds;
         return QString::asprintf("/Date(%.0f%+03d)/", m_seconds * 1000.0, hours);
     }
-    case DateFormat::Kind::iso8601:
+    case DateFormat::Kind::Iso8601:
         return format(*this, iso8601Pattern(fmt.iso.value_or(ISO8601Format::DateTimeMilliSec)),
                       posixLocale(), zone);
-    case DateFormat::Kind::rss:
+    case DateFormat::Kind::Rss:
         return format(*this, QString::fromUtf16(RSSFormat), CalendarContext::locale(), zone);
-    case DateFormat::Kind::altRSS:
+    case DateFormat::Kind::AltRss:
         return format(*this, QString::fromUtf16(AltRSSFormat), CalendarContext::locale(), zone);
-    case DateFormat::Kind::custom:
+    case DateFormat::Kind::Custom:
         return format(*this, fmt.pattern, localeFor(fmt), zone);
     }
     return {};

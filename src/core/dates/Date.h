@@ -32,7 +32,7 @@ public:
 
     // Reads a text in the given format; an empty text or one that doesn't parse yields now.
     static Date fromString(QStringView text, const DateFormat& format, const Clock& clock,
-                           TimeZone zone = TimeZone::local);
+                           TimeZone zone = TimeZone::Local);
     // The moment of a wall-clock time in the current calendar and zone; month counts from 1.
     static Date dateFromComponents(int year, int month, int day, int hour = 0, int minute = 0,
                                    int second = 0);
@@ -133,7 +133,7 @@ public:
     // The styled form. With a clock, dates near today read as words ("Today", "Tomorrow").
     QString toString(DateStyle dateStyle, DateStyle timeStyle,
                      const Clock* relativeTo = nullptr) const;
-    QString toString(const DateFormat& format, TimeZone zone = TimeZone::local) const;
+    QString toString(const DateFormat& format, TimeZone zone = TimeZone::Local) const;
     // "just now", "5 minutes ago", "in 2 hours", ... and the short date beyond a week.
     QString relativeTimeToString(const Clock& clock) const;
 

@@ -15,10 +15,10 @@ QString iso8601Pattern(ISO8601Format format);
 ISO8601Format iso8601FormatForDateString(QStringView dateString);
 
 // The toolkit's own zone choice: the local zone, or a zone of 0 seconds from GMT.
-enum class TimeZone { local, utc };
+enum class TimeZone { Local, Utc };
 
 // Date and time styles of the styled texts, as the locale words them.
-enum class DateStyle { none, shortStyle, mediumStyle, longStyle, fullStyle };
+enum class DateStyle { None, Short, Medium, Long, Full };
 
 inline constexpr char16_t DefaultFormat[] = u"EEE MMM dd HH:mm:ss Z yyyy";
 inline constexpr char16_t RSSFormat[] = u"EEE, d MMM yyyy HH:mm:ss ZZZ";
@@ -26,9 +26,9 @@ inline constexpr char16_t AltRSSFormat[] = u"d MMM yyyy HH:mm:ss ZZZ";
 
 // How a date is written or read: a pattern of our own, an ISO form, or a web format.
 struct DateFormat {
-    enum class Kind { iso8601, custom, dotNet, rss, altRSS };
+    enum class Kind { Iso8601, Custom, DotNet, Rss, AltRss };
 
-    Kind kind = Kind::iso8601;
+    Kind kind = Kind::Iso8601;
     std::optional<ISO8601Format> iso;
     QString pattern;
     // For custom patterns: a fixed locale such as "en_US"; empty means the user's locale.
@@ -36,15 +36,15 @@ struct DateFormat {
 
     static DateFormat iso8601(std::optional<ISO8601Format> format = std::nullopt)
     {
-        return {Kind::iso8601, format, {}, {}};
+        return {Kind::Iso8601, format, {}, {}};
     }
     static DateFormat custom(QString pattern, QString locale = {})
     {
-        return {Kind::custom, std::nullopt, std::move(pattern), std::move(locale)};
+        return {Kind::Custom, std::nullopt, std::move(pattern), std::move(locale)};
     }
-    static DateFormat dotNet() { return {Kind::dotNet, std::nullopt, {}, {}}; }
-    static DateFormat rss() { return {Kind::rss, std::nullopt, {}, {}}; }
-    static DateFormat altRSS() { return {Kind::altRSS, std::nullopt, {}, {}}; }
+    static DateFormat dotNet() { return {Kind::DotNet, std::nullopt, {}, {}}; }
+    static DateFormat rss() { return {Kind::Rss, std::nullopt, {}, {}}; }
+    static DateFormat altRSS() { return {Kind::AltRss, std::nullopt, {}, {}}; }
 };
 
 } // namespace lullet

@@ -23,15 +23,15 @@ namespace {
 icu::DateFormat::EStyle icuStyle(DateStyle style)
 {
     switch (style) {
-    case DateStyle::none:
+    case DateStyle::None:
         return icu::DateFormat::kNone;
-    case DateStyle::shortStyle:
+    case DateStyle::Short:
         return icu::DateFormat::kShort;
-    case DateStyle::mediumStyle:
+    case DateStyle::Medium:
         return icu::DateFormat::kMedium;
-    case DateStyle::longStyle:
+    case DateStyle::Long:
         return icu::DateFormat::kLong;
-    case DateStyle::fullStyle:
+    case DateStyle::Full:
         return icu::DateFormat::kFull;
     }
     return icu::DateFormat::kNone;
@@ -115,7 +115,7 @@ QString StyledDateFormat::relativeDayWord(int dayOffset)
     if (dayOffset < -2 || dayOffset > 2)
         return {};
     ThreadFormats& formats = threadFormats();
-    std::optional<QString>& cached = formats.dayWords[std::size_t(dayOffset + 2)];
+    std::optional<QString>& cached = formats.dayWords[std::size_t(dayOffset) + 2];
     if (cached)
         return *cached;
     cached = QString();
@@ -139,7 +139,7 @@ QString StyledDateFormat::format(Date date, DateStyle dateStyle, DateStyle timeS
                                  const Clock* relativeTo)
 {
     ThreadFormats& formats = threadFormats();
-    if (dateStyle == DateStyle::none && timeStyle == DateStyle::shortStyle) {
+    if (dateStyle == DateStyle::None && timeStyle == DateStyle::Short) {
         // The short time shows only the hour and minute: lists ask for it on every row, so each
         // minute of the day is formatted once.
         const int minuteOfDay = date.hour() * 60 + date.minute();
@@ -148,21 +148,20 @@ QString StyledDateFormat::format(Date date, DateStyle dateStyle, DateStyle timeS
             cached = formatWith(formats.format(dateStyle, timeStyle), date);
         return cached;
     }
-    if (!relativeTo || dateStyle == DateStyle::none)
+    if (!relativeTo || dateStyle == DateStyle::None)
         return formatWith(formats.format(dateStyle, timeStyle), date);
 
     const Date today = relativeTo->now().dateAtStartOfDay();
     const Date day = date.dateAtStartOfDay();
     // Calendar days apart, rounded because a day across a daylight-saving change is not 24 h.
     const double apart = (day.timeIntervalSince1970() - today.timeIntervalSince1970()) / 86400.0;
-    const QString word =
-        std::fabs(apart) <= 2.5 ? relativeDayWord(int(std::lround(apart))) : QString();
+    QString word = std::fabs(apart) <= 2.5 ? relativeDayWord(int(std::lround(apart))) : QString();
     if (word.isEmpty())
         return formatWith(formats.format(dateStyle, timeStyle), date);
-    if (timeStyle == DateStyle::none)
+    if (timeStyle == DateStyle::None)
         return word;
 
-    const QString time = formatWith(formats.format(DateStyle::none, timeStyle), date);
+    const QString time = formatWith(formats.format(DateStyle::None, timeStyle), date);
     // The locale's pattern that joins a date and a time, such as "{1}, {0}" or "{1} 'at' {0}".
     QString glued = fromIcu(formats.dateTimeGlue);
     glued.remove(u'\'');

@@ -45,7 +45,7 @@ std::vector<BackupInfo> BackupInfo::unarchive(const QByteArray& data)
     const QJsonDocument doc = QJsonDocument::fromJson(data);
     if (!doc.isArray())
         return list;
-    for (const QJsonValue& value : doc.array()) {
+    for (const auto& value : doc.array()) {
         if (value.isObject())
             list.push_back(fromJson(value.toObject()));
     }

@@ -57,7 +57,7 @@ std::vector<ScheduleInfo> ScheduleInfo::unarchive(const QByteArray& data)
     const QJsonDocument doc = QJsonDocument::fromJson(data);
     if (!doc.isArray())
         return list;
-    for (const QJsonValue& value : doc.array()) {
+    for (const auto& value : doc.array()) {
         if (auto info = fromJson(value.toObject()))
             list.push_back(*info);
     }

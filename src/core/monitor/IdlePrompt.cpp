@@ -13,7 +13,7 @@ namespace {
 
 QString shortTime(Date d)
 {
-    return d.toString(DateStyle::none, DateStyle::shortStyle);
+    return d.toString(DateStyle::None, DateStyle::Short);
 }
 
 } // namespace

@@ -25,7 +25,7 @@ QString ReminderPrompt::reminderText() const
     QString text = QStringLiteral("Time for : ") + m_due->title().value_or(QString()) +
                    QStringLiteral(", at :");
     if (const std::optional<Date> due = m_due->effectiveDate())
-        text += due->toString(DateStyle::none, DateStyle::shortStyle);
+        text += due->toString(DateStyle::None, DateStyle::Short);
     return text;
 }
 

@@ -41,7 +41,7 @@ QString QuickAddForm::timeLabel() const
 {
     if (!m_date)
         return QStringLiteral("date");
-    return QStringLiteral("at ") + m_date->toString(DateStyle::none, DateStyle::shortStyle);
+    return QStringLiteral("at ") + m_date->toString(DateStyle::None, DateStyle::Short);
 }
 
 Date QuickAddForm::chooserStart() const

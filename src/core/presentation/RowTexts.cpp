@@ -75,7 +75,7 @@ void RowTexts::setValues(ListRow& row, const Clock& clock, bool withProjectName)
                 row.dueOrOverdue = true;
             }
         }
-        const QString clockTime = due->toString(DateStyle::none, DateStyle::shortStyle);
+        const QString clockTime = due->toString(DateStyle::None, DateStyle::Short);
         row.time = prefix.isEmpty() ? clockTime : prefix + QStringLiteral(" at ") + clockTime;
     }
 

@@ -47,7 +47,7 @@ QString ScheduleTexts::intervalText(int repeatType, int count)
 
 QString ScheduleTexts::dateText(Date d) const
 {
-    const QString t = d.toString(DateStyle::mediumStyle, DateStyle::none, &m_clock);
+    QString t = d.toString(DateStyle::Medium, DateStyle::None, &m_clock);
     if (!isFullDate(t))
         return t;
     return QStringLiteral("On ") + LocalizedText::capitalizeFirst(d.shortWeekdayToString()) + u' ' +
@@ -58,7 +58,7 @@ QString ScheduleTexts::dateText(Date d) const
 
 QString ScheduleTexts::timeText(Date d) const
 {
-    return d.toString(DateStyle::none, DateStyle::shortStyle, &m_clock);
+    return d.toString(DateStyle::None, DateStyle::Short, &m_clock);
 }
 
 QString ScheduleTexts::compose(bool isToDo, Date next, int repeatType, int count) const
@@ -111,14 +111,14 @@ QString ScheduleTexts::itemText(const Item& item) const
     if (const std::optional<Date> due = item.dtReminder()) {
         if (!text.isEmpty())
             text += QStringLiteral(", ");
-        const QString relative = due->toString(DateStyle::mediumStyle, DateStyle::none, &m_clock);
+        const QString relative = due->toString(DateStyle::Medium, DateStyle::None, &m_clock);
         if (relative.split(u' ').size() == 1)
             text += relative;
         else
             text += QStringLiteral(", On ") +
                     QStringLiteral("%1").arg(due->day(), 2, 10, QLatin1Char('0')) + u' ' +
                     due->shortMonthToString() + u' ' + QString::number(due->year());
-        text += QStringLiteral(", at ") + due->toString(DateStyle::none, DateStyle::shortStyle);
+        text += QStringLiteral(", at ") + due->toString(DateStyle::None, DateStyle::Short);
     }
     const int hours = item.durationHr().value_or(0);
     const int minutes = item.durationMin().value_or(0);

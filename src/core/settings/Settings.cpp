@@ -25,7 +25,7 @@ bool Settings::contains(QLatin1String key) const
 
 QVariant Settings::value(QLatin1String key) const
 {
-    const QVariant stored = m_file.value(key);
+    QVariant stored = m_file.value(key);
     if (stored.isValid())
         return stored;
     for (const SettingsKeys::Default& d : SettingsKeys::registeredDefaults()) {

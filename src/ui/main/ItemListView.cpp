@@ -48,7 +48,8 @@ QLabel* countLabel(QWidget* parent)
 
 } // namespace
 
-ItemListView::ItemListView(const Services& services, ListBuilder::Scope scope, bool withHeader,
+ItemListView::ItemListView(const Services& services, const ListBuilder::Scope& scope,
+                           bool withHeader,
                            QWidget* parent)
     : QWidget(parent)
     , m_services(services)

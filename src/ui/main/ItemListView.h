@@ -26,7 +26,7 @@ struct Services;
 class ItemListView final : public QWidget {
     Q_OBJECT
 public:
-    ItemListView(const Services& services, ListBuilder::Scope scope, bool withHeader,
+    ItemListView(const Services& services, const ListBuilder::Scope& scope, bool withHeader,
                  QWidget* parent = nullptr);
 
     ItemListModel& model() { return *m_model; }

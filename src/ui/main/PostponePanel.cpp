@@ -118,9 +118,9 @@ void PostponePanel::choose(int choice)
 
 void PostponePanel::postponeToChosenDate()
 {
-    const qint64 ms = m_dateTime->dateTime().toMSecsSinceEpoch();
     // Whole minutes: the chooser shows no seconds.
-    m_postponing.postponeTo(m_item, Date(double(ms / 60000 * 60)));
+    const qint64 minutes = m_dateTime->dateTime().toMSecsSinceEpoch() / 60000;
+    m_postponing.postponeTo(m_item, Date(double(minutes * 60)));
 }
 
 } // namespace lullet

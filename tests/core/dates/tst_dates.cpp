@@ -214,30 +214,30 @@ private Q_SLOTS:
         const Date now = at(2026, 11, 22, 12);
         FakeClock clock(now);
         const Date tenFifteen = at(2026, 11, 22, 10, 15);
-        const QString time = tenFifteen.toString(DateStyle::none, DateStyle::shortStyle);
+        const QString time = tenFifteen.toString(DateStyle::None, DateStyle::Short);
         QVERIFY2(time.startsWith(QStringLiteral("10:15")) && time.endsWith(QStringLiteral("AM")),
                  qPrintable(time));
-        QCOMPARE(tenFifteen.toString(DateStyle::mediumStyle, DateStyle::none, &clock),
+        QCOMPARE(tenFifteen.toString(DateStyle::Medium, DateStyle::None, &clock),
                  QStringLiteral("Today"));
-        QCOMPARE(at(2026, 11, 23).toString(DateStyle::mediumStyle, DateStyle::none, &clock),
+        QCOMPARE(at(2026, 11, 23).toString(DateStyle::Medium, DateStyle::None, &clock),
                  QStringLiteral("Tomorrow"));
-        QCOMPARE(at(2026, 11, 21, 23).toString(DateStyle::mediumStyle, DateStyle::none, &clock),
+        QCOMPARE(at(2026, 11, 21, 23).toString(DateStyle::Medium, DateStyle::None, &clock),
                  QStringLiteral("Yesterday"));
-        QCOMPARE(at(2026, 11, 25).toString(DateStyle::mediumStyle, DateStyle::none, &clock),
+        QCOMPARE(at(2026, 11, 25).toString(DateStyle::Medium, DateStyle::None, &clock),
                  QStringLiteral("Nov 25, 2026"));
         const QString both =
-            tenFifteen.toString(DateStyle::mediumStyle, DateStyle::shortStyle, &clock);
+            tenFifteen.toString(DateStyle::Medium, DateStyle::Short, &clock);
         QVERIFY2(both.startsWith(QStringLiteral("Today")) && both.contains(time), qPrintable(both));
         // Without a clock nothing is relative.
-        QCOMPARE(tenFifteen.toString(DateStyle::mediumStyle, DateStyle::none),
+        QCOMPARE(tenFifteen.toString(DateStyle::Medium, DateStyle::None),
                  QStringLiteral("Nov 22, 2026"));
 
         CalendarContext::setLocale(QStringLiteral("de_DE"));
-        QCOMPARE(tenFifteen.toString(DateStyle::mediumStyle, DateStyle::none, &clock),
+        QCOMPARE(tenFifteen.toString(DateStyle::Medium, DateStyle::None, &clock),
                  QStringLiteral("Heute"));
-        QCOMPARE(at(2026, 11, 24).toString(DateStyle::mediumStyle, DateStyle::none, &clock),
+        QCOMPARE(at(2026, 11, 24).toString(DateStyle::Medium, DateStyle::None, &clock),
                  QStringLiteral("Übermorgen"));
-        QCOMPARE(tenFifteen.toString(DateStyle::none, DateStyle::shortStyle),
+        QCOMPARE(tenFifteen.toString(DateStyle::None, DateStyle::Short),
                  QStringLiteral("10:15"));
     }
 
@@ -252,7 +252,7 @@ private Q_SLOTS:
                  now);
         QCOMPARE(Date::fromString(u"/Date(5000)/", DateFormat::dotNet(), clock), Date(5));
         QCOMPARE(Date::fromString(u"/Date(x)/", DateFormat::dotNet(), clock), now);
-        QCOMPARE(Date::fromString(u"2026-11-22", DateFormat::iso8601(), clock, TimeZone::utc),
+        QCOMPARE(Date::fromString(u"2026-11-22", DateFormat::iso8601(), clock, TimeZone::Utc),
                  Date(1795305600));
         QCOMPARE(Date::fromString(u"2026-11-22T10:15:30+01:00", DateFormat::iso8601(), clock),
                  Date(1795305600 + 9 * 3600 + 15 * 60 + 30));
@@ -269,12 +269,12 @@ private Q_SLOTS:
     void formatting()
     {
         const Date d(1795305600); // 2026-11-22 00:00:00 UTC
-        QCOMPARE(d.toString(DateFormat::iso8601(ISO8601Format::Date), TimeZone::utc),
+        QCOMPARE(d.toString(DateFormat::iso8601(ISO8601Format::Date), TimeZone::Utc),
                  QStringLiteral("2026-11-22"));
-        QCOMPARE(d.toString(DateFormat::iso8601(), TimeZone::utc),
+        QCOMPARE(d.toString(DateFormat::iso8601(), TimeZone::Utc),
                  QStringLiteral("2026-11-22T00:00:00.000+0000"));
         QCOMPARE(d.toString(DateFormat::dotNet()), QStringLiteral("/Date(1795305600000+01)/"));
-        QCOMPARE(d.toString(DateFormat::rss(), TimeZone::utc),
+        QCOMPARE(d.toString(DateFormat::rss(), TimeZone::Utc),
                  QStringLiteral("Sun, 22 Nov 2026 00:00:00 +0000"));
     }
 
@@ -337,14 +337,14 @@ private Q_SLOTS:
     void formattersAreSafeAcrossThreads()
     {
         const Date d(1795305600);
-        const QString expected = d.toString(DateFormat::iso8601(), TimeZone::utc);
+        const QString expected = d.toString(DateFormat::iso8601(), TimeZone::Utc);
         std::vector<std::thread> threads;
         std::atomic<int> mismatches{0};
         for (int t = 0; t < 4; ++t) {
             threads.emplace_back([&] {
                 FakeClock clock(Date(0));
                 for (int i = 0; i < 500; ++i) {
-                    if (d.toString(DateFormat::iso8601(), TimeZone::utc) != expected ||
+                    if (d.toString(DateFormat::iso8601(), TimeZone::Utc) != expected ||
                         Date::fromString(expected, DateFormat::iso8601(), clock) != d ||
                         d.dateByAddingDays(i).dateBySubtractingDays(i) != d)
                         ++mismatches;

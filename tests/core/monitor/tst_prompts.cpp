@@ -81,7 +81,7 @@ private Q_SLOTS:
         ReminderPrompt prompt = reminder(due, nullptr);
         QCOMPARE(prompt.reminderText(),
                  QStringLiteral("Time for : Walk, at :") +
-                     at(2026, 11, 21, 10, 15).toString(DateStyle::none, DateStyle::shortStyle));
+                     at(2026, 11, 21, 10, 15).toString(DateStyle::None, DateStyle::Short));
         QVERIFY(prompt.previousText().isEmpty());
         QCOMPARE(prompt.start(), PromptOutcome::Close);
         QCOMPARE(app().running().item(), due);

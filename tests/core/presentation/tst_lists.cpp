@@ -45,7 +45,7 @@ class TestLists : public QObject {
     }
 
     QString timeText(Item* r) { return RowTexts::makeRow(r, clock(), true).time; }
-    QString at(Date d) { return d.toString(DateStyle::none, DateStyle::shortStyle); }
+    QString at(Date d) { return d.toString(DateStyle::None, DateStyle::Short); }
 
 private Q_SLOTS:
     void initTestCase() { init(); }

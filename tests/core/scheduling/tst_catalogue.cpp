@@ -222,7 +222,7 @@ private Q_SLOTS:
         launch();
         const ScheduleTexts& notes = app().services().texts;
         const Date three = at(2026, 11, 23, 15, 0);
-        const QString threePm = three.toString(DateStyle::none, DateStyle::shortStyle);
+        const QString threePm = three.toString(DateStyle::None, DateStyle::Short);
         QVERIFY(notes.ruleText(nullptr).isEmpty());
 
         Rule toDo;
@@ -244,7 +244,7 @@ private Q_SLOTS:
         const QString water = notes.suggestionText(*row(QStringLiteral("Water time")));
         QCOMPARE(water,
                  QStringLiteral("Lullet : Today at ") +
-                     at(2026, 11, 23, 10, 0).toString(DateStyle::none, DateStyle::shortStyle) +
+                     at(2026, 11, 23, 10, 0).toString(DateStyle::None, DateStyle::Short) +
                      QStringLiteral(", repeats every hour"));
         QCOMPARE(ScheduleTexts::intervalText(RepeatUnit::Minute, 20), QStringLiteral("20 mins"));
         QCOMPARE(ScheduleTexts::intervalText(RepeatUnit::Year, 1), QStringLiteral("year"));

@@ -49,8 +49,7 @@ QLabel* countLabel(QWidget* parent)
 } // namespace
 
 ItemListView::ItemListView(const Services& services, const ListBuilder::Scope& scope,
-                           bool withHeader,
-                           QWidget* parent)
+                           bool withHeader, QWidget* parent)
     : QWidget(parent)
     , m_services(services)
     , m_withHeader(withHeader)

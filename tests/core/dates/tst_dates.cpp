@@ -225,8 +225,7 @@ private Q_SLOTS:
                  QStringLiteral("Yesterday"));
         QCOMPARE(at(2026, 11, 25).toString(DateStyle::Medium, DateStyle::None, &clock),
                  QStringLiteral("Nov 25, 2026"));
-        const QString both =
-            tenFifteen.toString(DateStyle::Medium, DateStyle::Short, &clock);
+        const QString both = tenFifteen.toString(DateStyle::Medium, DateStyle::Short, &clock);
         QVERIFY2(both.startsWith(QStringLiteral("Today")) && both.contains(time), qPrintable(both));
         // Without a clock nothing is relative.
         QCOMPARE(tenFifteen.toString(DateStyle::Medium, DateStyle::None),
@@ -237,8 +236,7 @@ private Q_SLOTS:
                  QStringLiteral("Heute"));
         QCOMPARE(at(2026, 11, 24).toString(DateStyle::Medium, DateStyle::None, &clock),
                  QStringLiteral("Übermorgen"));
-        QCOMPARE(tenFifteen.toString(DateStyle::None, DateStyle::Short),
-                 QStringLiteral("10:15"));
+        QCOMPARE(tenFifteen.toString(DateStyle::None, DateStyle::Short), QStringLiteral("10:15"));
     }
 
     void parsingFallsBackToNow()

@@ -242,10 +242,9 @@ private Q_SLOTS:
                                                threePm + QStringLiteral(", repeats every month"));
 
         const QString water = notes.suggestionText(*row(QStringLiteral("Water time")));
-        QCOMPARE(water,
-                 QStringLiteral("Lullet : Today at ") +
-                     at(2026, 11, 23, 10, 0).toString(DateStyle::None, DateStyle::Short) +
-                     QStringLiteral(", repeats every hour"));
+        QCOMPARE(water, QStringLiteral("Lullet : Today at ") +
+                            at(2026, 11, 23, 10, 0).toString(DateStyle::None, DateStyle::Short) +
+                            QStringLiteral(", repeats every hour"));
         QCOMPARE(ScheduleTexts::intervalText(RepeatUnit::Minute, 20), QStringLiteral("20 mins"));
         QCOMPARE(ScheduleTexts::intervalText(RepeatUnit::Year, 1), QStringLiteral("year"));
         QCOMPARE(ScheduleTexts::intervalText(7, 2), QString());

@@ -3,6 +3,7 @@
 #include "core/dates/Clock.h"
 #include "core/library/Library.h"
 #include "core/monitor/Monitor.h"
+#include "core/scheduling/WorkingSchedule.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
 #include "ui/desktop/ScreenSaverInhibitor.h"
@@ -17,6 +18,7 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <sys/stat.h>
 
 using namespace lullet;
 
@@ -36,6 +38,16 @@ int parseOptions(int argc, char* argv[], bool& quickAdd)
     return 0;
 }
 
+// A launch that can't go on says why: on the terminal, and in a panel where there is a screen.
+int endLaunch(const QString& why)
+{
+    std::fprintf(stderr, "Lullet: %s\n", qPrintable(why));
+    const QString platform = QGuiApplication::platformName();
+    if (platform != QLatin1String("offscreen") && platform != QLatin1String("minimal"))
+        Dialogs::inform(nullptr, why);
+    return 1;
+}
+
 // The windows of a run, once the core is open.
 void showWindows(const Services& services, Shell& shell, MainWindow& window)
 {
@@ -44,7 +56,13 @@ void showWindows(const Services& services, Shell& shell, MainWindow& window)
     shell.showTray();
     shell.prepareMainWindow(services.lock.isLocked());
     // The idle question meets the user right after the window appears.
-    shell.bringMainWindowForward([&services] {
+    shell.bringMainWindowForward([&services, &window] {
+        if (services.schedule.takeReplacedNotice())
+            Dialogs::inform(&window, QStringLiteral("Your working hours could not be read."),
+                            QStringLiteral("Lullet uses Monday to Friday, 9:00 to 18:00, until "
+                                           "you set them again. What could not be read is kept "
+                                           "under \"schedulesUnreadable\" in %1.")
+                                .arg(services.settings.filePath()));
         if (!services.running.item())
             services.monitor.askWhatNow();
     });
@@ -86,8 +104,10 @@ void connectQuitPaths(AppController& core, Shell& shell, MainWindow& window,
 
 int main(int argc, char* argv[])
 {
-    // First of all: a request to end that comes while the program starts takes the quit path.
+    // First of all: a request to end that comes while the program starts takes the quit path,
+    // and every file the program makes is the user's alone.
     TerminationSignals::install();
+    ::umask(077);
     bool quickAdd = false;
     if (const int status = parseOptions(argc, argv, quickAdd))
         return status;
@@ -101,21 +121,26 @@ int main(int argc, char* argv[])
     TerminationSignals termination;
 
     // One Lullet per user: a second launch hands its request to the first and ends.
-    SingleInstance instance(SingleInstance::defaultSocketPath());
-    const QString request = QString::fromLatin1(quickAdd ? SingleInstance::quickAddRequest
-                                                         : SingleInstance::showRequest);
-    if (instance.forward(request) || !instance.listen())
-        return 0;
+    SingleInstance instance(SingleInstance::defaultFolder());
+    switch (instance.claim()) {
+    case SingleInstance::Role::Failed:
+        return endLaunch(instance.errorMessage());
+    case SingleInstance::Role::Secondary:
+        if (instance.forward(QString::fromLatin1(quickAdd ? SingleInstance::quickAddRequest
+                                                          : SingleInstance::showRequest)))
+            return 0;
+        return endLaunch(QStringLiteral("Another Lullet is running but does not answer."));
+    case SingleInstance::Role::Primary:
+        break;
+    }
 
     SystemClock clock;
     Settings settings(Settings::defaultPath());
     ScreenSaverInhibitor inhibitor;
     AppController core(clock, settings, Store::defaultFolder(), inhibitor);
     const Store::Result opened = core.open();
-    if (opened.outcome != Store::Outcome::Opened) {
-        std::fprintf(stderr, "Lullet: %s\n", qPrintable(opened.message));
-        return 1;
-    }
+    if (opened.outcome != Store::Outcome::Opened)
+        return endLaunch(opened.message);
 
     MainWindow window;
     Shell shell(core.services(), window);

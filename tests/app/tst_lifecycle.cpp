@@ -3,10 +3,14 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <csignal>
+#include <memory>
+#include <vector>
 
 // The real program, started and stopped as the desktop would.
 class TestLifecycle : public QObject {
@@ -81,6 +85,81 @@ private Q_SLOTS:
         ::kill(pid_t(first.processId()), SIGTERM);
         QVERIFY(first.waitForFinished(10000));
         QCOMPARE(first.exitCode(), 0);
+    }
+
+    // Five launches at the same moment, again and again: exactly one stays.
+    void aBurstOfLaunchesLeavesOne()
+    {
+        QTemporaryDir home;
+        for (int burst = 0; burst < 6; ++burst) {
+            std::vector<std::unique_ptr<QProcess>> launches;
+            for (int i = 0; i < 5; ++i) {
+                launches.push_back(std::make_unique<QProcess>());
+                launches.back()->setProcessEnvironment(environmentFor(home.path()));
+                launches.back()->start(QStringLiteral(LULLET_BINARY), {});
+            }
+            const auto ended = [&launches] {
+                return std::count_if(launches.begin(), launches.end(), [](const auto& launch) {
+                    return launch->state() == QProcess::NotRunning;
+                });
+            };
+            QTRY_COMPARE_WITH_TIMEOUT(ended(), 4, 10000);
+            QTest::qWait(200);
+            QCOMPARE(ended(), 4);
+            QProcess* survivor = nullptr;
+            for (auto& launch : launches) {
+                if (launch->state() != QProcess::NotRunning)
+                    survivor = launch.get();
+                else
+                    QCOMPARE(launch->exitCode(), 0);
+            }
+            ::kill(pid_t(survivor->processId()), SIGTERM);
+            QVERIFY(survivor->waitForFinished(10000));
+            QCOMPARE(survivor->exitCode(), 0);
+        }
+    }
+
+    void theUsersFilesArePrivate()
+    {
+        QTemporaryDir home;
+        QProcessEnvironment env = environmentFor(home.path());
+        // Without a runtime folder, the socket goes to a private folder of its own.
+        env.remove(QStringLiteral("XDG_RUNTIME_DIR"));
+        QProcess lullet;
+        lullet.setProcessEnvironment(env);
+        lullet.start(QStringLiteral(LULLET_BINARY), {});
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath(home.path())), 10000);
+        QTest::qWait(300);
+        ::kill(pid_t(lullet.processId()), SIGTERM);
+        QVERIFY(lullet.waitForFinished(10000));
+        const auto owner = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+        const QString data = QFileInfo(storePath(home.path())).path();
+        QCOMPARE(QFileInfo(data).permissions() & 0x7077,
+                 QFileDevice::Permissions(owner | QFileDevice::ExeOwner));
+        QCOMPARE(QFileInfo(storePath(home.path())).permissions() & 0x7077,
+                 QFileDevice::Permissions(owner));
+        const QString settings =
+            QDir(home.path()).filePath(QStringLiteral(".config/Lullet/Lullet.conf"));
+        QCOMPARE(QFileInfo(settings).permissions() & 0x7077, QFileDevice::Permissions(owner));
+        const QString runtime = QDir(home.path()).filePath(QStringLiteral(".cache/lullet"));
+        QCOMPARE(QFileInfo(runtime).permissions() & 0x7077,
+                 QFileDevice::Permissions(owner | QFileDevice::ExeOwner));
+    }
+
+    void aWrongOptionNeedsNoDisplay()
+    {
+        QTemporaryDir home;
+        QProcessEnvironment env = environmentFor(home.path());
+        env.remove(QStringLiteral("DISPLAY"));
+        env.remove(QStringLiteral("WAYLAND_DISPLAY"));
+        env.remove(QStringLiteral("QT_QPA_PLATFORM"));
+        QProcess lullet;
+        lullet.setProcessEnvironment(env);
+        lullet.start(QStringLiteral(LULLET_BINARY), {QStringLiteral("--bogus")});
+        QVERIFY(lullet.waitForFinished(10000));
+        QCOMPARE(lullet.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(lullet.exitCode(), 2);
+        QVERIFY(lullet.readAllStandardError().contains("Usage: lullet"));
     }
 
     void aFileInPlaceOfTheDataFolderEndsAtOnce()

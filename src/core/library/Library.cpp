@@ -150,9 +150,14 @@ void Library::removeRule(Rule* rule)
 bool Library::save()
 {
     ObjectContext& ctx = context();
-    if (!ctx.hasChanges() || ctx.save())
+    if (!ctx.hasChanges() || ctx.save()) {
+        m_saveFailing = false;
         return true;
-    Q_EMIT saveFailed(ctx.errorMessage());
+    }
+    // Told once, not at every save that fails for the same reason.
+    if (!m_saveFailing)
+        Q_EMIT saveFailed(ctx.errorMessage());
+    m_saveFailing = true;
     return false;
 }
 

@@ -58,8 +58,8 @@ public:
     void addRule(Rule* rule);
     void removeRule(Rule* rule);
 
-    // Writes every change. A failure is announced by saveFailed(); the changes stay for the
-    // next save.
+    // Writes every change. The first of a run of failures is told by saveFailed(); the changes
+    // stay for the next save.
     bool save();
 
     // Tells the views that items changed; `item` is the one added or edited, if there is one.
@@ -108,6 +108,7 @@ private:
     std::vector<Project*> m_projects;
     std::vector<Rule*> m_rules;
     int m_batchDepth = 0;
+    bool m_saveFailing = false;
     bool m_batchChanged = false;
 };
 

@@ -9,6 +9,7 @@
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
 
+#include <cmath>
 #include <functional>
 
 namespace lullet {
@@ -74,6 +75,11 @@ void Monitor::minutePass()
     const Date now = m_services.clock.now();
     if (now.seconds() != 0)
         return;
+    // The timer may fire twice within second 0: the minute is passed once.
+    const qint64 minute = qint64(std::floor(now.timeIntervalSince1970() / 60));
+    if (minute == m_lastMinutePassed)
+        return;
+    m_lastMinutePassed = minute;
     m_services.catalogue.refreshActiveRows();
     later([this] { Q_EMIT minutePassed(); });
     if (raiseDueItems(now))

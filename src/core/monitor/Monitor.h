@@ -68,6 +68,7 @@ private:
     void later(std::function<void()> emitter);
 
     Services m_services;
+    qint64 m_lastMinutePassed = -1;
 };
 
 } // namespace lullet

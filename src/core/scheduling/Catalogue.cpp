@@ -10,6 +10,7 @@
 #include "core/scheduling/ScheduleTexts.h"
 #include "core/scheduling/WorkingHours.h"
 #include "core/scheduling/WorkingSchedule.h"
+#include "core/text/LocalizedText.h"
 #include "core/text/PatternMatcher.h"
 
 #include <QLocale>
@@ -301,10 +302,9 @@ void Catalogue::makeNextOccurrence(Item* occurrence, Date basedOnDate)
 {
     if (!occurrence || !occurrence->uniqueId() || occurrence->uniqueId()->isEmpty())
         return;
-    const PatternMatcher matcher(*occurrence->uniqueId());
     std::vector<Rule*> rules;
     for (Rule* rule : m_services.library.rules()) {
-        if (rule->uniqueId() && matcher.matches(*rule->uniqueId()))
+        if (rule->uniqueId() && LocalizedText::equalsCD(*rule->uniqueId(), *occurrence->uniqueId()))
             rules.push_back(rule);
     }
     if (rules.size() != 1)

@@ -4,7 +4,7 @@
 #include "core/model/RepeatCodes.h"
 #include "core/model/Rule.h"
 #include "core/scheduling/RepeatRules.h"
-#include "core/text/PatternMatcher.h"
+#include "core/text/LocalizedText.h"
 
 #include <algorithm>
 
@@ -42,7 +42,8 @@ Generator::Batch::Batch(Generator& generator)
     m_generator.m_openById.clear();
     for (Item* item : m_generator.m_library.items()) {
         if (isOpen(item))
-            m_generator.m_openById[*item->uniqueId()].push_back(item);
+            m_generator.m_openById[LocalizedText::foldCaseAndDiacritics(*item->uniqueId())]
+                .push_back(item);
     }
 }
 
@@ -54,37 +55,17 @@ Generator::Batch::~Batch()
 
 bool Generator::standsInTheWay(const QString& uniqueId, const std::optional<Window>& window) const
 {
-    const PatternMatcher matcher(uniqueId);
-    if (!matcher.isValid())
-        return false;
+    const QString key = LocalizedText::foldCaseAndDiacritics(uniqueId);
     const auto qualifies = [&](const Item* item) {
         return isOpen(item) && (!window || inWindow(item, window->from, window->to));
     };
     if (m_batchDepth > 0) {
-        // Nearly always the rule's own occurrence carries exactly its id: try that first.
-        if (const auto own = m_openById.constFind(uniqueId);
-            own != m_openById.cend() && std::any_of(own->begin(), own->end(), qualifies) &&
-            matcher.matches(own.key()))
-            return true;
-        for (auto it = m_openById.cbegin(); it != m_openById.cend(); ++it) {
-            if (std::any_of(it->begin(), it->end(), qualifies) && matcher.matches(it.key()))
-                return true;
-        }
-        return false;
+        const auto own = m_openById.constFind(key);
+        return own != m_openById.cend() && std::any_of(own->begin(), own->end(), qualifies);
     }
-    // Ids repeat across the list, so each distinct id is matched once.
-    QHash<QString, bool> verdicts;
-    for (const Item* item : m_library.items()) {
-        if (!qualifies(item))
-            continue;
-        const QString& id = *item->uniqueId();
-        auto verdict = verdicts.constFind(id);
-        if (verdict == verdicts.constEnd())
-            verdict = verdicts.insert(id, matcher.matches(id));
-        if (*verdict)
-            return true;
-    }
-    return false;
+    return std::any_of(m_library.items().begin(), m_library.items().end(), [&](const Item* item) {
+        return qualifies(item) && LocalizedText::foldCaseAndDiacritics(*item->uniqueId()) == key;
+    });
 }
 
 Item* Generator::newOccurrence(const Rule& rule, Date date)
@@ -132,7 +113,7 @@ Item* Generator::makeOccurrence(Rule* rule, std::optional<Date> date, Check chec
 
     Item* item = newOccurrence(*rule, *date);
     if (m_batchDepth > 0)
-        m_openById[*item->uniqueId()].push_back(item);
+        m_openById[LocalizedText::foldCaseAndDiacritics(*item->uniqueId())].push_back(item);
     m_library.save();
     m_library.addItem(item);
     m_library.announceItemChangedLater(item);
@@ -144,10 +125,9 @@ void Generator::removeOpenOccurrences(Rule* rule)
     if (!rule)
         return;
     if (rule->uniqueId()) {
-        const PatternMatcher matcher(*rule->uniqueId());
         const std::vector<Item*> all = m_library.items();
         for (Item* item : all) {
-            if (isOpen(item) && matcher.matches(*item->uniqueId()))
+            if (isOpen(item) && LocalizedText::equalsCD(*item->uniqueId(), *rule->uniqueId()))
                 m_library.deleteItem(item);
         }
     }

@@ -18,7 +18,8 @@ class Rule;
 
 // Turns rules into dated occurrences, lazily: a rule has one open occurrence, made for its next
 // date, and the next one is made only when that one ends. Occurrences are tied to their rule by
-// equal uniqueId text, compared as a regular expression ignoring case and diacritics.
+// equal uniqueId text, compared ignoring case and diacritics; the id is never read as a pattern,
+// so a title with pattern characters in it still finds its own occurrences.
 class Generator {
 public:
     Generator(const Clock& clock, Library& library);

@@ -3,6 +3,8 @@
 #include "core/dates/Clock.h"
 #include "core/settings/Settings.h"
 
+#include <utility>
+
 namespace lullet {
 
 WorkingSchedule::WorkingSchedule(Settings& settings, const Clock& clock)
@@ -30,9 +32,16 @@ void WorkingSchedule::ensureLoaded()
 {
     if (m_days.size() == 7)
         return;
-    if (m_settings.contains(SettingsKeys::schedules))
+    const bool stored = m_settings.contains(SettingsKeys::schedules);
+    if (stored)
         m_days = ScheduleInfo::unarchive(m_settings.data(SettingsKeys::schedules));
     if (m_days.size() != 7) {
+        // What the user had is kept, not overwritten: it may be mended by hand.
+        if (stored) {
+            m_settings.setValue(SettingsKeys::schedulesUnreadable,
+                                m_settings.value(SettingsKeys::schedules));
+            m_replaced = true;
+        }
         m_days = defaultWeek();
         save();
     }
@@ -53,6 +62,11 @@ std::vector<ScheduleInfo*> WorkingSchedule::entriesFor(int weekday)
             found.push_back(&info);
     }
     return found;
+}
+
+bool WorkingSchedule::takeReplacedNotice()
+{
+    return std::exchange(m_replaced, false);
 }
 
 void WorkingSchedule::save()

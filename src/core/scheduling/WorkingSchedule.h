@@ -28,10 +28,14 @@ public:
     // Seven entries: Monday to Friday at work from 09:00 to 18:00 of today.
     std::vector<ScheduleInfo> defaultWeek() const;
 
+    // True once, after a stored week that could not be read was kept aside and replaced.
+    bool takeReplacedNotice();
+
 private:
     Settings& m_settings;
     const Clock& m_clock;
     std::vector<ScheduleInfo> m_days;
+    bool m_replaced = false;
 };
 
 } // namespace lullet

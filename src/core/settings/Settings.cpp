@@ -16,6 +16,10 @@ QString Settings::defaultPath()
 Settings::Settings(const QString& filePath)
     : m_file(filePath, QSettings::IniFormat)
 {
+    // A password some earlier program left in the file goes at once.
+    const QVariantMap password = dictionary(SettingsKeys::passwordValues);
+    if (!password.value(SettingsKeys::password).toString().isEmpty())
+        setDictionary(SettingsKeys::passwordValues, password);
 }
 
 bool Settings::contains(QLatin1String key) const
@@ -68,6 +72,10 @@ QVariantMap Settings::dictionary(QLatin1String key) const
 
 void Settings::setValue(QLatin1String key, const QVariant& value)
 {
+    if (key == SettingsKeys::passwordValues) {
+        setDictionary(key, value.toMap());
+        return;
+    }
     m_file.setValue(key, value);
 }
 

@@ -18,6 +18,8 @@ inline constexpr QLatin1String backupOption{"backupOption"};
 inline constexpr QLatin1String disableAutoPrompt{"disableAutoPrompt"};
 inline constexpr QLatin1String passwordValues{"passwordValues"};
 inline constexpr QLatin1String schedules{"schedules"};
+// An unreadable "schedules" value, kept here before the default week takes its place.
+inline constexpr QLatin1String schedulesUnreadable{"schedulesUnreadable"};
 inline constexpr QLatin1String backupFiles2{"backupFiles2"};
 
 // Keys inside the "passwordValues" dictionary.

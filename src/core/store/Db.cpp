@@ -40,6 +40,12 @@ QString Db::errorMessage() const
     return QString::fromUtf8(sqlite3_errmsg(m_db.get()));
 }
 
+void Db::setBusyTimeout(int ms)
+{
+    if (m_db)
+        sqlite3_busy_timeout(m_db.get(), ms);
+}
+
 bool Db::exec(const char* sql)
 {
     return m_db && sqlite3_exec(m_db.get(), sql, nullptr, nullptr, nullptr) == SQLITE_OK;

@@ -22,6 +22,8 @@ public:
     int errorCode() const;
     QString errorMessage() const;
 
+    // How long a statement waits for another connection's lock before it fails as busy.
+    void setBusyTimeout(int ms);
     // Runs statements that return no rows; false on failure.
     bool exec(const char* sql);
     // The first column of the first row of a query, or an empty value.

@@ -1,12 +1,15 @@
 #include "core/store/Store.h"
 
 #include "core/dates/Clock.h"
+#include "core/settings/PrivateFiles.h"
 #include "core/store/StoreSchema.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QThread>
 
 #include <sqlite3.h>
 
@@ -14,13 +17,27 @@ namespace lullet {
 
 namespace {
 
-// Damage and foreign files are moved aside; anything else (permissions, a full disk) is a
-// condition the user can fix, so the files stay where they are.
-bool isUnreadable(int code)
+// Damage found by SQLite itself; a foreign or newer file is told apart by the schema check.
+bool isDamage(int code)
 {
     const int primary = code & 0xff;
     return primary == SQLITE_NOTADB || primary == SQLITE_CORRUPT;
 }
+
+// Another connection holds the file: worth waiting for.
+bool isBusy(int code)
+{
+    const int primary = code & 0xff;
+    return primary == SQLITE_BUSY || primary == SQLITE_LOCKED;
+}
+
+// SQLite's own words for a failure, or nothing when there was none.
+QString sqliteWords(const Db& db)
+{
+    return db.errorCode() == SQLITE_OK ? QString() : QStringLiteral(" (%1)").arg(db.errorMessage());
+}
+
+const char* const sideSuffixes[] = {"-wal", "-shm"};
 
 } // namespace
 
@@ -29,9 +46,10 @@ QString Store::defaultFolder()
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
 
-Store::Store(QString folder, const Clock& clock)
+Store::Store(QString folder, const Clock& clock, int patienceMs)
     : m_folder(std::move(folder))
     , m_clock(clock)
+    , m_patienceMs(patienceMs)
 {
 }
 
@@ -51,7 +69,7 @@ Store::Result Store::open()
                     .arg(m_folder),
                 {}};
     }
-    if (!info.exists() && !QDir().mkpath(m_folder)) {
+    if (!PrivateFiles::makeFolder(m_folder)) {
         return {Outcome::FolderNotCreated,
                 QStringLiteral("There was an error creating or loading the application's saved "
                                "data. The folder %1 could not be created.")
@@ -61,19 +79,18 @@ Store::Result Store::open()
     return openFile();
 }
 
+Store::Result Store::fail(Outcome outcome, const QString& what)
+{
+    m_context.reset();
+    const QString words = sqliteWords(m_db);
+    m_db = Db();
+    return {outcome, what.arg(storePath()) + words, {}};
+}
+
 // Nothing is written to the file until it is known to be ours or new: a foreign or damaged
-// file is moved aside exactly as it was found.
+// file is moved aside exactly as it was found, and a file that is only busy is left alone.
 Store::Result Store::openFile()
 {
-    const auto failed = [this](const QString& what) {
-        Result r{Outcome::OpenFailed,
-                 QStringLiteral("There was an error creating or loading the application's saved "
-                                "data. %1: %2")
-                     .arg(what, m_db.errorMessage()),
-                 {}};
-        return r;
-    };
-
     switch (inspect()) {
     case Inspection::Usable:
         break;
@@ -85,60 +102,104 @@ Store::Result Store::openFile()
         return moveAside(QStringLiteral("the store was written by a newer version of Lullet"));
     case Inspection::Damaged:
         return moveAside(QStringLiteral("the store is damaged"));
-    case Inspection::Unreachable:
-        return failed(QStringLiteral("Cannot open the store"));
+    case Inspection::Busy:
+        return fail(Outcome::InUse, QStringLiteral("The store %1 is in use by another program. "
+                                                   "Close it and start Lullet again."));
+    case Inspection::Unreadable:
+        return fail(Outcome::Unreadable, QStringLiteral("The store %1 cannot be read."));
+    case Inspection::ReadOnly:
+        return fail(Outcome::ReadOnly,
+                    QStringLiteral("The store %1 is read-only. Lullet saves every change as it "
+                                   "happens: make the file writable and start Lullet again."));
     }
 
     m_db = Db(storePath());
     if (!m_db.isOpen())
-        return failed(QStringLiteral("Cannot open the store"));
+        return fail(Outcome::Unreadable, QStringLiteral("The store %1 cannot be opened."));
+    for (const QString& file : {storePath(), storePath() + QLatin1String(sideSuffixes[0]),
+                                storePath() + QLatin1String(sideSuffixes[1])})
+        PrivateFiles::keepFile(file);
     if (!m_db.queryText("PRAGMA journal_mode = WAL"))
-        return failed(QStringLiteral("Cannot read the store"));
-    if (!StoreSchema::migrate(m_db) || !StoreSchema::hasTables(m_db)) {
-        if (isUnreadable(m_db.errorCode()))
+        return fail(isBusy(m_db.errorCode()) ? Outcome::InUse : Outcome::Unreadable,
+                    QStringLiteral("The store %1 cannot be read."));
+    if (!StoreSchema::migrate(m_db)) {
+        if (isDamage(m_db.errorCode()))
             return moveAside(m_db.errorMessage());
-        return failed(QStringLiteral("Cannot bring the store up to date"));
+        return fail(Outcome::OpenFailed, QStringLiteral("The store %1 cannot be brought up to "
+                                                        "date."));
     }
+    if (!StoreSchema::hasTables(m_db))
+        return fail(Outcome::MissingTables,
+                    QStringLiteral("The store %1 lacks Lullet's tables. Move that file aside "
+                                   "(rename it), and Lullet will start afresh with an empty "
+                                   "store."));
     // Changes are safe once written to the log; the log is made durable at checkpoints.
     m_db.exec("PRAGMA synchronous = NORMAL");
     m_db.exec("PRAGMA foreign_keys = ON");
 
     auto context = std::make_unique<ObjectContext>(m_db);
     if (!context->load()) {
-        if (isUnreadable(context->errorCode()))
+        if (isDamage(context->errorCode()))
             return moveAside(context->errorMessage());
-        return failed(QStringLiteral("Cannot load the store"));
+        return fail(Outcome::Unreadable, QStringLiteral("The store %1 cannot be loaded."));
     }
     m_context = std::move(context);
+    for (const char* suffix : sideSuffixes)
+        PrivateFiles::keepFile(storePath() + QLatin1String(suffix));
     return {Outcome::Opened, {}, {}};
 }
 
+// A busy file is looked at again for a while: another program may be copying or checking it.
 Store::Inspection Store::inspect() const
+{
+    QElapsedTimer waited;
+    waited.start();
+    Inspection found = inspectOnce();
+    while (found == Inspection::Busy && waited.elapsed() < m_patienceMs) {
+        QThread::msleep(100);
+        found = inspectOnce();
+    }
+    return found;
+}
+
+Store::Inspection Store::inspectOnce() const
 {
     QFile file(storePath());
     if (!file.exists() || file.size() == 0)
         return Inspection::Usable;
     if (!file.open(QIODevice::ReadOnly))
-        return Inspection::Unreachable;
+        return Inspection::Unreadable;
     const QByteArray header = file.read(100);
     if (header.size() < 100 || !header.startsWith(QByteArrayView("SQLite format 3\0", 16)))
         return Inspection::NotADatabase;
     file.close();
+    // Marked read-only by its owner (asked of the mode, so that it holds for every user).
+    if (!(QFileInfo(storePath()).permissions() & QFileDevice::WriteOwner))
+        return Inspection::ReadOnly;
 
     // A read-only look, which cannot change the file whatever it holds.
     Db db(storePath(), true);
+    // Waiting is done here, between looks, so that a busy file is told as such.
+    db.setBusyTimeout(50);
     if (!db.isOpen())
-        return isUnreadable(db.errorCode()) ? Inspection::Damaged : Inspection::Unreachable;
+        return isBusy(db.errorCode()) ? Inspection::Busy : Inspection::Unreadable;
     switch (StoreSchema::check(db)) {
     case StoreSchema::Check::Fresh:
     case StoreSchema::Check::Ours:
         return Inspection::Usable;
+    case StoreSchema::Check::Foreign:
+        return Inspection::Foreign;
     case StoreSchema::Check::Newer:
         return Inspection::Newer;
-    case StoreSchema::Check::Foreign:
+    case StoreSchema::Check::Damaged:
+        return Inspection::Damaged;
+    case StoreSchema::Check::Unknown:
         break;
     }
-    return isUnreadable(db.errorCode()) ? Inspection::Damaged : Inspection::Foreign;
+    // The look could not be completed: only damage that SQLite found says anything.
+    if (isDamage(db.errorCode()))
+        return Inspection::Damaged;
+    return isBusy(db.errorCode()) ? Inspection::Busy : Inspection::Unreadable;
 }
 
 Store::Result Store::moveAside(const QString& why)
@@ -148,23 +209,24 @@ Store::Result Store::moveAside(const QString& why)
     const QString stamp = m_clock.now().toString(
         DateFormat::custom(QStringLiteral("yyyyMMdd-HHmmss"), QStringLiteral("en_US")));
     const QString aside = storePath() + QStringLiteral(".unreadable-") + stamp;
-    // The side files keep their suffixes, so that the moved store opens with its log.
-    bool moved = QFile::rename(storePath(), aside);
-    for (const char* suffix : {"-wal", "-shm"}) {
+    if (!QFile::rename(storePath(), aside)) {
+        return {Outcome::OpenFailed,
+                QStringLiteral("The store %1 could not be used (%2), and could not be moved "
+                               "aside either.")
+                    .arg(storePath(), why),
+                {}};
+    }
+    // The side files go with it, keeping their suffixes, so the moved store opens with its log.
+    for (const char* suffix : sideSuffixes) {
         const QString side = storePath() + QLatin1String(suffix);
         if (QFile::exists(side))
-            moved = QFile::rename(side, aside + QLatin1String(suffix)) && moved;
+            QFile::rename(side, aside + QLatin1String(suffix));
     }
-    Result r;
-    r.outcome = moved ? Outcome::MovedAside : Outcome::OpenFailed;
-    r.movedTo = moved ? aside : QString();
-    r.message = moved ? QStringLiteral("The store could not be used (%1). It was moved to %2; "
-                                       "Lullet will start with an empty store next time.")
-                            .arg(why, aside)
-                      : QStringLiteral("The store could not be used (%1) and could not be moved "
-                                       "aside.")
-                            .arg(why);
-    return r;
+    return {Outcome::MovedAside,
+            QStringLiteral("The store could not be used (%1). It was moved to %2; Lullet will "
+                           "start with an empty store next time.")
+                .arg(why, aside),
+            aside};
 }
 
 } // namespace lullet

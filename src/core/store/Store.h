@@ -9,9 +9,9 @@
 
 namespace lullet {
 
-// The store file, its connection and the one object context, built on first use.
 class Clock;
 
+// The store file, its connection and the one object context.
 class Store {
 public:
     enum class Outcome {
@@ -19,17 +19,24 @@ public:
         // A file stands where the folder should be.
         FolderIsFile,
         FolderNotCreated,
-        // The file is no store of ours, or is damaged: it was moved aside, never deleted, so the
-        // next launch starts empty and the user's file is still there.
+        // The file is positively no store of ours, or is damaged: it was moved aside, never
+        // deleted, so the next launch starts empty and the user's file is still there.
         MovedAside,
-        // Could not be opened for another reason (permissions, disk): files left as they are.
+        // Another program holds the file, or it can't be read now: nothing was moved.
+        InUse,
+        Unreadable,
+        // The file can't be written; Lullet won't run on a store it can't save to.
+        ReadOnly,
+        // Ours, but it lacks its tables: the message says which file to move aside.
+        MissingTables,
+        // Could not be opened for another reason (a full disk): files left as they are.
         OpenFailed,
     };
 
     struct Result {
         Outcome outcome = Outcome::OpenFailed;
         QString message;
-        // Where an unreadable store was moved to.
+        // Where an unusable store was moved to.
         QString movedTo;
     };
 
@@ -37,7 +44,8 @@ public:
     static QString defaultFolder();
     static constexpr const char* storeFileName = "Lullet.sqlite";
 
-    Store(QString folder, const Clock& clock);
+    // `patienceMs`: how long a busy file is waited for before the launch gives up.
+    Store(QString folder, const Clock& clock, int patienceMs = 3000);
     ~Store();
     Store(const Store&) = delete;
     Store& operator=(const Store&) = delete;
@@ -52,13 +60,25 @@ public:
     ObjectContext& context() { return *m_context; }
 
 private:
-    enum class Inspection { Usable, NotADatabase, Foreign, Newer, Damaged, Unreachable };
+    enum class Inspection {
+        Usable,
+        NotADatabase,
+        Foreign,
+        Newer,
+        Damaged,
+        Busy,
+        Unreadable,
+        ReadOnly
+    };
     Inspection inspect() const;
+    Inspection inspectOnce() const;
     Result openFile();
+    Result fail(Outcome outcome, const QString& what);
     Result moveAside(const QString& why);
 
     QString m_folder;
     const Clock& m_clock;
+    int m_patienceMs;
     Db m_db;
     std::unique_ptr<ObjectContext> m_context;
 };

@@ -87,11 +87,13 @@ StoreSchema::Check StoreSchema::check(Db& db)
     const auto version = db.queryInt("PRAGMA user_version");
     const auto objects = db.queryInt("SELECT count(*) FROM sqlite_schema");
     if (!appId || !version || !objects)
-        return Check::Foreign;
+        return Check::Unknown;
     if (*appId == 0 && *version == 0 && *objects == 0)
         return Check::Fresh;
     if (*appId != applicationId)
         return Check::Foreign;
+    if (*version < 0)
+        return Check::Damaged;
     if (*version > latestVersion())
         return Check::Newer;
     return Check::Ours;
@@ -105,6 +107,8 @@ bool StoreSchema::migrate(Db& db)
             return false;
     }
     int version = int(db.queryInt("PRAGMA user_version").value_or(0));
+    if (version < 0)
+        return false;
     for (; version < latestVersion(); ++version) {
         Transaction txn(db);
         const QByteArray bump = "PRAGMA user_version = " + QByteArray::number(version + 1);

@@ -69,6 +69,16 @@ QString LocalizedText::foldDiacritics(const QString& text)
     return fromIcu(nfc->normalize(stripped, status));
 }
 
+QString LocalizedText::foldCaseAndDiacritics(const QString& text)
+{
+    return foldDiacritics(text).toCaseFolded();
+}
+
+bool LocalizedText::equalsCD(const QString& a, const QString& b)
+{
+    return foldCaseAndDiacritics(a) == foldCaseAndDiacritics(b);
+}
+
 bool LocalizedText::matchesCD(const QString& text, const QString& pattern)
 {
     return PatternMatcher(pattern).matches(text);

@@ -18,8 +18,12 @@ public:
     // Removes accents and other combining marks: "Crème" becomes "Creme".
     static QString foldDiacritics(const QString& text);
 
+    // A key that is equal for texts that differ only in case and diacritics.
+    static QString foldCaseAndDiacritics(const QString& text);
+    static bool equalsCD(const QString& a, const QString& b);
+
     // The whole text matches the regular expression, ignoring case and diacritics on both sides.
-    // A pattern that is no valid expression matches nothing.
+    // A pattern that is no valid expression reads as literal text.
     static bool matchesCD(const QString& text, const QString& pattern);
 
     // The text contains the other, ignoring case and diacritics on both sides.

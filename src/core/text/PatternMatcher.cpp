@@ -9,6 +9,8 @@ namespace lullet {
 
 struct PatternMatcher::Compiled {
     std::unique_ptr<icu::RegexMatcher> matcher;
+    // The pattern as literal text, folded, when it is no valid expression.
+    QString literal;
 };
 
 PatternMatcher::PatternMatcher(const QString& pattern)
@@ -19,6 +21,8 @@ PatternMatcher::PatternMatcher(const QString& pattern)
         toIcu(LocalizedText::foldDiacritics(pattern)), UREGEX_CASE_INSENSITIVE, status);
     if (U_SUCCESS(status))
         m_compiled->matcher = std::move(matcher);
+    else
+        m_compiled->literal = LocalizedText::foldCaseAndDiacritics(pattern);
 }
 
 PatternMatcher::~PatternMatcher() = default;
@@ -31,7 +35,7 @@ bool PatternMatcher::isValid() const
 bool PatternMatcher::matches(const QString& text) const
 {
     if (!m_compiled->matcher)
-        return false;
+        return LocalizedText::foldCaseAndDiacritics(text) == m_compiled->literal;
     // The matcher keeps a reference to its input; the folded text must outlive the match.
     const icu::UnicodeString input = toIcu(LocalizedText::foldDiacritics(text));
     m_compiled->matcher->reset(input);

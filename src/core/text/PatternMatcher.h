@@ -7,7 +7,8 @@
 namespace lullet {
 
 // One pattern compiled once, for testing many texts against it. Case and diacritics are ignored
-// as in LocalizedText::matchesCD, whose meaning it shares.
+// as in LocalizedText::matchesCD, whose meaning it shares: a pattern that is no valid regular
+// expression ("Review (draft") reads as literal text.
 class PatternMatcher {
 public:
     explicit PatternMatcher(const QString& pattern);

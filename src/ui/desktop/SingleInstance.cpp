@@ -1,71 +1,196 @@
 #include "ui/desktop/SingleInstance.h"
 
 #include <QDir>
-#include <QLocalServer>
-#include <QLocalSocket>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSocketNotifier>
 #include <QStandardPaths>
+#include <QThread>
 
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace lullet {
 
 namespace {
-constexpr int answerMs = 1000;
+
+// How long a second launch waits for a first one that is still starting to listen.
+constexpr int startingMs = 5000;
+
+bool addressFor(const QString& path, sockaddr_un& address)
+{
+    const QByteArray encoded = QFile::encodeName(path);
+    address = {};
+    address.sun_family = AF_UNIX;
+    if (std::size_t(encoded.size()) >= sizeof(address.sun_path))
+        return false;
+    std::memcpy(address.sun_path, encoded.constData(), std::size_t(encoded.size()));
+    return true;
+}
+
 } // namespace
 
-SingleInstance::SingleInstance(QString socketPath, QObject* parent)
+SingleInstance::Client::~Client()
+{
+    notifier.reset();
+    if (fd >= 0)
+        ::close(fd);
+}
+
+QString SingleInstance::defaultFolder()
+{
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!runtime.isEmpty())
+        return runtime;
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation))
+        .filePath(QStringLiteral("lullet"));
+}
+
+SingleInstance::SingleInstance(QString folder, QObject* parent)
     : QObject(parent)
-    , m_path(std::move(socketPath))
+    , m_folder(std::move(folder))
 {
 }
 
-SingleInstance::~SingleInstance() = default;
-
-QString SingleInstance::defaultSocketPath()
+SingleInstance::~SingleInstance()
 {
-    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (!runtime.isEmpty())
-        return QDir(runtime).filePath(QStringLiteral("lullet.socket"));
-    return QDir::temp().filePath(QStringLiteral("lullet-%1.socket").arg(::getuid()));
+    m_clients.clear();
+    m_listening.reset();
+    if (m_serverFd >= 0)
+        ::close(m_serverFd);
+    if (m_lockFd >= 0)
+        ::close(m_lockFd);
+}
+
+QString SingleInstance::socketPath() const
+{
+    return QDir(m_folder).filePath(QStringLiteral("lullet.socket"));
+}
+
+// The folder is ours alone: made 0700 if missing, and refused if another user owns it or may
+// write to it, since whoever can write there could answer in our place.
+bool SingleInstance::usableFolder()
+{
+    const QByteArray path = QFile::encodeName(m_folder);
+    if (!QDir().mkpath(QFileInfo(m_folder).path()) ||
+        (::mkdir(path.constData(), 0700) != 0 && errno != EEXIST)) {
+        m_error = QStringLiteral("Cannot make the folder %1.").arg(m_folder);
+        return false;
+    }
+    struct stat info = {};
+    if (::lstat(path.constData(), &info) != 0 || !S_ISDIR(info.st_mode) ||
+        info.st_uid != ::getuid() || (info.st_mode & 0022) != 0) {
+        m_error = QStringLiteral("The folder %1 is not private to this user; Lullet will not use "
+                                 "it to talk to itself.")
+                      .arg(m_folder);
+        return false;
+    }
+    return true;
+}
+
+SingleInstance::Role SingleInstance::claim()
+{
+    if (!usableFolder())
+        return Role::Failed;
+    const QByteArray lockPath =
+        QFile::encodeName(QDir(m_folder).filePath(QStringLiteral("lullet.lock")));
+    m_lockFd = ::open(lockPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (m_lockFd < 0) {
+        m_error = QStringLiteral("Cannot open the lock file in %1.").arg(m_folder);
+        return Role::Failed;
+    }
+    if (::flock(m_lockFd, LOCK_EX | LOCK_NB) != 0) {
+        ::close(m_lockFd);
+        m_lockFd = -1;
+        return Role::Secondary;
+    }
+    if (!listen()) {
+        m_error = QStringLiteral("Cannot listen on %1.").arg(socketPath());
+        return Role::Failed;
+    }
+    return Role::Primary;
 }
 
 bool SingleInstance::forward(const QString& request) const
 {
-    QLocalSocket socket;
-    socket.connectToServer(m_path);
-    if (!socket.waitForConnected(answerMs))
+    sockaddr_un address;
+    if (!addressFor(socketPath(), address))
         return false;
-    socket.write(request.toUtf8() + '\n');
-    // Written at once, or after a wait: either way it is on its way.
-    const bool sent = socket.waitForBytesWritten(answerMs) || socket.bytesToWrite() == 0;
-    socket.disconnectFromServer();
-    return sent;
+    const QByteArray line = request.toUtf8() + '\n';
+    QElapsedTimer waited;
+    waited.start();
+    do {
+        const int fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        if (fd < 0)
+            return false;
+        const bool sent =
+            ::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0 &&
+            ::send(fd, line.constData(), std::size_t(line.size()), MSG_NOSIGNAL) == line.size();
+        ::close(fd);
+        if (sent)
+            return true;
+        QThread::msleep(50);
+    } while (waited.elapsed() < startingMs);
+    return false;
 }
 
+// The lock is ours, so whatever socket lies here was left by an instance that died.
 bool SingleInstance::listen()
 {
-    // Somebody answers: another instance runs. Nobody: whatever lies there was left by a crash.
-    // (Listening would not tell: it replaces an existing socket file.)
-    if (forward(QString()))
+    sockaddr_un address;
+    if (!addressFor(socketPath(), address))
         return false;
-    QLocalServer::removeServer(m_path);
-    m_server = new QLocalServer(this);
-    m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    if (!m_server->listen(m_path))
+    ::unlink(address.sun_path);
+    m_serverFd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    if (m_serverFd < 0 ||
+        ::bind(m_serverFd, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) != 0 ||
+        ::chmod(address.sun_path, 0600) != 0 || ::listen(m_serverFd, 8) != 0)
         return false;
-    connect(m_server, &QLocalServer::newConnection, this, [this] {
-        while (QLocalSocket* client = m_server->nextPendingConnection()) {
-            connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
-            connect(client, &QLocalSocket::readyRead, this, [this, client] {
-                while (client->canReadLine()) {
-                    const QString request = QString::fromUtf8(client->readLine()).trimmed();
-                    if (!request.isEmpty())
-                        Q_EMIT requestReceived(request);
-                }
-            });
-        }
-    });
+    m_listening = std::make_unique<QSocketNotifier>(m_serverFd, QSocketNotifier::Read);
+    connect(m_listening.get(), &QSocketNotifier::activated, this, &SingleInstance::accept);
     return true;
+}
+
+void SingleInstance::accept()
+{
+    for (;;) {
+        const int fd = ::accept4(m_serverFd, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
+        if (fd < 0)
+            return;
+        auto client = std::make_unique<Client>();
+        client->fd = fd;
+        client->notifier = std::make_unique<QSocketNotifier>(fd, QSocketNotifier::Read);
+        connect(client->notifier.get(), &QSocketNotifier::activated, this,
+                [this, fd] { read(fd); });
+        m_clients[fd] = std::move(client);
+    }
+}
+
+void SingleInstance::read(int fd)
+{
+    Client& client = *m_clients.at(fd);
+    char buffer[maxRequestBytes + 1];
+    const ssize_t got = ::recv(fd, buffer, sizeof(buffer), 0);
+    if (got < 0 && (errno == EAGAIN || errno == EINTR))
+        return;
+    if (got > 0)
+        client.pending.append(buffer, got);
+    for (qsizetype end = client.pending.indexOf('\n'); end >= 0;
+         end = client.pending.indexOf('\n')) {
+        const QString request = QString::fromUtf8(client.pending.left(end)).trimmed();
+        client.pending.remove(0, end + 1);
+        if (!request.isEmpty())
+            Q_EMIT requestReceived(request);
+    }
+    // The client is done, or sends what no request is: either way it goes.
+    if (got <= 0 || client.pending.size() > maxRequestBytes)
+        m_clients.erase(fd);
 }
 
 } // namespace lullet

@@ -1,39 +1,66 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 
-class QLocalServer;
+#include <map>
+#include <memory>
+
+class QSocketNotifier;
 
 namespace lullet {
 
-// One Lullet per user. The first instance listens on a local socket in the user's runtime
-// folder; a later launch hands its request ("show", or "quick-add" from a desktop shortcut) to it
-// and ends. A socket left behind by an instance that died is recognised and replaced.
+// One Lullet per user. The first instance claims a lock file in a private folder and listens on
+// a Unix socket beside it; a later launch finds the lock taken, hands its request ("show", or
+// "quick-add" from a desktop shortcut) to the first, and ends. The claim is atomic, so a burst of
+// launches leaves exactly one running, and a socket that a live instance owns is never removed.
 class SingleInstance final : public QObject {
     Q_OBJECT
 public:
     static constexpr char showRequest[] = "show";
     static constexpr char quickAddRequest[] = "quick-add";
+    // A request is a short line; a client that sends more is cut off.
+    static constexpr int maxRequestBytes = 256;
 
-    explicit SingleInstance(QString socketPath, QObject* parent = nullptr);
+    // XDG_RUNTIME_DIR, or, without one, a private "lullet" folder in the user's cache.
+    static QString defaultFolder();
+
+    explicit SingleInstance(QString folder, QObject* parent = nullptr);
     ~SingleInstance() override;
 
-    // "lullet.socket" in XDG_RUNTIME_DIR, or in the temporary folder, with the user id in the
-    // name, where there is none.
-    static QString defaultSocketPath();
-
-    // Hands the request to a running instance; false when none answers.
+    enum class Role { Primary, Secondary, Failed };
+    // Primary: this process is the one Lullet, and listens. Secondary: another one runs.
+    // Failed: the folder or the socket can't be used safely; errorMessage() says why.
+    Role claim();
+    // Hands the request to the running instance, waiting a moment for it to listen; false when
+    // none answers.
     bool forward(const QString& request) const;
-    // Becomes the running instance; false when another one already is.
-    bool listen();
+    QString errorMessage() const { return m_error; }
+    QString socketPath() const;
 
 Q_SIGNALS:
     void requestReceived(const QString& request);
 
 private:
-    QString m_path;
-    QLocalServer* m_server = nullptr;
+    struct Client {
+        int fd = -1;
+        QByteArray pending;
+        std::unique_ptr<QSocketNotifier> notifier;
+        ~Client();
+    };
+
+    bool usableFolder();
+    bool listen();
+    void accept();
+    void read(int fd);
+
+    QString m_folder;
+    QString m_error;
+    int m_lockFd = -1;
+    int m_serverFd = -1;
+    std::unique_ptr<QSocketNotifier> m_listening;
+    std::map<int, std::unique_ptr<Client>> m_clients;
 };
 
 } // namespace lullet

@@ -101,6 +101,8 @@ void Shell::prepareMainWindow(bool locked)
 
 void Shell::bringMainWindowForward(const std::function<void()>& whenShown)
 {
+    // A minimised window comes back as it was before, maximised or not.
+    m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
     m_window.raise();
     m_window.activateWindow();

@@ -108,6 +108,23 @@ private Q_SLOTS:
         const QVariantMap read = settings.dictionary(SettingsKeys::passwordValues);
         QCOMPARE(read.value(SettingsKeys::isPassword).toBool(), true);
         QCOMPARE(read.value(SettingsKeys::password).toString(), QString());
+        settings.setValue(
+            SettingsKeys::passwordValues,
+            QVariantMap{{QString(SettingsKeys::password), QStringLiteral("hunter3")}});
+        settings.sync();
+        QVERIFY(!fileText(settings.filePath()).contains("hunter3"));
+
+        // A password an earlier program wrote is gone as soon as the settings are read.
+        QFile file(QDir(dir()).filePath(QStringLiteral("old.conf")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[General]\npasswordValues=\"{\\\"isPassword\\\":true,"
+                   "\\\"password\\\":\\\"hunter4\\\"}\"\n");
+        file.close();
+        {
+            Settings old(file.fileName());
+            QVERIFY(old.passwordProtected());
+        }
+        QVERIFY(!fileText(file.fileName()).contains("hunter4"));
     }
 
     void aProtectedProgramStartsLockedAfterTheWelcome_data()
@@ -199,6 +216,7 @@ private Q_SLOTS:
 
         // A save elsewhere tells its failure and keeps the change.
         QSignalSpy failed(&app.library(), &Library::saveFailed);
+        QVERIFY(!app.library().save());
         QVERIFY(!app.library().save());
         QCOMPARE(failed.count(), 1);
         QVERIFY(failed.front().front().toString().contains(QStringLiteral("disk is full")));

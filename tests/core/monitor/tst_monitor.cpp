@@ -2,6 +2,7 @@
 #include "core/model/RepeatCodes.h"
 #include "core/monitor/Monitor.h"
 #include "core/scheduling/Catalogue.h"
+#include "core/scheduling/WorkingSchedule.h"
 #include "core/security/Lock.h"
 #include "support/DatePrinting.h"
 #include "support/Launched.h"
@@ -87,6 +88,16 @@ private Q_SLOTS:
         Q_UNUSED(second);
     }
 
+    void aMinuteIsPassedOnceHoweverOftenItTicks()
+    {
+        launch(at(2026, 11, 23, 10, 14, 59));
+        item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15));
+        runUntil(at(2026, 11, 23, 10, 15, 0));
+        app().monitor().tick();
+        QCoreApplication::processEvents();
+        QCOMPARE(host().kinds(), QStringList{QStringLiteral("reminder")});
+    }
+
     void theRunningItemIsAskedAboutWithTheDueOne()
     {
         launch(at(2026, 11, 23, 10, 0));
@@ -170,6 +181,18 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         const bool asks = gate == QStringLiteral("period") || gate == QStringLiteral("running");
         QCOMPARE(host().kinds(), asks ? QStringList{QStringLiteral("idle")} : QStringList());
+    }
+
+    void aChangedScheduleCountsAtOnce()
+    {
+        launch(at(2026, 11, 23, 19, 0));
+        app().running().setPromptPeriod(15);
+        runUntil(at(2026, 11, 23, 19, 40));
+        QVERIFY(host().prompts.empty());
+        // Monday's hours now run to 21:00; the monitor needs no relaunch to see it.
+        app().services().schedule.entriesFor(2).front()->endTime = at(2026, 11, 23, 21, 0);
+        runUntil(at(2026, 11, 23, 19, 41));
+        QCOMPARE(host().kinds(), QStringList{QStringLiteral("idle")});
     }
 
     void aRunThatCrossesMidnightSeesNoHours()

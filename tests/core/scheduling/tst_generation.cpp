@@ -135,17 +135,35 @@ private Q_SLOTS:
         QCOMPARE(openOf(app(), *r->uniqueId()).size(), std::size_t(blocks ? 1 : 2));
     }
 
-    void idsMatchAsPatternsIgnoringCaseAndAccents()
+    void idsMatchAsTextIgnoringCaseAndAccents()
     {
         Rule* r = rule(QStringLiteral("Cafe time"), RepeatUnit::Hour, 1, at(2026, 11, 23, 9));
         occurrence(QStringLiteral("CAFÉ TIME_1795000000.5"), at(2026, 11, 23, 9));
         generator().makeOccurrence(r, at(2026, 11, 23, 11), Generator::Check::AnyOpen);
         QCOMPARE(openOf(app(), *r->uniqueId()).size(), std::size_t(0));
-        // "." in the id is any character, as a pattern reads it.
+        // The id is text, not a pattern: "." is a dot and nothing else.
         occurrence(QStringLiteral("Tea_1795000000x5"), at(2026, 11, 23, 9));
         Rule* tea = rule(QStringLiteral("Tea"), RepeatUnit::Hour, 1, at(2026, 11, 23, 9));
         generator().makeOccurrence(tea, at(2026, 11, 23, 11), Generator::Check::AnyOpen);
-        QCOMPARE(openOf(app(), *tea->uniqueId()).size(), std::size_t(0));
+        QCOMPARE(openOf(app(), *tea->uniqueId()).size(), std::size_t(1));
+    }
+
+    // Titles with pattern characters: the rule finds its own occurrence, every minute, and
+    // switching it off removes it.
+    void aRuleAlwaysFindsItsOwnOccurrences()
+    {
+        for (const QString& title : {QStringLiteral("Stretch?"), QStringLiteral("Review (draft")}) {
+            Rule* r = rule(title, RepeatUnit::Hour, 1, at(2026, 11, 23, 9, 15));
+            catalogue().registerRule(r);
+            QCOMPARE(openOf(app(), *r->uniqueId()).size(), std::size_t(1));
+            for (int minute = 0; minute < 3; ++minute) {
+                m_app->clock.advance(60);
+                catalogue().refreshActiveRows();
+            }
+            QCOMPARE(openOf(app(), *r->uniqueId()).size(), std::size_t(1));
+            generator().removeOpenOccurrences(r);
+            QVERIFY(openOf(app(), *r->uniqueId()).empty());
+        }
     }
 
     void occurrencesCopyWhatTheirKindNeeds()

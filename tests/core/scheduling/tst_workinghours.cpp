@@ -77,6 +77,10 @@ private Q_SLOTS:
         QCOMPARE(schedule.days().size(), std::size_t(7));
         QCOMPARE(ScheduleInfo::unarchive(settings.data(SettingsKeys::schedules)).size(),
                  std::size_t(7));
+        // What could not be read is kept aside, and told once.
+        QCOMPARE(settings.data(SettingsKeys::schedulesUnreadable), archive);
+        QVERIFY(schedule.takeReplacedNotice());
+        QVERIFY(!schedule.takeReplacedNotice());
     }
 
     void hoursAreStrictAtBothEnds_data()

@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 using namespace lullet;
@@ -246,6 +247,10 @@ private Q_SLOTS:
             << QByteArray("PRAGMA application_id = 1282763884; PRAGMA user_version = 99;"
                           "CREATE TABLE Future (id INTEGER);")
             << QByteArray();
+        QTest::newRow("a version below zero")
+            << QByteArray("PRAGMA application_id = 1282763884; PRAGMA user_version = -3;"
+                          "CREATE TABLE Past (id INTEGER);")
+            << QByteArray();
     }
 
     void unusableFilesAreMovedAsideNeverDeleted()
@@ -279,6 +284,67 @@ private Q_SLOTS:
         QCOMPARE(next.open().outcome, Store::Outcome::Opened);
         QVERIFY(next.context().items().empty());
         QCOMPARE(asideFiles(folder()).size(), 1);
+    }
+
+    // Only a file that positively is not ours is moved; one that is busy, read-only or lacks
+    // its tables is left exactly as it is, and the message says why in words.
+    void aStoreThatIsOnlyInTheWayIsNeverMoved()
+    {
+        {
+            Store store(folder(), m_clock);
+            QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+            store.context().insertItem()->setTitle(QStringLiteral("Keep me"));
+            QVERIFY(store.context().save());
+        }
+        const QString path = QDir(folder()).filePath(QStringLiteral("Lullet.sqlite"));
+        {
+            // Another program holds the file to itself.
+            Db holder(path);
+            QVERIFY(holder.exec("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE;"));
+            Store store(folder(), m_clock, 300);
+            const auto result = store.open();
+            QCOMPARE(result.outcome, Store::Outcome::InUse);
+            QVERIFY2(result.message.contains(QStringLiteral("in use")), qPrintable(result.message));
+            QVERIFY(!result.message.contains(QStringLiteral("not an error")));
+            QVERIFY(asideFiles(folder()).isEmpty());
+        }
+        QFile::setPermissions(path, QFileDevice::ReadOwner);
+        {
+            Store store(folder(), m_clock);
+            const auto result = store.open();
+            QCOMPARE(result.outcome, Store::Outcome::ReadOnly);
+            QVERIFY(result.message.contains(path));
+        }
+        QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+        {
+            Db db(path);
+            QVERIFY(db.exec("DROP TABLE Project"));
+        }
+        {
+            Store store(folder(), m_clock);
+            const auto result = store.open();
+            QCOMPARE(result.outcome, Store::Outcome::MissingTables);
+            QVERIFY(result.message.contains(path));
+            QVERIFY(!result.message.contains(QStringLiteral("not an error")));
+        }
+        QVERIFY(asideFiles(folder()).isEmpty());
+        Db db(path, true);
+        QCOMPARE(db.queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 1);
+    }
+
+    void theFilesAreTheUsersAlone()
+    {
+        Store store(folder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        store.context().insertItem();
+        QVERIFY(store.context().save());
+        QCOMPARE(QFileInfo(folder()).permissions() & 0x7077,
+                 QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                          QFileDevice::ExeOwner));
+        for (const char* name : {"Lullet.sqlite", "Lullet.sqlite-wal", "Lullet.sqlite-shm"})
+            QCOMPARE(QFileInfo(QDir(folder()).filePath(QString::fromLatin1(name))).permissions() &
+                         0x7077,
+                     QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner));
     }
 
     void impossibleValuesOnDiskReadAsMissing()

@@ -7,11 +7,9 @@
 #include "support/TestMain.h"
 #include "ui/authoring/DateChooser.h"
 #include "ui/authoring/QuickAddView.h"
-#include "ui/desktop/SingleInstance.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -117,25 +115,6 @@ private Q_SLOTS:
         const Item* item = app().library().items().front();
         QCOMPARE(*item->dtReminder(), at(2026, 11, 23, 12, 25, 30));
         QCOMPARE(item->toProject(), home);
-    }
-
-    void oneInstanceTakesTheRequestsOfTheNext()
-    {
-        const QString path = m_dir->filePath(QStringLiteral("lullet.socket"));
-        // A file left where the socket belongs, as after a crash, is replaced.
-        QFile stale(path);
-        QVERIFY(stale.open(QIODevice::WriteOnly));
-        stale.close();
-        SingleInstance first(path);
-        QVERIFY(!first.forward(QStringLiteral("show")));
-        QVERIFY(first.listen());
-        QSignalSpy requests(&first, &SingleInstance::requestReceived);
-
-        SingleInstance second(path);
-        QVERIFY(second.forward(QStringLiteral("quick-add")));
-        QVERIFY(!second.listen());
-        QTRY_COMPARE(requests.count(), 1);
-        QCOMPARE(requests.at(0).at(0).toString(), QStringLiteral("quick-add"));
     }
 };
 

@@ -176,6 +176,23 @@ private Q_SLOTS:
         QTRY_VERIFY(!shownBalloon());
     }
 
+    void aDoubleClickRecordsOneItemInTheProjectChosenByPlace()
+    {
+        // A project may be named like the menu's first entry.
+        Project* today = app().library().newProject();
+        today->setName(QStringLiteral("Today"));
+        app().library().addProject(today);
+        IdlePromptView prompt(services(), at(2026, 11, 23, 10, 0), false, today);
+        prompt.show();
+        QCOMPARE(prompt.findChild<QComboBox*>(QStringLiteral("projects"))->currentIndex(), 1);
+        prompt.answerField()->setText(QStringLiteral("planning"));
+        auto* alreadyDone = prompt.findChild<QPushButton*>(QStringLiteral("alreadyDone"));
+        alreadyDone->click();
+        alreadyDone->click();
+        QCOMPARE(app().library().items().size(), std::size_t(1));
+        QCOMPARE(app().library().items().front()->toProject(), today);
+    }
+
     void aBalloonClosesByItself()
     {
         QLineEdit field;

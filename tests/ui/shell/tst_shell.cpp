@@ -59,6 +59,18 @@ private Q_SLOTS:
         QVERIFY(window.maximumWidth() >= 600);
     }
 
+    void aSecondLaunchBringsBackAMinimisedWindow()
+    {
+        QVERIFY(m_app->open());
+        MainWindow window;
+        Shell shell(m_app->services(), window);
+        window.showMinimized();
+        QVERIFY(window.isMinimized());
+        shell.bringMainWindowForward();
+        QVERIFY(!window.isMinimized());
+        QVERIFY(window.isVisible());
+    }
+
     void questionsCanBeAnsweredInAdvance()
     {
         Dialogs::forgetAsked();

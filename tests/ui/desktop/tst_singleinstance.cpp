@@ -1,0 +1,103 @@
+#include "support/TestMain.h"
+#include "ui/desktop/SingleInstance.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <cerrno>
+#include <cstring>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+using namespace lullet;
+
+// One instance per user: the claim, the hand-over of requests, and what a stranger can't do.
+class TestSingleInstance : public QObject {
+    Q_OBJECT
+    QTemporaryDir m_dir;
+
+    QString folder() const { return m_dir.filePath(QStringLiteral("run")); }
+
+private Q_SLOTS:
+    void init() { QDir(folder()).removeRecursively(); }
+
+    void oneInstanceTakesTheRequestsOfTheNext()
+    {
+        QVERIFY(QDir().mkpath(folder()));
+        QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                            QFileDevice::ExeOwner);
+        // A file left where the socket belongs, as after a crash, is replaced.
+        QFile stale(QDir(folder()).filePath(QStringLiteral("lullet.socket")));
+        QVERIFY(stale.open(QIODevice::WriteOnly));
+        stale.close();
+        SingleInstance first(folder());
+        QCOMPARE(first.claim(), SingleInstance::Role::Primary);
+        QSignalSpy requests(&first, &SingleInstance::requestReceived);
+
+        SingleInstance second(folder());
+        QCOMPARE(second.claim(), SingleInstance::Role::Secondary);
+        QVERIFY(second.forward(QStringLiteral("quick-add")));
+        QTRY_COMPARE(requests.count(), 1);
+        QCOMPARE(requests.at(0).at(0).toString(), QStringLiteral("quick-add"));
+        // The live instance's socket is still there for the next launch.
+        SingleInstance third(folder());
+        QCOMPARE(third.claim(), SingleInstance::Role::Secondary);
+        QVERIFY(third.forward(QStringLiteral("show")));
+        QTRY_COMPARE(requests.count(), 2);
+    }
+
+    void aClientThatNeverEndsItsLineIsCutOff()
+    {
+        SingleInstance first(folder());
+        QCOMPARE(first.claim(), SingleInstance::Role::Primary);
+        QSignalSpy requests(&first, &SingleInstance::requestReceived);
+        const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
+        sockaddr_un address = {};
+        address.sun_family = AF_UNIX;
+        const QByteArray path = QFile::encodeName(first.socketPath());
+        std::memcpy(address.sun_path, path.constData(), std::size_t(path.size()));
+        QCOMPARE(::connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
+        // Written until the other end closes: it stops reading long before 64 MiB.
+        const QByteArray chunk(4096, 'x');
+        qint64 written = 0;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            [&] {
+                const ssize_t n = ::send(fd, chunk.constData(), std::size_t(chunk.size()),
+                                         MSG_NOSIGNAL | MSG_DONTWAIT);
+                if (n > 0)
+                    written += n;
+                return n < 0 && errno == EPIPE;
+            }(),
+            5000);
+        ::close(fd);
+        QVERIFY(written < 4 * 1024 * 1024);
+        QCOMPARE(requests.count(), 0);
+    }
+
+    void aFolderOthersMayWriteIsRefused()
+    {
+        QVERIFY(QDir().mkpath(folder()));
+        QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                            QFileDevice::ExeOwner | QFileDevice::WriteOther |
+                                            QFileDevice::ReadOther | QFileDevice::ExeOther);
+        SingleInstance instance(folder());
+        QCOMPARE(instance.claim(), SingleInstance::Role::Failed);
+        QVERIFY(instance.errorMessage().contains(folder()));
+    }
+
+    void aMissingFolderIsMadePrivate()
+    {
+        SingleInstance instance(folder());
+        QCOMPARE(instance.claim(), SingleInstance::Role::Primary);
+        QCOMPARE(QFileInfo(folder()).permissions() & 0x7077,
+                 QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                          QFileDevice::ExeOwner));
+    }
+};
+
+LULLET_TEST_MAIN(TestSingleInstance)
+#include "tst_singleinstance.moc"

@@ -1,6 +1,9 @@
 #include "core/settings/Settings.h"
 
+#include "core/settings/PrivateFiles.h"
+
 #include <QDir>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStandardPaths>
@@ -16,6 +19,9 @@ QString Settings::defaultPath()
 Settings::Settings(const QString& filePath)
     : m_file(filePath, QSettings::IniFormat)
 {
+    // The user's settings are nobody else's, whatever an earlier version made them.
+    PrivateFiles::makeFolder(QFileInfo(filePath).path());
+    PrivateFiles::keepFile(filePath);
     // A password some earlier program left in the file goes at once.
     const QVariantMap password = dictionary(SettingsKeys::passwordValues);
     if (!password.value(SettingsKeys::password).toString().isEmpty())

@@ -1,33 +1,92 @@
 #!/usr/bin/env bash
-# Idle cost of the running program: CPU share and resident size after it has settled, measured
-# from /proc over a quiet period. Usage: bench/idle.sh [BUILD_DIR] [SECONDS] [STORE_FILE]
-# With STORE_FILE, that store is copied in first (for example one made by bench_store --keep).
+# The running program, measured as a user runs it: under Xvfb with a window manager and a tray,
+# over a store such as the one `bench_store --keep FILE` makes (50,000 items over two years).
+#
+#   bench/idle.sh [BUILD_DIR] [IDLE_SECONDS] [STORE_FILE]
+#
+# For the first launch of the day (the store as made, every rule's occurrence still to make), a
+# same-day relaunch (the store the first run left), a launch at login (--in-tray: no window), and
+# a bare Qt tray program as the floor, it reports: start to tray icon; how long the program stays
+# busy after its window shows (the time it does not answer); resident and proportional memory
+# after settling; CPU share and wakeups a second over the idle period.
 set -euo pipefail
 build=${1:-build}
 seconds=${2:-60}
 store=${3:-}
-home=$(mktemp -d)
-trap 'rm -rf "$home"' EXIT
-if [ -n "$store" ]; then
-    mkdir -p "$home/.local/share/Lullet"
-    cp "$store" "$home/.local/share/Lullet/Lullet.sqlite"
-fi
-export HOME=$home XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen}
-chmod 700 "$home"
-"$build/src/app/lullet" >/dev/null 2>&1 &
-pid=$!
-sleep 5
-ticks() { awk '{print $14 + $15}' "/proc/$pid/stat"; }
-# Every thread's voluntary switches: each is a wakeup after a sleep.
-switches() { cat /proc/$pid/task/*/status | awk '/^voluntary_ctxt_switches/ {n += $2} END {print n}'; }
-t0=$(ticks); w0=$(switches); s0=$(date +%s.%N)
-sleep "$seconds"
-t1=$(ticks); w1=$(switches); s1=$(date +%s.%N)
-rss=$(awk '/VmRSS/ {print $2}' "/proc/$pid/status")
-wakeups=$((w1 - w0))
-kill -TERM "$pid"; wait "$pid" || true
+for tool in Xvfb openbox trayer xdotool dbus-run-session; do
+    command -v "$tool" >/dev/null || { echo "missing $tool (apt-get install xvfb openbox trayer xdotool dbus)"; exit 2; }
+done
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+export BUILD=$build SECONDS_IDLE=$seconds STORE=$store WORK=$work
+exec dbus-run-session -- bash -c '
+set -u
+Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$WORK/display" 2>/dev/null & X=$!
+for i in $(seq 50); do [ -s "$WORK/display" ] && break; sleep 0.1; done
+export DISPLAY=:$(cat "$WORK/display")
+openbox >/dev/null 2>&1 & O=$!
+trayer --edge top --align right --widthtype request --height 28 --SetDockType true \
+       --SetPartialStrut true >/dev/null 2>&1 & T=$!
+sleep 1
 hz=$(getconf CLK_TCK)
-awk -v t="$((t1 - t0))" -v hz="$hz" -v a="$s0" -v b="$s1" -v rss="$rss" -v w="$wakeups" 'BEGIN {
-    printf "idle CPU: %.3f %% over %.0f s\n", 100 * t / hz / (b - a), b - a;
-    printf "resident size: %.1f MiB\n", rss / 1024;
-    printf "wakeups: %.2f a second\n", w / (b - a) }'
+now() { date +%s.%N; }
+ticks() { awk "{print \$14 + \$15}" "/proc/$1/stat"; }
+# The voluntary switches of each thread (each is a wakeup after a sleep), as "thread count" lines.
+switches() { for t in /proc/$1/task/*; do
+               echo "${t##*/} $(awk "/^voluntary_ctxt_switches/ {print \$2}" $t/status 2>/dev/null)"; done; }
+# Wakeups between two samples, over the threads alive at both: a pooled thread that ends
+# meanwhile takes its count with it.
+woken() { awk "NR == FNR {a[\$1] = \$2; next} (\$1 in a) {n += \$2 - a[\$1]} END {print n + 0}" "$1" "$2"; }
+# The first small window of the process: its tray icon.
+trayed() { for w in $(xdotool search --pid "$1" 2>/dev/null); do
+             g=$(xdotool getwindowgeometry "$w" 2>/dev/null | awk "/Geometry/ {print \$2}")
+             [ -n "$g" ] && [ "${g%x*}" -le 64 ] && return 0; done; return 1; }
+shown() { for w in $(xdotool search --onlyvisible --pid "$1" 2>/dev/null); do
+            g=$(xdotool getwindowgeometry "$w" 2>/dev/null | awk "/Geometry/ {print \$2}")
+            [ -n "$g" ] && [ "${g%x*}" -gt 200 ] && return 0; done; return 1; }
+
+measure() { # name, program and arguments
+    local name=$1; shift
+    local start; start=$(now)
+    "$@" >/dev/null 2>&1 & local pid=$!
+    local tray=""
+    for i in $(seq 1000); do trayed $pid && { tray=$(now); break; }; sleep 0.01; done
+    # Busy after the window shows: CPU time used until it has been quiet for half a second.
+    local busy=-
+    if shown $pid || { sleep 0.5; shown $pid; }; then
+        local shownAt; shownAt=$(now); local last; last=$(ticks $pid); local quietSince=$shownAt
+        for i in $(seq 300); do
+            sleep 0.1; local t; t=$(ticks $pid)
+            if [ "$t" -gt "$last" ]; then quietSince=$(now); fi
+            last=$t
+            awk -v a="$quietSince" -v b="$(now)" "BEGIN {exit !(b - a >= 0.5)}" && break
+        done
+        busy=$(awk -v a="$shownAt" -v b="$quietSince" "BEGIN {printf \"%.2f\", b - a}")
+    fi
+    sleep 3
+    local t0 s0 t1 s1 rss pss
+    t0=$(ticks $pid); switches $pid >"$WORK/w0"; s0=$(now)
+    sleep "$SECONDS_IDLE"
+    t1=$(ticks $pid); switches $pid >"$WORK/w1"; s1=$(now)
+    rss=$(awk "/VmRSS/ {print \$2}" /proc/$pid/status)
+    pss=$(awk "/^Pss:/ {print \$2}" /proc/$pid/smaps_rollup)
+    kill -TERM $pid; wait $pid 2>/dev/null
+    awk -v n="$name" -v st="$start" -v tr="${tray:-0}" -v busy="$busy" -v t="$((t1 - t0))" \
+        -v hz="$hz" -v a="$s0" -v b="$s1" -v rss="$rss" -v pss="$pss" -v w="$(woken "$WORK/w0" "$WORK/w1")" "BEGIN {
+        printf \"%-26s tray %5.2f s  busy %5s s  RSS %5.1f MiB  PSS %5.1f MiB  CPU %.3f %%  wakeups %.2f/s\n\",
+            n, (tr > 0 ? tr - st : -1), busy, rss / 1024, pss / 1024, 100 * t / hz / (b - a), w / (b - a) }"
+}
+
+home=$WORK/home; mkdir -p "$home/.local/share/Lullet" "$home/run"; chmod 700 "$home/run"
+export HOME=$home XDG_RUNTIME_DIR=$home/run
+printf "[General]\nisShowFirst=1\n" > /dev/null
+mkdir -p "$home/.config/Lullet"; printf "[General]\nisShowFirst=1\ndisableAutoPrompt=1\n" > "$home/.config/Lullet/Lullet.conf"
+fresh() { rm -f "$home/.local/share/Lullet/"Lullet.sqlite*; [ -n "$STORE" ] && cp "$STORE" "$home/.local/share/Lullet/Lullet.sqlite"; true; }
+
+measure "bare Qt tray program" "$BUILD/bench/bare_tray"
+fresh; measure "first launch of the day" "$BUILD/src/app/lullet"
+measure "same-day relaunch" "$BUILD/src/app/lullet"
+fresh; measure "launch at login (no window)" "$BUILD/src/app/lullet" --in-tray
+kill $T $O $X 2>/dev/null; wait 2>/dev/null
+'

@@ -14,9 +14,11 @@
 #include "ui/widgets/Dialogs.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <cstdio>
 #include <cstring>
+#include <malloc.h>
 #include <memory>
 #include <sys/stat.h>
 
@@ -24,16 +26,25 @@ using namespace lullet;
 
 namespace {
 
-// The one option: a desktop shortcut's request to add a task from anywhere. Read before any
-// window system is touched, so a wrong option is told even without a display.
-int parseOptions(int argc, char* argv[], bool& quickAdd)
+struct Options {
+    // A desktop shortcut's request to add a task from anywhere.
+    bool quickAdd = false;
+    // A launch at login: the program starts in the tray, its window made when first asked for.
+    bool inTray = false;
+};
+
+// Read before any window system is touched, so a wrong option is told even without a display.
+int parseOptions(int argc, char* argv[], Options& options)
 {
     for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--quick-add") != 0) {
-            std::fprintf(stderr, "Usage: lullet [--quick-add]\n");
+        if (std::strcmp(argv[i], "--quick-add") == 0) {
+            options.quickAdd = true;
+        } else if (std::strcmp(argv[i], "--in-tray") == 0) {
+            options.inTray = true;
+        } else {
+            std::fprintf(stderr, "Usage: lullet [--quick-add] [--in-tray]\n");
             return 2;
         }
-        quickAdd = true;
     }
     return 0;
 }
@@ -49,14 +60,13 @@ int endLaunch(const QString& why)
 }
 
 // The windows of a run, once the core is open.
-void showWindows(const Services& services, Shell& shell, MainWindow& window)
+void showWindows(const Services& services, Shell& shell, MainWindow& window, bool inTray)
 {
     QObject::connect(&services.library, &Library::saveFailed, &window,
                      [&window](const QString& message) { Dialogs::inform(&window, message); });
-    shell.showTray();
-    shell.prepareMainWindow(services.lock.isLocked());
-    // The idle question meets the user right after the window appears.
-    shell.bringMainWindowForward([&services, &window] {
+    shell.setLoaded();
+    // The idle question meets the user right after the window appears, or at once in the tray.
+    const auto greet = [&services, &window] {
         if (services.schedule.takeReplacedNotice())
             Dialogs::inform(&window, QStringLiteral("Your working hours could not be read."),
                             QStringLiteral("Lullet uses Monday to Friday, 9:00 to 18:00, until "
@@ -65,7 +75,28 @@ void showWindows(const Services& services, Shell& shell, MainWindow& window)
                                 .arg(services.settings.filePath()));
         if (!services.running.item())
             services.monitor.askWhatNow();
-    });
+    };
+    if (inTray) {
+        greet();
+        return;
+    }
+    shell.prepareMainWindow(services.lock.isLocked());
+    shell.bringMainWindowForward(greet);
+}
+
+// The store is read once the loop runs, so the tray icon is up first.
+void openCore(AppController& core, Shell& shell, MainWindow& window, bool inTray)
+{
+    const Store::Result opened = core.open();
+    if (opened.outcome != Store::Outcome::Opened) {
+        QApplication::exit(endLaunch(opened.message));
+        return;
+    }
+    showWindows(core.services(), shell, window, inTray);
+    core.startMonitoring();
+    // A backstop, once the first lists are built: what reading the store freed goes back to the
+    // system rather than staying resident all day.
+    QTimer::singleShot(1000, qApp, [] { ::malloc_trim(0); });
 }
 
 // Quitting finishes the running item and saves; every way to end the program comes here.
@@ -108,8 +139,8 @@ int main(int argc, char* argv[])
     // and every file the program makes is the user's alone.
     TerminationSignals::install();
     ::umask(077);
-    bool quickAdd = false;
-    if (const int status = parseOptions(argc, argv, quickAdd))
+    Options options;
+    if (const int status = parseOptions(argc, argv, options))
         return status;
 
     QApplication app(argc, argv);
@@ -126,8 +157,8 @@ int main(int argc, char* argv[])
     case SingleInstance::Role::Failed:
         return endLaunch(instance.errorMessage());
     case SingleInstance::Role::Secondary:
-        if (instance.forward(QString::fromLatin1(quickAdd ? SingleInstance::quickAddRequest
-                                                          : SingleInstance::showRequest)))
+        if (instance.forward(QString::fromLatin1(options.quickAdd ? SingleInstance::quickAddRequest
+                                                                  : SingleInstance::showRequest)))
             return 0;
         return endLaunch(QStringLiteral("Another Lullet is running but does not answer."));
     case SingleInstance::Role::Primary:
@@ -138,22 +169,18 @@ int main(int argc, char* argv[])
     Settings settings(Settings::defaultPath());
     ScreenSaverInhibitor inhibitor;
     AppController core(clock, settings, Store::defaultFolder(), inhibitor);
-    const Store::Result opened = core.open();
-    if (opened.outcome != Store::Outcome::Opened)
-        return endLaunch(opened.message);
-
     MainWindow window;
     Shell shell(core.services(), window);
-    showWindows(core.services(), shell, window);
-    core.startMonitoring();
+    shell.showTray();
     QObject::connect(&instance, &SingleInstance::requestReceived, &app, [&](const QString& r) {
         if (r == QLatin1String(SingleInstance::quickAddRequest))
             shell.quickAdd();
         else if (r == QLatin1String(SingleInstance::showRequest))
             shell.bringMainWindowForward();
     });
-    if (quickAdd)
+    if (options.quickAdd)
         shell.quickAdd();
     connectQuitPaths(core, shell, window, termination);
+    QTimer::singleShot(0, &app, [&] { openCore(core, shell, window, options.inTray); });
     return app.exec();
 }

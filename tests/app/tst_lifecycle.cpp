@@ -38,12 +38,20 @@ class TestLifecycle : public QObject {
     }
 
 private Q_SLOTS:
+    void sigtermSavesAndExitsCleanly_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("with its window") << QStringList{};
+        QTest::newRow("at login, in the tray") << QStringList{QStringLiteral("--in-tray")};
+    }
+
     void sigtermSavesAndExitsCleanly()
     {
+        QFETCH(QStringList, arguments);
         QTemporaryDir home;
         QProcess lullet;
         lullet.setProcessEnvironment(environmentFor(home.path()));
-        lullet.start(QStringLiteral(LULLET_BINARY), {});
+        lullet.start(QStringLiteral(LULLET_BINARY), arguments);
         QVERIFY(lullet.waitForStarted());
         // Killed while it may still be starting: the request waits for the quit path.
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath(home.path())), 10000);

@@ -15,6 +15,9 @@ namespace lullet {
 
 namespace {
 
+constexpr int secondTick = 1000;
+constexpr int minuteMargin = 20;
+
 // The idle clock starts at the nearest whole minute: seconds 0 to 30 round down, 31 to 59 up.
 Date nearestMinute(Date now)
 {
@@ -78,9 +81,36 @@ void AppController::startMonitoring()
                         });
     m_timer = std::make_unique<QTimer>();
     m_timer->setTimerType(Qt::PreciseTimer);
-    m_timer->setInterval(1000);
-    connect(m_timer.get(), &QTimer::timeout, &m_monitor, &Monitor::tick);
-    m_timer->start();
+    connect(m_timer.get(), &QTimer::timeout, this, [this] {
+        m_monitor.tick();
+        armTimer();
+    });
+    connect(&m_running, &RunningItem::started, this, &AppController::armTimer);
+    connect(&m_running, &RunningItem::finished, this, &AppController::armTimer);
+    armTimer();
+}
+
+void AppController::armTimer()
+{
+    if (!m_timer)
+        return;
+    // A running item is timed second by second. With nothing running only the minute's work
+    // remains, so the program sleeps until the next whole minute; the margin keeps the wakeup
+    // inside second 0 rather than a hair before it (a wakeup early still lands in second 59,
+    // and the next arming is then a few milliseconds long).
+    if (m_running.item()) {
+        if (m_timer->interval() != secondTick || !m_timer->isActive())
+            m_timer->start(secondTick);
+        return;
+    }
+    constexpr double minute = 60000;
+    const double intoMinute = std::fmod(m_clock.now().timeIntervalSince1970() * 1000, minute);
+    m_timer->start(int(minute - intoMinute) + minuteMargin);
+}
+
+std::chrono::milliseconds AppController::nextTickIn() const
+{
+    return std::chrono::milliseconds(isMonitoring() ? m_timer->remainingTime() : -1);
 }
 
 bool AppController::isMonitoring() const

@@ -17,6 +17,7 @@
 
 #include <QObject>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -28,7 +29,7 @@ class Clock;
 class DisplaySleepInhibitor;
 class Settings;
 
-// The composition root of the core: it builds the services in their order, owns the one-second
+// The composition root of the core: it builds the services in their order, owns the monitor's
 // timer and the display-sleep inhibit, and runs the start and the stop of the program.
 class AppController final : public QObject {
     Q_OBJECT
@@ -43,9 +44,12 @@ public:
     // clock starts at the nearest whole minute, and a protected program starts locked. A store
     // that cannot be used ends the launch: the result says why.
     Store::Result open();
-    // The loop begins: the display is kept awake and the monitor ticks each second.
+    // The loop begins: the display is kept awake and the monitor ticks each second while an item
+    // runs, and at each whole minute while none does.
     void startMonitoring();
     bool isMonitoring() const;
+    // How long until the monitor's next tick; negative when it does not tick.
+    std::chrono::milliseconds nextTickIn() const;
 
     enum class QuitReply { Now, SaveFailed };
     // Quitting finishes the running item, whatever its time, and saves. When the save fails the
@@ -55,6 +59,8 @@ public:
     void finishQuit();
 
 private:
+    void armTimer();
+
     const Clock& m_clock;
     Settings& m_settings;
     DisplaySleepInhibitor& m_inhibitor;

@@ -86,7 +86,12 @@ void Library::addItem(Item* item)
 {
     if (!contains(m_items, item))
         m_items.push_back(item);
-    ItemOrder::sortShared(m_items);
+    // A batch adds many items (a launch makes an occurrence of every rule): it sorts once, at its
+    // end, rather than the whole list for each of them.
+    if (m_batchDepth > 0)
+        m_sortPending = true;
+    else
+        ItemOrder::sortShared(m_items);
 }
 
 void Library::removeItem(Item* item)
@@ -216,7 +221,13 @@ Library::Batch::Batch(Library& library)
 
 Library::Batch::~Batch()
 {
-    if (--m_library.m_batchDepth > 0 || !m_library.m_batchChanged)
+    if (--m_library.m_batchDepth > 0)
+        return;
+    if (m_library.m_sortPending) {
+        m_library.m_sortPending = false;
+        ItemOrder::sortShared(m_library.m_items);
+    }
+    if (!m_library.m_batchChanged)
         return;
     m_library.m_batchChanged = false;
     m_library.later([library = &m_library] { Q_EMIT library->itemsChanged(nullptr); });

@@ -40,7 +40,7 @@ public:
     Project* newProject();
     Rule* newRule();
 
-    // Lists the item once, in the shared order.
+    // Lists the item once, in the shared order (inside a batch: from the batch's end on).
     void addItem(Item* item);
     // Takes the item out of the list; its record stays in the store.
     void removeItem(Item* item);
@@ -110,6 +110,7 @@ private:
     int m_batchDepth = 0;
     bool m_saveFailing = false;
     bool m_batchChanged = false;
+    bool m_sortPending = false;
 };
 
 } // namespace lullet

@@ -136,6 +136,9 @@ Store::Result Store::openFile()
     // Changes are safe once written to the log; the log is made durable at checkpoints.
     m_db.exec("PRAGMA synchronous = NORMAL");
     m_db.exec("PRAGMA foreign_keys = ON");
+    // The records are read once into memory and written in small batches: a large page cache
+    // would only hold the store a second time, all day.
+    m_db.exec("PRAGMA cache_size = -512");
 
     auto context = std::make_unique<ObjectContext>(m_db);
     if (!context->load()) {

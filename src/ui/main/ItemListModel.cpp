@@ -8,6 +8,8 @@
 #include <QColor>
 #include <QFont>
 
+#include <algorithm>
+
 namespace lullet {
 
 ItemListModel::ItemListModel(const Clock& clock, const Library& library, const RunningItem& running,
@@ -28,6 +30,7 @@ void ItemListModel::reload()
     m_rows.clear();
     if (m_scope.isCustomListing()) {
         m_rows = ListBuilder::customListing(m_scope.segment, m_library, m_clock);
+        m_stale.assign(m_rows.size(), false);
         endResetModel();
         return;
     }
@@ -39,15 +42,15 @@ void ItemListModel::reload()
         for (Item* item : items)
             m_rows.push_back(RowTexts::makeRow(item, m_clock, m_withProjectName));
     }
+    m_stale.assign(m_rows.size(), false);
     endResetModel();
 }
 
 void ItemListModel::refreshTexts()
 {
-    for (ListRow& row : m_rows) {
-        if (row.type == ListRow::ItemRow)
-            RowTexts::setValues(row, m_clock, m_withProjectName);
-    }
+    // Marked only: a row's texts are rebuilt when it is next read, which for a long list is the
+    // rows on screen and not the thousands beyond them.
+    std::fill(m_stale.begin(), m_stale.end(), true);
     if (!m_rows.empty())
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
 }
@@ -57,8 +60,26 @@ void ItemListModel::refreshItem(const Item* item)
     const int row = rowOf(item);
     if (row < 0)
         return;
-    RowTexts::setValues(m_rows[std::size_t(row)], m_clock, m_withProjectName);
+    m_stale[std::size_t(row)] = true;
     Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
+}
+
+const ListRow& ItemListModel::freshRow(std::size_t row) const
+{
+    ListRow& listRow = m_rows[row];
+    if (m_stale[row]) {
+        m_stale[row] = false;
+        if (listRow.type == ListRow::ItemRow)
+            RowTexts::setValues(listRow, m_clock, m_withProjectName);
+    }
+    return listRow;
+}
+
+const std::vector<ListRow>& ItemListModel::rows() const
+{
+    for (std::size_t row = 0; row < m_rows.size(); ++row)
+        freshRow(row);
+    return m_rows;
 }
 
 int ItemListModel::rowOf(const Item* item) const
@@ -68,6 +89,15 @@ int ItemListModel::rowOf(const Item* item) const
             return int(i);
     }
     return -1;
+}
+
+QString ItemListModel::startGlyph(const Item* item) const
+{
+    if (!item)
+        return {};
+    if (item->isFinished())
+        return QStringLiteral("✓");
+    return m_running.isRunning(item) ? QStringLiteral("■") : QStringLiteral("▶");
 }
 
 int ItemListModel::rowCount(const QModelIndex& parent) const
@@ -84,7 +114,7 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
-    const ListRow& row = m_rows[std::size_t(index.row())];
+    const ListRow& row = freshRow(std::size_t(index.row()));
     const Item* item = row.representedObject;
     switch (role) {
     case ItemRole:
@@ -108,6 +138,8 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const
             return QVariant();
         }
         switch (index.column()) {
+        case StartColumn:
+            return startGlyph(item);
         case TitleColumn:
             return row.title;
         case TimeColumn:
@@ -119,6 +151,11 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const
         default:
             return {};
         }
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+        if (index.column() == StartColumn && item && !item->isFinished())
+            return m_running.isRunning(item) ? tr("Stop: it is done") : tr("Start");
+        return {};
     case Qt::ForegroundRole:
         // Due and overdue times stand out in the warning colour.
         if (index.column() == TimeColumn && row.dueOrOverdue)

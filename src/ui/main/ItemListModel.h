@@ -26,12 +26,13 @@ public:
 
     // Builds the rows anew from the shared list.
     void reload();
-    // Rebuilds the texts of every row, as the minute passes.
+    // The texts of every row are out of date, as the minute passes.
     void refreshTexts();
-    // Rebuilds the texts of the one item's row, if listed.
+    // The texts of the one item's row are out of date, if it is listed.
     void refreshItem(const Item* item);
 
-    const std::vector<ListRow>& rows() const { return m_rows; }
+    // Every row, with its texts up to date.
+    const std::vector<ListRow>& rows() const;
     int rowOf(const Item* item) const;
     const ListBuilder::Scope& scope() const { return m_scope; }
 
@@ -42,12 +43,19 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 private:
+    // The start column: "▶" to start, "■" while running, "✓" once finished.
+    QString startGlyph(const Item* item) const;
+    // The row, its texts rebuilt first if they are out of date.
+    const ListRow& freshRow(std::size_t row) const;
+
     const Clock& m_clock;
     const Library& m_library;
     const RunningItem& m_running;
     ListBuilder::Scope m_scope;
     bool m_withProjectName;
-    std::vector<ListRow> m_rows;
+    // Texts are rebuilt as rows are read; the rows themselves stay as reload() made them.
+    mutable std::vector<ListRow> m_rows;
+    mutable std::vector<bool> m_stale;
 };
 
 } // namespace lullet

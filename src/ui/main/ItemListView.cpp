@@ -13,16 +13,13 @@
 #include "core/text/LocalizedText.h"
 #include "ui/main/ItemListModel.h"
 #include "ui/main/PostponePanel.h"
+#include "ui/main/StartButtonDelegate.h"
+#include "ui/widgets/BarChart.h"
 #include "ui/widgets/CircularProgress.h"
 #include "ui/widgets/Dialogs.h"
 #include "ui/widgets/HexColor.h"
 #include "ui/widgets/StyledButton.h"
 
-#include <QBarCategoryAxis>
-#include <QBarSeries>
-#include <QBarSet>
-#include <QChart>
-#include <QChartView>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -30,7 +27,6 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
-#include <QValueAxis>
 
 namespace lullet {
 
@@ -92,9 +88,10 @@ void ItemListView::buildHeader(QVBoxLayout* layout)
     header->addWidget(m_progress);
     layout->addLayout(header);
     if (scope.isCustomListing()) {
-        m_chart = new QChartView(this);
+        m_chart = new BarChart(this);
         m_chart->setObjectName(QStringLiteral("chart"));
-        m_chart->setRenderHint(QPainter::Antialiasing);
+        m_chart->setColor(*HexColor::fromHex(ongoingColor));
+        m_chart->setUnit(QStringLiteral("h"));
         m_chart->setMinimumHeight(160);
         m_chart->setMaximumHeight(200);
         layout->addWidget(m_chart);
@@ -159,6 +156,13 @@ void ItemListView::buildTable(QVBoxLayout* layout)
     m_table->setWordWrap(false);
     m_table->setFocusPolicy(Qt::NoFocus);
     m_table->setColumnWidth(ItemListModel::StartColumn, 36);
+    auto* startButtons = new StartButtonDelegate(m_table);
+    m_table->setItemDelegateForColumn(ItemListModel::StartColumn, startButtons);
+    // The painted buttons rise under the mouse.
+    m_table->viewport()->setAttribute(Qt::WA_Hover);
+    connect(startButtons, &StartButtonDelegate::clicked, this, [this](const QModelIndex& index) {
+        startOrStop(m_model->data(index, ItemListModel::ItemRole).value<Item*>());
+    });
     columns->setVisible(m_withHeader);
     if (!m_withHeader) {
         m_table->hideColumn(ItemListModel::DurationColumn);
@@ -224,7 +228,7 @@ void ItemListView::reload()
 
 void ItemListView::onReset()
 {
-    placeStartButtons();
+    spanHeadings();
     m_table->selectionModel()->clear();
     const bool empty = m_model->rowCount() == 0;
     m_noData->setVisible(empty);
@@ -280,28 +284,13 @@ void ItemListView::onRunningChanged(Item* item)
     reload();
 }
 
-void ItemListView::placeStartButtons()
+void ItemListView::spanHeadings()
 {
     m_table->clearSpans();
     for (int row = 0; row < m_model->rowCount(); ++row) {
-        const QModelIndex index = m_model->index(row, ItemListModel::StartColumn);
-        auto* item = m_model->data(index, ItemListModel::ItemRole).value<Item*>();
-        if (!item) {
-            // A day's heading across the whole row.
+        // A day's heading across the whole row.
+        if (!m_model->rows()[std::size_t(row)].representedObject)
             m_table->setSpan(row, 0, 1, ItemListModel::ColumnCount);
-            continue;
-        }
-        const bool running = m_services.running.isRunning(item);
-        const bool finished = item->isFinished();
-        auto* button = new QPushButton(finished  ? QStringLiteral("✓")
-                                       : running ? QStringLiteral("■")
-                                                 : QStringLiteral("▶"));
-        button->setFlat(true);
-        button->setEnabled(!finished);
-        button->setToolTip(running ? tr("Stop: it is done") : tr("Start"));
-        button->setObjectName(QStringLiteral("startOrStop"));
-        connect(button, &QPushButton::clicked, this, [this, item] { startOrStop(item); });
-        m_table->setIndexWidget(index, button);
     }
 }
 
@@ -437,30 +426,11 @@ void ItemListView::updateChart()
 {
     if (!m_chart)
         return;
-    auto* set = new QBarSet(tr("Hours used"));
-    set->setColor(*HexColor::fromHex(ongoingColor));
-    QStringList days;
-    for (const auto& [day, seconds] : ListBuilder::timeUsedByDay(m_model->rows())) {
-        *set << seconds / 3600.0;
-        days << QString::number(day.day()) + u' ' + day.shortMonthToString();
-    }
-    auto* series = new QBarSeries;
-    series->append(set);
-    auto* chart = new QChart;
-    chart->addSeries(series);
-    chart->legend()->hide();
-    chart->setMargins(QMargins(0, 0, 0, 0));
-    auto* axisX = new QBarCategoryAxis;
-    axisX->append(days);
-    chart->addAxis(axisX, Qt::AlignBottom);
-    series->attachAxis(axisX);
-    auto* axisY = new QValueAxis;
-    axisY->setLabelFormat(QStringLiteral("%.1f h"));
-    chart->addAxis(axisY, Qt::AlignLeft);
-    series->attachAxis(axisY);
-    QChart* old = m_chart->chart();
-    m_chart->setChart(chart);
-    delete old;
+    std::vector<BarChart::Bar> hours;
+    for (const auto& [day, seconds] : ListBuilder::timeUsedByDay(m_model->rows()))
+        hours.push_back(
+            {QString::number(day.day()) + u' ' + day.shortMonthToString(), seconds / 3600.0});
+    m_chart->setBars(std::move(hours));
 }
 
 void ItemListView::updateStats()

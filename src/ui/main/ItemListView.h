@@ -4,7 +4,6 @@
 
 #include <QWidget>
 
-class QChartView;
 class QHBoxLayout;
 class QLabel;
 class QMenu;
@@ -13,6 +12,7 @@ class QVBoxLayout;
 
 namespace lullet {
 
+class BarChart;
 class CircularProgress;
 class Item;
 class ItemListModel;
@@ -66,7 +66,7 @@ private:
     void onPostponed(Item* item);
     void onRunningChanged(Item* item);
     void updateStats();
-    void placeStartButtons();
+    void spanHeadings();
     // Upcoming and Completed: the time used by day, as bars.
     void updateChart();
     void showPostponeMessage(const Item& item);
@@ -85,7 +85,7 @@ private:
     QLabel* m_timeUsed = nullptr;
     CircularProgress* m_progress = nullptr;
     StyledButton* m_status = nullptr;
-    QChartView* m_chart = nullptr;
+    BarChart* m_chart = nullptr;
 };
 
 } // namespace lullet

@@ -19,6 +19,8 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace lullet {
 
 namespace {
@@ -51,6 +53,16 @@ MainView::MainView(const Services& services, QWidget* parent)
     listenToChanges();
     loadSidebar();
     selectSegment(m_segment);
+}
+
+void MainView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // The window opens on the sidebar, not in the search field, the first in the tab order: no
+    // cursor blinks, all day, in a field the user has not chosen. Done at the first showing,
+    // once the view is in its window, since moving into a window forgets the focus.
+    if (!std::exchange(m_focusPlaced, true))
+        m_sidebar->setFocus();
 }
 
 QWidget* MainView::buildSidebar(QSplitter* splitter)

@@ -46,6 +46,9 @@ public:
     void deleteProject(Project* project, bool ask = true);
     void duplicateProject(Project* project);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     QWidget* buildSidebar(QSplitter* splitter);
     QWidget* buildRightSide(QSplitter* splitter);
@@ -73,6 +76,7 @@ private:
     bool m_showingResults = false;
     bool m_selectingSilently = false;
     Project* m_renaming = nullptr;
+    bool m_focusPlaced = false;
 };
 
 } // namespace lullet

@@ -3,6 +3,7 @@
 #include "core/app/Services.h"
 #include "core/model/Item.h"
 #include "core/monitor/Monitor.h"
+#include "core/security/Lock.h"
 #include "core/settings/Settings.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/MainView.h"
@@ -17,10 +18,13 @@
 #include "ui/widgets/Popover.h"
 
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScreen>
 #include <QTimer>
+
+#include <utility>
 
 namespace lullet {
 
@@ -40,17 +44,8 @@ Shell::Shell(const Services& services, MainWindow& window, QObject* parent)
     , m_window(window)
     , m_tray(new Tray(window, this))
 {
-    connect(m_tray, &Tray::clicked, this, [this] {
-        m_tray->togglePopover([this]() -> QWidget* {
-            auto* view = new RunningListView(m_services);
-            connect(view, &RunningListView::openWindowRequested, this, [this] {
-                m_tray->closePopover();
-                bringMainWindowForward();
-            });
-            connect(view, &RunningListView::quitRequested, this, &Shell::quitRequested);
-            return view;
-        });
-    });
+    connect(m_tray, &Tray::clicked, this,
+            [this] { m_tray->togglePopover([this] { return makeTrayContent(); }); });
     connect(m_tray, &Tray::retiring, this, &Shell::onRetiring);
     connectMonitor();
 }
@@ -60,6 +55,38 @@ Shell::~Shell()
     // The open prompt acts on the core's records: it goes while they still exist.
     m_tray->dropPopover();
     delete m_quickAddWindow;
+}
+
+QWidget* Shell::makeTrayContent()
+{
+    if (!m_loaded) {
+        // Nothing is shown as current before it has been read.
+        auto* loading = new QLabel(tr("Loading…"));
+        loading->setAlignment(Qt::AlignCenter);
+        loading->setMinimumSize(200, 80);
+        m_loading = loading;
+        return loading;
+    }
+    auto* view = new RunningListView(m_services);
+    connect(view, &RunningListView::openWindowRequested, this, [this] {
+        m_tray->closePopover();
+        bringMainWindowForward();
+    });
+    connect(view, &RunningListView::quitRequested, this, &Shell::quitRequested);
+    return view;
+}
+
+void Shell::setLoaded()
+{
+    m_loaded = true;
+    if (m_loading) {
+        m_tray->closePopoverImmediate();
+        m_tray->show([this] { return makeTrayContent(); });
+    }
+    if (std::exchange(m_windowWanted, false))
+        bringMainWindowForward();
+    if (std::exchange(m_quickAddWanted, false))
+        quickAdd();
 }
 
 void Shell::connectMonitor()
@@ -101,6 +128,13 @@ void Shell::prepareMainWindow(bool locked)
 
 void Shell::bringMainWindowForward(const std::function<void()>& whenShown)
 {
+    if (!m_loaded) {
+        m_windowWanted = true;
+        return;
+    }
+    // A launch at login builds the window only when it is first asked for.
+    if (!m_content)
+        prepareMainWindow(m_services.lock.isLocked());
     // A minimised window comes back as it was before, maximised or not.
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
@@ -190,6 +224,10 @@ void Shell::showToDo(Item* item)
 
 void Shell::quickAdd()
 {
+    if (!m_loaded) {
+        m_quickAddWanted = true;
+        return;
+    }
     MainView* main = m_content ? m_content->mainView() : nullptr;
     if (m_window.isVisible() && main)
         main->showQuickAddBar();

@@ -29,12 +29,15 @@ public:
     Tray& tray() { return *m_tray; }
     WindowContent* content() const { return m_content; }
 
-    // Puts the icon in the panel.
+    // Puts the icon in the panel. It shows before the store is read: until setLoaded() the
+    // popover says it is loading, and asking for the window or quick add waits.
     void showTray();
+    void setLoaded();
     // Gives the main window its content, and its size by the state of the welcome and the lock:
     // fixed 800 by 600 for the welcome, at least 600 by 600 afterwards.
     void prepareMainWindow(bool locked);
-    // Brings the main window to the front; whenShown runs once it is up.
+    // Brings the main window to the front, its content made first if it has none yet; whenShown
+    // runs once it is up.
     void bringMainWindowForward(const std::function<void()>& whenShown = {});
 
     // The prompts, one at a time in the tray's popover: a new one waits until the open one has
@@ -53,6 +56,7 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
+    QWidget* makeTrayContent();
     void connectMonitor();
     void showPrompt(const std::function<QWidget*()>& make);
     void onAnswered(PromptOutcome outcome);
@@ -64,6 +68,10 @@ private:
     Tray* m_tray;
     WindowContent* m_content = nullptr;
     QPointer<QuickAddView> m_quickAddWindow;
+    QPointer<QWidget> m_loading;
+    bool m_loaded = false;
+    bool m_windowWanted = false;
+    bool m_quickAddWanted = false;
 };
 
 } // namespace lullet

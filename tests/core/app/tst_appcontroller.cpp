@@ -157,6 +157,7 @@ private Q_SLOTS:
         Launched app(dir(), at(2026, 11, 23, 9));
         QVERIFY(app.open());
         QVERIFY(!app.core.isMonitoring());
+        app.clock.set(at(2026, 11, 23, 9, 0, 20));
         app.core.startMonitoring();
         QVERIFY(app.core.isMonitoring());
         QCOMPARE(app.inhibitor.reasons, QStringList{QStringLiteral("Reason for activity")});
@@ -164,6 +165,16 @@ private Q_SLOTS:
         QSignalSpy ticks(&app.monitor(), &Monitor::ticked);
         app.monitor().tick();
         QCOMPARE(ticks.count(), 1);
+
+        // Nothing runs: the program sleeps until the next whole minute, not a second.
+        QVERIFY(app.core.nextTickIn() > std::chrono::seconds(39));
+        QVERIFY(app.core.nextTickIn() <= std::chrono::milliseconds(40100));
+        // An item runs: it is timed each second, and when it ends the minute wait is back.
+        Item* item = app.addItem(QStringLiteral("Walk break"), at(2026, 11, 23, 9));
+        app.running().start(*item);
+        QVERIFY(app.core.nextTickIn() <= std::chrono::seconds(1));
+        app.running().finish(*item, RunningItem::Finish::Stop);
+        QVERIFY(app.core.nextTickIn() > std::chrono::seconds(39));
 
         QCOMPARE(app.core.prepareToQuit(), AppController::QuitReply::Now);
         app.core.finishQuit();

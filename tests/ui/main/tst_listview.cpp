@@ -1,4 +1,6 @@
 #include "core/dates/CalendarContext.h"
+#include "core/model/RepeatCodes.h"
+#include "core/scheduling/Catalogue.h"
 #include "support/DatePrinting.h"
 #include "support/Launched.h"
 #include "support/TestCalendar.h"
@@ -13,9 +15,11 @@
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTableView>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <memory>
 
 using namespace lullet;
@@ -54,6 +58,19 @@ class TestListView : public QObject {
         return nullptr;
     }
 
+    static QString startGlyph(ItemListView& view, int row)
+    {
+        return view.model().index(row, ItemListModel::StartColumn).data().toString();
+    }
+
+    // The start buttons are painted: a click on the cell is the click on the button.
+    static void clickStart(ItemListView& view, int row)
+    {
+        QTableView* table = view.table();
+        const QRect cell = table->visualRect(view.model().index(row, ItemListModel::StartColumn));
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
+    }
+
 private Q_SLOTS:
     void initTestCase() { lullet::test::useTestCalendar(); }
 
@@ -80,11 +97,10 @@ private Q_SLOTS:
         QCOMPARE(view.model().rowCount(), 2);
         QCOMPARE(view.model().rows()[0].representedObject, write);
 
-        auto* start = qobject_cast<QPushButton*>(
-            view.table()->indexWidget(view.model().index(0, ItemListModel::StartColumn)));
-        QVERIFY(start);
-        start->click();
+        QCOMPARE(startGlyph(view, 0), QStringLiteral("▶"));
+        clickStart(view, 0);
         QCOMPARE(app().running().item(), write);
+        QCOMPARE(startGlyph(view, 0), QStringLiteral("■"));
         QCOMPARE(*write->timeLimit(), 900);
 
         // A tick shows the running row's progress without rebuilding the list.
@@ -93,17 +109,57 @@ private Q_SLOTS:
         QCOMPARE(view.model().rowCount(), 2);
 
         // Stopping is finishing; the finished row goes below the open ones.
-        start = qobject_cast<QPushButton*>(view.table()->indexWidget(
-            view.model().index(view.model().rowOf(write), ItemListModel::StartColumn)));
-        start->click();
+        clickStart(view, view.model().rowOf(write));
         QVERIFY(*write->hasFinished());
         QCOMPARE(view.model().rows()[0].representedObject, read);
+        // A finished row's button only shows it is done.
+        QCOMPARE(startGlyph(view, 1), QStringLiteral("✓"));
+        clickStart(view, 1);
+        QVERIFY(!app().running().item());
 
         std::unique_ptr<QMenu> menu(view.buildMenu(read));
         QVERIFY(action(menu.get(), QStringLiteral("Delete")));
         action(menu.get(), QStringLiteral("Delete"))->trigger();
         QVERIFY(!read->hasContext());
         QCOMPARE(view.model().rowCount(), 1);
+    }
+
+    // A launch that makes an occurrence of every rule over years of history reloads the list
+    // once, not once for each occurrence.
+    void manyOccurrencesReloadTheListOnce()
+    {
+        for (int day = 1; day <= 300; ++day) {
+            Item* old =
+                item(QStringLiteral("Done %1").arg(day), at(2025, 1, 1).dateByAddingDays(day));
+            old->setHasFinished(true);
+        }
+        constexpr int rules = 40;
+        for (int i = 0; i < rules; ++i) {
+            Rule* rule = app().library().newRule();
+            rule->setUniqueId(QStringLiteral("Rule %1_1795000000.5").arg(i));
+            rule->setTitle(QStringLiteral("Rule %1").arg(i));
+            rule->setRepeatIntervalType(RepeatUnit::Hour);
+            rule->setRepeatInterval(1);
+            rule->setRepeatOption(RepeatEnd::never);
+            rule->setDtReminder(at(2026, 11, 20, 9, i));
+            rule->setIsCustom(true);
+            rule->setIsToDoOrJob(false);
+            rule->setIsActive(true);
+            rule->setDurationMin(5);
+        }
+        ItemListView view(app().services(), {}, true);
+        view.show();
+        QSignalSpy resets(&view.model(), &QAbstractItemModel::modelReset);
+        app().services().catalogue.rebuild();
+        QCoreApplication::processEvents();
+        QCOMPARE(resets.count(), 1);
+        QCOMPARE(view.model().rowCount(), rules);
+        // The shared list is in order once the batch is over: open items first, by date.
+        const std::vector<Item*>& all = app().library().items();
+        QVERIFY(std::is_sorted(all.begin(), all.begin() + rules, [](const Item* a, const Item* b) {
+            return *a->effectiveDate() < *b->effectiveDate();
+        }));
+        QVERIFY(all[rules]->isFinished());
     }
 
     void aRunningItemCannotBeRescheduledFromItsMenu()

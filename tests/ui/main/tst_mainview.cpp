@@ -172,6 +172,9 @@ private Q_SLOTS:
     {
         MainView view(app().services());
         auto* search = view.findChild<QLineEdit*>(QStringLiteral("searchField"));
+        // The view opens on the sidebar, not with a cursor in the search field.
+        view.show();
+        QCOMPARE(view.focusWidget(), view.sidebar());
         search->setText(QStringLiteral("today, walk"));
         QStringList shown;
         for (int i = 0; i < view.sidebar()->count(); ++i)

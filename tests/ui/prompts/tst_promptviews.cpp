@@ -206,6 +206,7 @@ private Q_SLOTS:
     {
         MainWindow window;
         Shell shell(services(), window);
+        shell.setLoaded();
         Item* first = item(QStringLiteral("First"), at(2026, 11, 23, 10, 15));
         Item* second = item(QStringLiteral("Second"), at(2026, 11, 23, 10, 15));
         shell.showReminder(first, nullptr);
@@ -239,6 +240,7 @@ private Q_SLOTS:
     {
         MainWindow window;
         Shell shell(services(), window);
+        shell.setLoaded();
         m_app->clock.set(at(2026, 11, 23, 10, 15));
         shell.askIdleQuestion(at(2026, 11, 23, 10, 0), false);
         QTRY_VERIFY(shell.tray().popover());

@@ -2,11 +2,18 @@
 #include "support/Launched.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
+#include "ui/main/MainView.h"
 #include "ui/shell/MainWindow.h"
+#include "ui/shell/RunningListView.h"
 #include "ui/shell/Shell.h"
+#include "ui/shell/Tray.h"
+#include "ui/shell/WindowContent.h"
 #include "ui/widgets/Dialogs.h"
+#include "ui/widgets/Popover.h"
 
 #include <QApplication>
+#include <QLabel>
+#include <QListWidget>
 #include <QMenu>
 #include <QTemporaryDir>
 
@@ -34,11 +41,40 @@ private Q_SLOTS:
         m_dir.reset();
     }
 
+    // The icon comes before the store is read: its panel says so, and the window asked for
+    // meanwhile opens, with its content, once the store is read.
+    void theTrayComesBeforeTheStore()
+    {
+        MainWindow window;
+        Shell shell(m_app->services(), window);
+        shell.showTray();
+        Q_EMIT shell.tray().clicked();
+        QVERIFY(shell.tray().popover());
+        auto* loading = shell.tray().popover()->findChild<QLabel*>();
+        QVERIFY(loading);
+        QCOMPARE(loading->text(), QStringLiteral("Loading…"));
+        shell.bringMainWindowForward();
+        QVERIFY(!window.isVisible());
+        QVERIFY(!shell.content());
+
+        QVERIFY(m_app->open());
+        shell.setLoaded();
+        QVERIFY(window.isVisible());
+        QVERIFY(shell.content());
+        // No cursor blinks in the search field: the window opens on the sidebar.
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QCOMPARE(window.focusWidget(),
+                 static_cast<QWidget*>(shell.content()->mainView()->sidebar()));
+        QTRY_VERIFY(shell.tray().popover() &&
+                    shell.tray().popover()->findChild<RunningListView*>());
+    }
+
     void welcomeSizeIsFixed()
     {
         QVERIFY(m_app->open(false));
         MainWindow window;
         Shell shell(m_app->services(), window);
+        shell.setLoaded();
         shell.prepareMainWindow(false);
         QCOMPARE(window.maximumSize(), QSize(800, 600));
         QCOMPARE(window.size(), QSize(800, 600));
@@ -51,6 +87,7 @@ private Q_SLOTS:
         MainWindow window;
         window.resize(700, 600);
         Shell shell(m_app->services(), window);
+        shell.setLoaded();
         shell.prepareMainWindow(true);
         QCOMPARE(window.minimumSize(), QSize(600, 600));
         QCOMPARE(window.size(), QSize(700, 600));
@@ -64,6 +101,7 @@ private Q_SLOTS:
         QVERIFY(m_app->open());
         MainWindow window;
         Shell shell(m_app->services(), window);
+        shell.setLoaded();
         window.showMinimized();
         QVERIFY(window.isMinimized());
         shell.bringMainWindowForward();
@@ -90,6 +128,7 @@ private Q_SLOTS:
         QVERIFY(m_app->open());
         MainWindow window;
         Shell shell(m_app->services(), window);
+        shell.setLoaded();
         shell.showTray();
         bool quit = false;
         connect(&shell, &Shell::quitRequested, this, [&] { quit = true; });

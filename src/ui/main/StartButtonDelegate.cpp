@@ -1,0 +1,84 @@
+#include "ui/main/StartButtonDelegate.h"
+
+#include "core/model/Item.h"
+#include "ui/main/ItemListModel.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace lullet {
+
+namespace {
+
+bool isButton(const QModelIndex& index)
+{
+    return index.data(ItemListModel::ItemRole).value<Item*>() != nullptr;
+}
+
+bool isEnabled(const QModelIndex& index)
+{
+    return !index.data(ItemListModel::FinishedRole).toBool();
+}
+
+} // namespace
+
+void StartButtonDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                                const QModelIndex& index) const
+{
+    if (!isButton(index)) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    // The row's selection behind the button, as the other cells of the row have it.
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    cell.text.clear();
+    const QWidget* widget = option.widget;
+    QStyle* style = widget ? widget->style() : QApplication::style();
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, widget);
+
+    QStyleOptionButton button;
+    button.rect = option.rect.adjusted(3, 3, -3, -3);
+    button.text = index.data(Qt::DisplayRole).toString();
+    button.palette = option.palette;
+    button.fontMetrics = option.fontMetrics;
+    button.features = QStyleOptionButton::Flat;
+    button.state = QStyle::State_None;
+    const bool enabled = isEnabled(index);
+    if (enabled)
+        button.state |= QStyle::State_Enabled;
+    if (enabled && (option.state & QStyle::State_MouseOver))
+        button.state |= QStyle::State_MouseOver | QStyle::State_Raised;
+    if (enabled && m_pressed == index)
+        button.state |= QStyle::State_Sunken;
+    style->drawControl(QStyle::CE_PushButton, &button, painter, widget);
+}
+
+bool StartButtonDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
+                                      const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    if (!isButton(index))
+        return QStyledItemDelegate::editorEvent(event, model, option, index);
+    const auto* mouse = dynamic_cast<QMouseEvent*>(event);
+    if (!mouse || mouse->button() != Qt::LeftButton || !isEnabled(index))
+        return false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        m_pressed = index;
+        return true;
+    case QEvent::MouseButtonRelease: {
+        const bool wasPressed = m_pressed == index;
+        m_pressed = QPersistentModelIndex();
+        // A press taken elsewhere and released here is no click, as with a real button.
+        if (wasPressed && option.rect.contains(mouse->position().toPoint()))
+            Q_EMIT clicked(index);
+        return true;
+    }
+    default:
+        return false;
+    }
+}
+
+} // namespace lullet

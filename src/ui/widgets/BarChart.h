@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QWidget>
+
+#include <vector>
+
+namespace lullet {
+
+// Bars over categories, with a value axis on the left: painted in a few lines, so the program
+// need not carry a charting library (and OpenGL with it) for its few charts.
+class BarChart final : public QWidget {
+    Q_OBJECT
+public:
+    struct Bar {
+        QString label;
+        double value = 0;
+    };
+
+    explicit BarChart(QWidget* parent = nullptr);
+
+    void setBars(std::vector<Bar> bars);
+    const std::vector<Bar>& bars() const { return m_bars; }
+    void setColor(const QColor& color);
+    // The value axis' labels: `unit` follows each tick's value ("h" gives "1.5 h").
+    void setUnit(const QString& unit);
+
+    QSize sizeHint() const override { return {400, 180}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    // The top of the value axis and its step: round numbers, four steps or so.
+    static std::pair<double, double> axisFor(double largest);
+
+    std::vector<Bar> m_bars;
+    QColor m_color = QColor(0xFC, 0x72, 0x74);
+    QString m_unit;
+};
+
+} // namespace lullet

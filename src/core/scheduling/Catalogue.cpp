@@ -10,6 +10,7 @@
 #include "core/scheduling/ScheduleTexts.h"
 #include "core/scheduling/WorkingHours.h"
 #include "core/scheduling/WorkingSchedule.h"
+#include "core/store/ObjectContext.h"
 #include "core/text/LocalizedText.h"
 #include "core/text/PatternMatcher.h"
 
@@ -296,6 +297,41 @@ bool Catalogue::unregisterRule(Rule* rule)
             m_rows.pop_back();
     }
     return noCustomLeft;
+}
+
+bool Catalogue::switchRow(CatalogueRow& row, bool on)
+{
+    if (row.type != CatalogueRow::ItemRow)
+        return false;
+    Library& library = m_services.library;
+    Rule* rule = row.representedObject ? row.representedObject : createRuleFor(row);
+    if (!rule)
+        return false;
+    if (!on) {
+        m_services.generator.removeOpenOccurrences(rule);
+    } else if (rule->repeatOption() == std::optional<int>(RepeatEnd::untilDate) &&
+               (!rule->dtRepeatUpto() || !rule->dtRepeatUpto()->isLaterThanDate(
+                                             m_services.clock.now().dateAtStartOfDay()))) {
+        library.save();
+        library.announceRulesChanged();
+        return rule->isActive().value_or(false);
+    }
+    rule->setIsActive(on);
+    const Generator::Batch batch(m_services.generator);
+    refreshRow(row);
+    library.save();
+    library.announceRulesChanged();
+    return row.isActive;
+}
+
+void Catalogue::deleteRule(Rule* rule)
+{
+    if (!rule)
+        return;
+    unregisterRule(rule);
+    m_services.library.context().deleteObject(rule);
+    m_services.library.save();
+    m_services.library.announceRulesChanged();
 }
 
 void Catalogue::makeNextOccurrence(Item* occurrence, Date basedOnDate)

@@ -57,6 +57,12 @@ public:
     void registerRule(Rule* rule);
     // Unregisters a rule, its open occurrences and its row; true when no custom rule is left.
     bool unregisterRule(Rule* rule);
+    // The row's switch. A suggestion becomes a rule first. Off removes the rule's open
+    // occurrences; on makes its next occurrence at once, unless the rule's end has passed: then
+    // nothing changes and the switch falls back. Answers whether the row is on afterwards.
+    bool switchRow(CatalogueRow& row, bool on);
+    // Deletes a rule with its open occurrences and its row; finished occurrences stay.
+    void deleteRule(Rule* rule);
     // Makes the follower of an occurrence that has just ended, from the date it stood on: missed
     // dates are skipped, and finishing early doesn't repeat a date.
     void makeNextOccurrence(Item* occurrence, Date basedOnDate);

@@ -1,6 +1,7 @@
 #include "core/scheduling/ScheduleTexts.h"
 
 #include "core/dates/Clock.h"
+#include "core/dates/StyledDateFormat.h"
 #include "core/model/Item.h"
 #include "core/model/RepeatCodes.h"
 #include "core/model/Rule.h"
@@ -66,6 +67,51 @@ QString ScheduleTexts::compose(bool isToDo, Date next, int repeatType, int count
     return (isToDo ? QStringLiteral("Lullet") : QStringLiteral("Task")) + QStringLiteral(" : ") +
            dateText(next) + QStringLiteral(" at ") + timeText(next) +
            QStringLiteral(", repeats every ") + intervalText(repeatType, count);
+}
+
+QString ScheduleTexts::nextTimeLabel(const CatalogueRow& row) const
+{
+    const Date now = m_clock.now();
+    const Date startOfToday = now.dateAtStartOfDay();
+    if (const Rule* rule = row.representedObject) {
+        if (rule->repeatOption() == std::optional<int>(RepeatEnd::untilDate) &&
+            rule->dtRepeatUpto() && rule->dtRepeatUpto()->isEarlierThanDate(startOfToday))
+            return QStringLiteral("No further repeat");
+    }
+    if (!row.nextRepeatOn)
+        return {};
+    const Date next = *row.nextRepeatOn;
+    if (next.isToday(m_clock)) {
+        const qint64 minutes = next.secondsAfterDate(now) / 60;
+        if (minutes < 0)
+            return {};
+        if (minutes == 0)
+            return QStringLiteral("Now");
+        const qint64 hours = minutes / 60;
+        const qint64 rest = minutes - hours * 60;
+        QString label = QStringLiteral("In next ");
+        if (hours > 0)
+            label += QString::number(hours) + QStringLiteral(" hr ");
+        if (rest > 0)
+            label += QString::number(rest) + QStringLiteral(" min");
+        return label;
+    }
+    const QString at = QStringLiteral("at ") + timeText(next);
+    // Calendar days, rounded: a day across a clock change is not 24 hours.
+    const qint64 days = qRound64(
+        (next.dateAtStartOfDay().timeIntervalSince1970() - startOfToday.timeIntervalSince1970()) /
+        86400.0);
+    if (row.remindBefore && days <= RemindBefore::days(*row.remindBefore)) {
+        const QString word = StyledDateFormat::relativeDayWord(int(days));
+        if (!word.isEmpty() && !word.contains(u' '))
+            return word + u' ' + at;
+        return QStringLiteral("In next %1 days ").arg(days) + at;
+    }
+    return QStringLiteral("On %1 %2 %3 ")
+               .arg(next.day())
+               .arg(next.shortMonthToString())
+               .arg(next.year()) +
+           at;
 }
 
 QString ScheduleTexts::ruleText(const Rule* rule) const

@@ -27,6 +27,11 @@ public:
     // The description of an item in the add task form's table: its repeat, date and duration.
     QString itemText(const Item& item) const;
 
+    // When a repeat-list row comes next: "In next 1 hr 5 min", "Now", "Tomorrow at 9:00 AM",
+    // "In next 3 days at 9:00 AM" within its advance notice, "On 25 Nov 2026 at 9:00 AM" beyond,
+    // "No further repeat" for a rule past its end, and nothing for a row without a next date.
+    QString nextTimeLabel(const CatalogueRow& row) const;
+
     // "minute", "2 mins", "hour", "3 hours", ... for a unit code and count.
     static QString intervalText(int repeatType, int count);
     // The next date of a suggestion, as suggestionText words it.

@@ -8,6 +8,7 @@
 #include "core/scheduling/Catalogue.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/ItemListView.h"
+#include "ui/main/RepeatListView.h"
 #include "ui/widgets/Balloon.h"
 #include "ui/widgets/Dialogs.h"
 #include "ui/widgets/ViewSwitcher.h"
@@ -133,7 +134,7 @@ void MainView::registerViews()
         return comingView(tr("The dashboard comes with the reports."));
     });
     m_switcher->registerView(QStringLiteral("RepeatList"),
-                             [] { return comingView(tr("The repeat list comes with its form.")); });
+                             [this] { return new RepeatListView(m_services); });
 }
 
 void MainView::connectSidebar()

@@ -1,4 +1,5 @@
 #include "core/dates/CalendarContext.h"
+#include "core/library/Library.h"
 #include "core/model/RepeatCodes.h"
 #include "core/scheduling/Catalogue.h"
 #include "core/scheduling/Generator.h"
@@ -198,6 +199,93 @@ private Q_SLOTS:
         QVERIFY(water->isActive);
         QCOMPARE(app().library().items().size(), std::size_t(1));
         QCOMPARE(*app().library().items().front()->dtReminder(), at(2026, 11, 23, 9, 0));
+    }
+
+    // The row's switch: a suggestion becomes a rule with one occurrence; off keeps the rule and
+    // what was done; a rule past its end stays off, without a word.
+    void theSwitchOfARow()
+    {
+        launch([](ObjectContext& ctx) {
+            Rule* ended = storedRule(ctx, QStringLiteral("Ended"), true);
+            ended->setIsActive(false);
+            ended->setRepeatOption(RepeatEnd::untilDate);
+            ended->setDtRepeatUpto(at(2026, 11, 22));
+        });
+        const CatalogueRowPtr water = row(QStringLiteral("Water time"));
+        QVERIFY(water->isDummy());
+        QVERIFY(catalogue().switchRow(*water, true));
+        Rule* rule = water->representedObject;
+        QVERIFY(rule && *rule->isActive());
+        const auto occurrencesOf = [this](const Rule* r) {
+            std::vector<Item*> found;
+            for (Item* item : app().library().items()) {
+                if (item->uniqueId() == r->uniqueId())
+                    found.push_back(item);
+            }
+            return found;
+        };
+        QCOMPARE(occurrencesOf(rule).size(), std::size_t(1));
+        // Switching on again makes no second occurrence.
+        QVERIFY(catalogue().switchRow(*water, true));
+        QCOMPARE(occurrencesOf(rule).size(), std::size_t(1));
+
+        Item* done = app().addItem(QStringLiteral("Water time"), at(2026, 11, 22, 10));
+        done->setUniqueId(rule->uniqueId());
+        done->setHasFinished(true);
+        QVERIFY(!catalogue().switchRow(*water, false));
+        QVERIFY(!*rule->isActive());
+        QVERIFY(rule->hasContext());
+        QCOMPARE(occurrencesOf(rule), std::vector<Item*>{done});
+        QVERIFY(water->nextRepeatOn == std::nullopt);
+
+        const CatalogueRowPtr ended = row(QStringLiteral("Ended"));
+        QSignalSpy told(&app().library(), &Library::rulesChanged);
+        QVERIFY(!catalogue().switchRow(*ended, true));
+        QVERIFY(!*ended->representedObject->isActive());
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(app().services().texts.nextTimeLabel(*ended), QStringLiteral("No further repeat"));
+
+        // Deleting a custom rule takes its row, and the custom header with the last one.
+        catalogue().deleteRule(ended->representedObject);
+        QVERIFY(!row(QStringLiteral("Ended")));
+        QVERIFY(rows().back()->title != Catalogue::customHeaderTitle());
+    }
+
+    void nextTimeLabels_data()
+    {
+        QTest::addColumn<Date>("next");
+        QTest::addColumn<int>("remindBefore");
+        QTest::addColumn<QString>("label");
+        const Date now = at(2026, 11, 23, 8, 0);
+        const auto time = [](Date d) { return d.toString(DateStyle::None, DateStyle::Short); };
+        QTest::newRow("in an hour and five")
+            << now.dateByAddingMinutes(65) << 0 << QStringLiteral("In next 1 hr 5 min");
+        QTest::newRow("in two hours")
+            << now.dateByAddingHours(2) << 0 << QStringLiteral("In next 2 hr ");
+        QTest::newRow("now") << now.dateByAddingSeconds(30) << 0 << QStringLiteral("Now");
+        QTest::newRow("gone by") << now.dateBySubtractingMinutes(1) << 0 << QString();
+        const Date tomorrow = at(2026, 11, 24, 9, 30);
+        QTest::newRow("tomorrow, within notice")
+            << tomorrow << 1 << QStringLiteral("Tomorrow at ") + time(tomorrow);
+        const Date thursday = at(2026, 11, 26, 9, 30);
+        QTest::newRow("three days, within notice")
+            << thursday << 3 << QStringLiteral("In next 3 days at ") + time(thursday);
+        QTest::newRow("beyond notice")
+            << thursday << 0 << QStringLiteral("On 26 Nov 2026 at ") + time(thursday);
+    }
+
+    void nextTimeLabels()
+    {
+        QFETCH(Date, next);
+        QFETCH(int, remindBefore);
+        QFETCH(QString, label);
+        launch();
+        CatalogueRow row;
+        row.nextRepeatOn = next;
+        row.remindBefore = remindBefore;
+        QCOMPARE(app().services().texts.nextTimeLabel(row), label);
+        row.nextRepeatOn.reset();
+        QVERIFY(app().services().texts.nextTimeLabel(row).isEmpty());
     }
 
     void onlySuggestionsWithoutARuleAreRefreshed()

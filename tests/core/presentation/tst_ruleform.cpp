@@ -1,0 +1,179 @@
+#include "core/dates/CalendarContext.h"
+#include "core/library/Library.h"
+#include "core/model/RepeatCodes.h"
+#include "core/presentation/RuleForm.h"
+#include "core/scheduling/Catalogue.h"
+#include "support/DatePrinting.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+// The rule form's Done: what it stores, and when the rule's open occurrence must go.
+class TestRuleForm : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    Launched& app() { return *m_app; }
+    RuleForm form()
+    {
+        const Services& s = app().services();
+        return RuleForm({s.clock, s.library, s.generator, s.catalogue});
+    }
+
+    std::vector<Item*> openOf(const Rule* rule)
+    {
+        std::vector<Item*> found;
+        for (Item* item : app().library().items()) {
+            if (item->uniqueId() == rule->uniqueId() && !item->isFinished())
+                found.push_back(item);
+        }
+        return found;
+    }
+
+    // A timed rule every two hours from 10:00 today, switched on, with its occurrence.
+    Rule* timedRule()
+    {
+        RuleForm::Fields fields = form().blankFields();
+        fields.title = QStringLiteral("Stretch");
+        fields.toDo = false;
+        fields.minutes = 10;
+        fields.time = at(2026, 11, 23, 10, 0);
+        fields.repeatCount = QStringLiteral("2");
+        fields.unit = RepeatUnit::Hour;
+        RuleForm f = form();
+        if (f.done(fields, nullptr, false) != RuleForm::Outcome::Saved)
+            return nullptr;
+        return app().library().rules().back();
+    }
+
+private Q_SLOTS:
+    void initTestCase() { lullet::test::useTestCalendar(); }
+
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 9, 0, 17));
+        QVERIFY(app().open());
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void aNewRuleIsStoredWithItsIdAndOccurrence()
+    {
+        Rule* rule = timedRule();
+        QVERIFY(rule);
+        QCOMPARE(*rule->uniqueId(), QStringLiteral("Stretch_1795420817.0"));
+        QCOMPARE(*rule->isCustom(), true);
+        QCOMPARE(*rule->isToDoOrJob(), false);
+        QCOMPARE(*rule->shouldRemind(), true);
+        QCOMPARE(*rule->dtReminder(), at(2026, 11, 23, 10, 0));
+        QCOMPARE(openOf(rule).size(), std::size_t(1));
+        QCOMPARE(*openOf(rule).front()->dtReminder(), at(2026, 11, 23, 10, 0));
+    }
+
+    void refusalsChangeNothing()
+    {
+        RuleForm f = form();
+        RuleForm::Fields fields = f.blankFields();
+        fields.title = QStringLiteral("   ");
+        QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::BlankName);
+        fields.title = QStringLiteral("Stretch");
+        for (const QString& count : {QString(), QStringLiteral("0")}) {
+            fields.repeatCount = count;
+            QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::NoRepeatCount);
+        }
+        QVERIFY(app().library().rules().empty());
+        QVERIFY(app().library().items().empty());
+    }
+
+    // Only a change of the schedule replaces the open occurrence; notes or a new time of day on
+    // the same day leave it as it is.
+    void aScheduleChangeReplacesTheOccurrence()
+    {
+        Rule* rule = timedRule();
+        Item* first = openOf(rule).front();
+        RuleForm f = form();
+
+        RuleForm::Fields fields = RuleForm::fieldsOf(*rule);
+        fields.notes = QStringLiteral("gently");
+        QCOMPARE(f.done(fields, rule, false), RuleForm::Outcome::Saved);
+        QCOMPARE(openOf(rule), std::vector<Item*>{first});
+        QCOMPARE(*rule->notes(), QStringLiteral("gently"));
+
+        fields.time = at(2026, 11, 23, 10, 30);
+        QCOMPARE(f.done(fields, rule, false), RuleForm::Outcome::Saved);
+        QCOMPARE(openOf(rule), std::vector<Item*>{first});
+        QCOMPARE(*first->dtReminder(), at(2026, 11, 23, 10, 0));
+
+        fields.unit = RepeatUnit::Day;
+        fields.repeatCount = QStringLiteral("1");
+        QCOMPARE(f.done(fields, rule, false), RuleForm::Outcome::Saved);
+        QCOMPARE(openOf(rule).size(), std::size_t(1));
+        QVERIFY(openOf(rule).front() != first);
+        QVERIFY(!first->hasContext());
+        QCOMPARE(*openOf(rule).front()->dtReminder(), at(2026, 11, 23, 10, 30));
+
+        // A to-do rule starts afresh at every edit, notes included.
+        fields.toDo = true;
+        QCOMPARE(f.done(fields, rule, false), RuleForm::Outcome::Saved);
+        Item* toDo = openOf(rule).front();
+        fields.notes = QStringLiteral("again");
+        QCOMPARE(f.done(fields, rule, false), RuleForm::Outcome::Saved);
+        QCOMPARE(openOf(rule).size(), std::size_t(1));
+        QVERIFY(openOf(rule).front() != toDo);
+        QCOMPARE(*openOf(rule).front()->notes(), QStringLiteral("again"));
+
+        // Switched off: no open occurrence is left.
+        fields.active = false;
+        QCOMPARE(f.done(fields, rule, false), RuleForm::Outcome::Saved);
+        QVERIFY(openOf(rule).empty());
+    }
+
+    void theNoticeRowIsStoredAsItsRow()
+    {
+        RuleForm::Fields fields = form().blankFields();
+        fields.title = QStringLiteral("Review");
+        fields.remindBeforeRow = 8; // "10 days"
+        RuleForm f = form();
+        QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::Saved);
+        Rule* rule = app().library().rules().back();
+        QCOMPARE(*rule->remindBefore(), 8);
+        QCOMPARE(RuleForm::fieldsOf(*rule).remindBeforeRow, 8);
+        QCOMPARE(RemindBefore::labels().at(8), QStringLiteral("10 days"));
+    }
+
+    // A suggestion's defaults fill the form; stored from there it stays a suggestion's rule.
+    void aSuggestionOpensWithItsDefaults()
+    {
+        const Catalogue& catalogue = app().services().catalogue;
+        CatalogueRowPtr walk;
+        for (const CatalogueRowPtr& row : catalogue.rows()) {
+            if (row->title == QStringLiteral("Walk break"))
+                walk = row;
+        }
+        QVERIFY(walk && walk->isDummy());
+        RuleForm f = form();
+        const RuleForm::Fields fields = f.fieldsFor(*walk);
+        QCOMPARE(fields.title, walk->title);
+        QCOMPARE(fields.toDo, walk->isToDoOrJob.value_or(true));
+        QCOMPARE(fields.repeatCount, QString::number(walk->defaultRepeatValue.value_or(15)));
+        QCOMPARE(f.done(fields, nullptr, true), RuleForm::Outcome::Saved);
+        QCOMPARE(*app().library().rules().back()->isCustom(), false);
+        QCOMPARE(walk->representedObject, app().library().rules().back());
+    }
+};
+
+LULLET_TEST_MAIN(TestRuleForm)
+#include "tst_ruleform.moc"

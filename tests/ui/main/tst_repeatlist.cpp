@@ -1,0 +1,162 @@
+#include "core/dates/CalendarContext.h"
+#include "core/library/Library.h"
+#include "core/scheduling/Catalogue.h"
+#include "support/DatePrinting.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+#include "ui/authoring/RuleFormView.h"
+#include "ui/main/RepeatListModel.h"
+#include "ui/main/RepeatListView.h"
+#include "ui/widgets/Balloon.h"
+#include "ui/widgets/Dialogs.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTableView>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+// The "Lullets" segment on screen: switching suggestions on, the form, deleting.
+class TestRepeatList : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    Launched& app() { return *m_app; }
+
+    static int rowTitled(RepeatListModel& model, const QString& title)
+    {
+        for (int row = 0; row < model.rowCount(); ++row) {
+            if (model.rowAt(row)->title == title && model.rowAt(row)->type == CatalogueRow::ItemRow)
+                return row;
+        }
+        return -1;
+    }
+
+    // For review: with LULLET_SHOTS set to a folder, the widgets are saved there as pictures.
+    static void saveShot(QWidget* widget, const QString& name)
+    {
+        const QString folder = qEnvironmentVariable("LULLET_SHOTS");
+        if (!folder.isEmpty())
+            widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
+    }
+
+private Q_SLOTS:
+    void initTestCase() { lullet::test::useTestCalendar(); }
+
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 8, 0));
+        QVERIFY(app().open());
+        Dialogs::forgetAsked();
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void aSuggestionIsSwitchedOnFromItsRow()
+    {
+        RepeatListView view(app().services());
+        view.resize(760, 600);
+        view.show();
+        RepeatListModel& model = view.model();
+        const int water = rowTitled(model, QStringLiteral("Water time"));
+        QVERIFY(water > 0);
+        // Headings are read, not chosen or switched.
+        QCOMPARE(model.flags(model.index(0, 0)), Qt::ItemIsEnabled);
+
+        const QModelIndex on = model.index(water, RepeatListModel::SwitchColumn);
+        QVERIFY(model.setData(on, Qt::Checked, Qt::CheckStateRole));
+        QCoreApplication::processEvents();
+        const int row = rowTitled(model, QStringLiteral("Water time"));
+        QCOMPARE(model.index(row, 0).data(Qt::CheckStateRole).value<Qt::CheckState>(), Qt::Checked);
+        Rule* rule = model.rowAt(row)->representedObject;
+        QVERIFY(rule && *rule->isActive());
+        QCOMPARE(app().library().items().size(), std::size_t(1));
+        QVERIFY(!model.index(row, RepeatListModel::NextColumn).data().toString().isEmpty());
+        saveShot(&view, QStringLiteral("repeat-list"));
+
+        QVERIFY(model.setData(model.index(row, 0), Qt::Unchecked, Qt::CheckStateRole));
+        QVERIFY(!*rule->isActive());
+        QVERIFY(app().library().items().empty());
+    }
+
+    void theFormMakesAndEditsARule()
+    {
+        RepeatListView view(app().services());
+        view.show();
+        RuleFormView* form = view.openForm(nullptr);
+        saveShot(form, QStringLiteral("rule-form"));
+        QCOMPARE(form->submit(), RuleForm::Outcome::BlankName);
+        auto* name = form->findChild<QComboBox*>(QStringLiteral("name"));
+        QVERIFY(Balloon::of(name));
+        name->setCurrentText(QStringLiteral("Knee bends"));
+        form->findChild<QLineEdit*>(QStringLiteral("repeatCount"))->setText(QStringLiteral("0"));
+        QCOMPARE(form->submit(), RuleForm::Outcome::NoRepeatCount);
+        form->findChild<QLineEdit*>(QStringLiteral("repeatCount"))->setText(QStringLiteral("45"));
+        QCOMPARE(form->submit(), RuleForm::Outcome::Saved);
+        QCoreApplication::processEvents();
+
+        // The new rule is listed under "Custom breaks", switched on.
+        RepeatListModel& model = view.model();
+        const int row = rowTitled(model, QStringLiteral("Knee bends"));
+        QVERIFY(row > 0);
+        QCOMPARE(model.rowAt(row - 1)->title, Catalogue::customHeaderTitle());
+        Rule* rule = model.rowAt(row)->representedObject;
+        QCOMPARE(*rule->repeatInterval(), 45);
+
+        // Opened on the rule, the form shows it; Done stores the edit on the same rule.
+        RuleFormView* edit = view.openForm(model.rowAt(row));
+        QCOMPARE(edit->fields().repeatCount, QStringLiteral("45"));
+        RuleForm::Fields fields = edit->fields();
+        fields.notes = QStringLiteral("stretch the legs");
+        edit->setFields(fields);
+        QCOMPARE(edit->submit(), RuleForm::Outcome::Saved);
+        QCOMPARE(*rule->notes(), QStringLiteral("stretch the legs"));
+        QCOMPARE(app().library().rules().size(), std::size_t(1));
+    }
+
+    void onlyCustomRulesCanBeDeleted()
+    {
+        RepeatListView view(app().services());
+        RepeatListModel& model = view.model();
+        std::unique_ptr<QMenu> suggestion(
+            view.buildMenu(model.rowAt(rowTitled(model, QStringLiteral("Water time")))));
+        QCOMPARE(suggestion->actions().size(), 1);
+
+        RuleFormView* form = view.openForm(nullptr);
+        form->findChild<QComboBox*>(QStringLiteral("name"))->setCurrentText(QStringLiteral("Mine"));
+        QCOMPARE(form->submit(), RuleForm::Outcome::Saved);
+        QCoreApplication::processEvents();
+        const CatalogueRow* mine = model.rowAt(rowTitled(model, QStringLiteral("Mine")));
+        std::unique_ptr<QMenu> custom(view.buildMenu(mine));
+        QCOMPARE(custom->actions().size(), 2);
+
+        // "No" keeps it; "Yes" deletes it, and the "Custom breaks" heading goes with it.
+        Dialogs::answerNext(1);
+        custom->actions().at(1)->trigger();
+        QCOMPARE(app().library().rules().size(), std::size_t(1));
+        QCOMPARE(Dialogs::asked().back().text, QStringLiteral("Are you sure to delete ?"));
+        Dialogs::answerNext(0);
+        custom->actions().at(1)->trigger();
+        QCoreApplication::processEvents();
+        QVERIFY(app().library().rules().empty());
+        QCOMPARE(rowTitled(model, QStringLiteral("Mine")), -1);
+        QVERIFY(model.rowAt(model.rowCount() - 1)->title != Catalogue::customHeaderTitle());
+    }
+};
+
+LULLET_TEST_MAIN_WITH(QApplication, TestRepeatList)
+#include "tst_repeatlist.moc"

@@ -178,6 +178,16 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const
     }
 }
 
+Qt::ItemFlags ItemListModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid() || index.row() >= rowCount())
+        return Qt::NoItemFlags;
+    // A day's heading is read, not chosen.
+    if (m_rows[std::size_t(index.row())].type == ListRow::DayHeading)
+        return Qt::ItemIsEnabled;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+}
+
 QVariant ItemListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)

@@ -162,6 +162,20 @@ private Q_SLOTS:
         QVERIFY(all[rules]->isFinished());
     }
 
+    // Day headings group the Completed list: they are read, not selected.
+    void dayHeadingsAreNotSelectable()
+    {
+        Item* done = item(QStringLiteral("Read"), at(2026, 11, 24, 10, 0));
+        done->setHasFinished(true);
+        ItemListView view(app().services(), {QStringLiteral("Completed"), nullptr, false}, true);
+        QCOMPARE(view.model().rowCount(), 2);
+        QCOMPARE(view.model().flags(view.model().index(0, ItemListModel::TitleColumn)),
+                 Qt::ItemIsEnabled);
+        QCOMPARE(view.model().rows()[1].representedObject, done);
+        QVERIFY(view.model().flags(view.model().index(1, ItemListModel::TitleColumn)) &
+                Qt::ItemIsSelectable);
+    }
+
     void aRunningItemCannotBeRescheduledFromItsMenu()
     {
         Item* running = item(QStringLiteral("Busy"), at(2026, 11, 25, 11, 0));

@@ -194,6 +194,13 @@ void ItemListView::listenToChanges()
     connect(&library, &Library::itemsChanged, this, &ItemListView::onItemsChanged);
     connect(&library, &Library::itemRemoved, this, &ItemListView::reload);
     connect(&library, &Library::itemPostponed, this, &ItemListView::onPostponed);
+    // An item moved between projects leaves the one's list at once and joins the other's; the
+    // day's lists show the new project's name.
+    connect(&library, &Library::projectContentChanged, this, [this](Project* project) {
+        const Project* shown = m_model->scope().project;
+        if (!shown || shown == project)
+            reload();
+    });
     const RunningItem& running = m_services.running;
     connect(&running, &RunningItem::started, this, &ItemListView::onRunningChanged);
     connect(&running, &RunningItem::finished, this, &ItemListView::onRunningChanged);

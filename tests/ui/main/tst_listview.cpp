@@ -1,3 +1,4 @@
+#include "core/activity/ItemActions.h"
 #include "core/dates/CalendarContext.h"
 #include "core/model/RepeatCodes.h"
 #include "core/scheduling/Catalogue.h"
@@ -174,6 +175,27 @@ private Q_SLOTS:
         QCOMPARE(view.model().rows()[1].representedObject, done);
         QVERIFY(view.model().flags(view.model().index(1, ItemListModel::TitleColumn)) &
                 Qt::ItemIsSelectable);
+    }
+
+    // "Move to" takes the row out of the project's list at once, and the counts follow.
+    void aMovedItemLeavesItsProjectList()
+    {
+        Project* home = app().library().newProject();
+        home->setName(QStringLiteral("Home"));
+        app().library().addProject(home);
+        Project* work = app().library().newProject();
+        work->setName(QStringLiteral("Work"));
+        app().library().addProject(work);
+        Item* task = item(QStringLiteral("Paint"), at(2026, 11, 25, 14, 0));
+        task->setToProject(home);
+        ItemListView homeList(app().services(), {QStringLiteral("Project"), home, false}, true);
+        ItemListView workList(app().services(), {QStringLiteral("Project"), work, false}, true);
+        QVERIFY(homeList.model().rowOf(task) >= 0);
+        QCOMPARE(workList.model().rowOf(task), -1);
+
+        app().services().itemActions.moveToProject(*task, work);
+        QCOMPARE(homeList.model().rowOf(task), -1);
+        QVERIFY(workList.model().rowOf(task) >= 0);
     }
 
     void aRunningItemCannotBeRescheduledFromItsMenu()

@@ -10,6 +10,8 @@
 #include "core/monitor/Monitor.h"
 #include "core/presentation/RowTexts.h"
 #include "core/presentation/TaskStats.h"
+#include "core/settings/Settings.h"
+#include "core/settings/SettingsKeys.h"
 #include "core/text/LocalizedText.h"
 #include "ui/main/ItemListModel.h"
 #include "ui/main/PostponePanel.h"
@@ -20,6 +22,7 @@
 #include "ui/widgets/HexColor.h"
 #include "ui/widgets/StyledButton.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -75,6 +78,7 @@ void ItemListView::buildHeader(QVBoxLayout* layout)
     m_name->setFont(big);
     texts->addWidget(m_name);
     buildCounts(texts);
+    buildIdleSwitch(texts);
     header->addLayout(texts, 1);
     if (scope.project)
         buildProjectButtons(header, scope.project);
@@ -96,6 +100,21 @@ void ItemListView::buildHeader(QVBoxLayout* layout)
         m_chart->setMaximumHeight(200);
         layout->addWidget(m_chart);
     }
+}
+
+void ItemListView::buildIdleSwitch(QVBoxLayout* texts)
+{
+    Settings& settings = m_services.settings;
+    auto* ask = new QCheckBox(tr("Ask what I am doing when nothing runs"), this);
+    ask->setObjectName(QStringLiteral("askWhenIdle"));
+    ask->setChecked(!settings.idleQuestionsOff());
+    connect(ask, &QCheckBox::toggled, this, [this, &settings](bool on) {
+        settings.setValue(SettingsKeys::disableAutoPrompt, on ? 0 : 1);
+        // Switched on, the question comes at once rather than a prompt period later.
+        if (on && !m_services.running.item())
+            m_services.monitor.askWhatNow();
+    });
+    texts->addWidget(ask);
 }
 
 void ItemListView::buildCounts(QVBoxLayout* texts)

@@ -54,6 +54,8 @@ protected:
 private:
     void buildHeader(QVBoxLayout* layout);
     void buildCounts(QVBoxLayout* texts);
+    // The switch of the idle question ("disableAutoPrompt").
+    void buildIdleSwitch(QVBoxLayout* texts);
     void buildProjectButtons(QHBoxLayout* header, Project* project);
     void buildTable(QVBoxLayout* layout);
     void listenToChanges();

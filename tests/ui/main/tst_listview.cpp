@@ -1,7 +1,9 @@
 #include "core/activity/ItemActions.h"
 #include "core/dates/CalendarContext.h"
 #include "core/model/RepeatCodes.h"
+#include "core/monitor/Monitor.h"
 #include "core/scheduling/Catalogue.h"
+#include "core/settings/Settings.h"
 #include "support/DatePrinting.h"
 #include "support/Launched.h"
 #include "support/TestCalendar.h"
@@ -11,6 +13,7 @@
 #include "ui/main/PostponePanel.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDateTimeEdit>
 #include <QDir>
 #include <QMenu>
@@ -196,6 +199,25 @@ private Q_SLOTS:
         app().services().itemActions.moveToProject(*task, work);
         QCOMPARE(homeList.model().rowOf(task), -1);
         QVERIFY(workList.model().rowOf(task) >= 0);
+    }
+
+    // The idle question can be switched off from the list; switched on, it asks at once.
+    void theIdleQuestionsSwitch()
+    {
+        ItemListView view(app().services(), {}, true);
+        auto* ask = view.findChild<QCheckBox*>(QStringLiteral("askWhenIdle"));
+        QVERIFY(ask && ask->isChecked());
+        QSignalSpy asked(&app().monitor(), &Monitor::idleQuestionDue);
+        ask->setChecked(false);
+        QVERIFY(app().settings.idleQuestionsOff());
+        app().monitor().askWhatNow();
+        QCoreApplication::processEvents();
+        QCOMPARE(asked.count(), 0);
+        ask->setChecked(true);
+        QCoreApplication::processEvents();
+        QVERIFY(!app().settings.idleQuestionsOff());
+        QCOMPARE(asked.count(), 1);
+        QCOMPARE(asked.front().at(1).toBool(), true);
     }
 
     void aRunningItemCannotBeRescheduledFromItsMenu()

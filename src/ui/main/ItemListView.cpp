@@ -105,8 +105,9 @@ void ItemListView::buildHeader(QVBoxLayout* layout)
 void ItemListView::buildIdleSwitch(QVBoxLayout* texts)
 {
     Settings& settings = m_services.settings;
-    auto* ask = new QCheckBox(tr("Ask what I am doing when nothing runs"), this);
+    auto* ask = new QCheckBox(tr("Ask when idle"), this);
     ask->setObjectName(QStringLiteral("askWhenIdle"));
+    ask->setToolTip(tr("When nothing runs in working hours, ask what you have been doing"));
     ask->setChecked(!settings.idleQuestionsOff());
     connect(ask, &QCheckBox::toggled, this, [this, &settings](bool on) {
         settings.setValue(SettingsKeys::disableAutoPrompt, on ? 0 : 1);

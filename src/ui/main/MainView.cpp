@@ -161,11 +161,13 @@ void MainView::connectSidebar()
 void MainView::listenToChanges()
 {
     const Library& library = m_services.library;
-    // Counts follow the running item each second, and every change of the items.
+    // Counts follow the running item each second, the clock each minute (an item crosses now or
+    // midnight while nothing runs), and every change of the items.
     connect(&m_services.monitor, &Monitor::ticked, this, [this] {
         if (m_services.running.item())
             updateCounts();
     });
+    connect(&m_services.monitor, &Monitor::minutePassed, this, &MainView::updateCounts);
     connect(&library, &Library::itemsChanged, this, &MainView::updateCounts);
     connect(&library, &Library::itemRemoved, this, &MainView::updateCounts);
     connect(&library, &Library::itemPostponed, this, &MainView::updateCounts);

@@ -83,6 +83,18 @@ private Q_SLOTS:
         QCOMPARE(view.selectedSegment(), QStringLiteral("Completed"));
     }
 
+    // Counts stay true while nothing runs: at midnight tomorrow's task joins Today.
+    void theCountsFollowTheClock()
+    {
+        app().addItem(QStringLiteral("Plant the bulbs"), at(2026, 11, 26, 9, 0));
+        MainView view(app().services());
+        m_app->clock.set(at(2026, 11, 25, 23, 59, 0));
+        QCOMPARE(view.rows()[2].count, std::optional<int>(1));
+        m_app->runUntil(at(2026, 11, 26, 0, 0, 1));
+        QCoreApplication::processEvents();
+        QCOMPARE(view.rows()[2].count, std::optional<int>(2));
+    }
+
     void upcomingGivesWayToTodayWhenAnItemStarts()
     {
         MainView view(app().services());

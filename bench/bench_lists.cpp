@@ -1,11 +1,12 @@
-// Building "Today" and its statistics from a large store, and the per-second refresh of the
-// running row.
+// Building "Today" and its statistics from a large store, the per-second refresh of the running
+// row, the sidebar, and the repeat list with its labels.
 #include "BenchClock.h"
 #include "BenchLaunch.h"
 #include "core/presentation/Sidebar.h"
 #include "core/presentation/TaskStats.h"
 #include "core/scheduling/Catalogue.h"
 #include "ui/main/ItemListModel.h"
+#include "ui/main/RepeatListModel.h"
 
 #include <QCoreApplication>
 
@@ -55,5 +56,24 @@ int main(int argc, char* argv[])
     report("sidebar counts over 50,000 items (each second)", counts, 3e6);
     const double full = medianNanos(21, [&] { sink = sink + qint64(sidebar.rows().size()); });
     report("the whole sidebar with every project's progress", full, 20e6);
+
+    // The repeat list: rebuilt at every change of a rule or an item, its labels each minute.
+    RepeatListModel repeats(services.catalogue, services.texts);
+    const auto readColumn = [&](int column) {
+        for (int row = 0; row < repeats.rowCount(); ++row)
+            sink = sink + repeats.index(row, column).data().toString().size();
+    };
+    const double repeatReload = medianNanos(101, [&] {
+        repeats.reload();
+        readColumn(RepeatListModel::LulletColumn);
+        readColumn(RepeatListModel::NextColumn);
+    });
+    report("the repeat list with 100 rules, every row read", repeatReload, 5e6);
+    std::printf("  (%d rows)\n", repeats.rowCount());
+    const double labels = medianNanos(1001, [&] {
+        repeats.refreshLabels();
+        readColumn(RepeatListModel::NextColumn);
+    });
+    report("the repeat list's next-time labels (each minute)", labels, 1e6);
     return 0;
 }

@@ -59,8 +59,6 @@ QVariant RepeatListModel::data(const QModelIndex& index, int role) const
         return {};
     const bool header = row->type == CatalogueRow::Header;
     switch (role) {
-    case RowRole:
-        return QVariant::fromValue(static_cast<const void*>(row));
     case Qt::DisplayRole:
         if (header)
             return index.column() == SwitchColumn ? row->title : QVariant();

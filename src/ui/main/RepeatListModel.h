@@ -17,7 +17,6 @@ class RepeatListModel final : public QAbstractTableModel {
     Q_OBJECT
 public:
     enum Column { SwitchColumn, LulletColumn, NextColumn, ColumnCount };
-    enum Role { RowRole = Qt::UserRole + 1 };
 
     RepeatListModel(Catalogue& catalogue, const ScheduleTexts& texts, QObject* parent = nullptr);
 

@@ -6,6 +6,7 @@
 #include "core/settings/Settings.h"
 #include "support/DatePrinting.h"
 #include "support/Launched.h"
+#include "support/Shots.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
 #include "ui/main/ItemListModel.h"
@@ -15,7 +16,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDateTimeEdit>
-#include <QDir>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
@@ -43,14 +43,6 @@ class TestListView : public QObject {
         r->setRemindBefore(0);
         r->setDurationMin(15);
         return r;
-    }
-
-    // For review: with LULLET_SHOTS set to a folder, the widgets are saved there as pictures.
-    static void saveShot(QWidget* widget, const QString& name)
-    {
-        const QString folder = qEnvironmentVariable("LULLET_SHOTS");
-        if (!folder.isEmpty())
-            widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
     }
 
     static QAction* action(QMenu* menu, const QString& text)

@@ -2,6 +2,7 @@
 #include "core/dates/CalendarContext.h"
 #include "support/DatePrinting.h"
 #include "support/Launched.h"
+#include "support/Shots.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
 #include "ui/authoring/DateChooser.h"
@@ -12,7 +13,6 @@
 #include "ui/widgets/ViewSwitcher.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -32,13 +32,6 @@ class TestMainView : public QObject {
     std::unique_ptr<Launched> m_app;
 
     Launched& app() { return *m_app; }
-
-    static void saveShot(QWidget* widget, const QString& name)
-    {
-        const QString folder = qEnvironmentVariable("LULLET_SHOTS");
-        if (!folder.isEmpty())
-            widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
-    }
 
 private Q_SLOTS:
     void initTestCase() { lullet::test::useTestCalendar(); }

@@ -3,6 +3,7 @@
 #include "core/scheduling/Catalogue.h"
 #include "support/DatePrinting.h"
 #include "support/Launched.h"
+#include "support/Shots.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
 #include "ui/authoring/RuleFormView.h"
@@ -13,7 +14,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTableView>
@@ -39,14 +39,6 @@ class TestRepeatList : public QObject {
                 return row;
         }
         return -1;
-    }
-
-    // For review: with LULLET_SHOTS set to a folder, the widgets are saved there as pictures.
-    static void saveShot(QWidget* widget, const QString& name)
-    {
-        const QString folder = qEnvironmentVariable("LULLET_SHOTS");
-        if (!folder.isEmpty())
-            widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
     }
 
 private Q_SLOTS:

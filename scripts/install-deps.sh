@@ -8,6 +8,7 @@ packages=(
   qt6-base-dev qt6-base-dev-tools
   libicu-dev libsqlite3-dev libgl-dev
   xvfb xauth dbus dbus-x11 fonts-dejavu-core clang-format
+  openbox xdotool x11-utils
 )
 
 missing=()

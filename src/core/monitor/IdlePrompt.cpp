@@ -63,6 +63,14 @@ void IdlePrompt::leaveUnanswered()
         m_running.setUnansweredGapStart(m_since);
 }
 
+void IdlePrompt::putOff()
+{
+    if (m_answered)
+        return;
+    leaveUnanswered();
+    m_running.stampPrompt(m_clock.now());
+}
+
 PromptOutcome IdlePrompt::answer(const QString& text, Project* project, bool alreadyDone)
 {
     const QString title = text.trimmed();

@@ -43,6 +43,9 @@ public:
     PromptOutcome answer(const QString& text, Project* project, bool alreadyDone);
     // The question goes away unanswered: the next one takes over its gap.
     void leaveUnanswered();
+    // The user put the question off: it comes back, over the whole gap, one prompt period from
+    // now rather than at the next minute that finds the period over.
+    void putOff();
 
 private:
     const Clock& m_clock;

@@ -21,6 +21,8 @@ inline constexpr QLatin1String schedules{"schedules"};
 // An unreadable "schedules" value, kept here before the default week takes its place.
 inline constexpr QLatin1String schedulesUnreadable{"schedulesUnreadable"};
 inline constexpr QLatin1String backupFiles2{"backupFiles2"};
+// Where the main window stood and how large it was, as Qt saves a window's geometry.
+inline constexpr QLatin1String mainWindowGeometry{"mainWindowGeometry"};
 
 // Keys inside the "passwordValues" dictionary.
 inline constexpr QLatin1String isPassword{"isPassword"};

@@ -1,9 +1,13 @@
 #include "ui/authoring/DateChooser.h"
 
 #include <QCalendarWidget>
+#include <QEvent>
 #include <QHBoxLayout>
+#include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QTimeEdit>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace lullet {
@@ -21,6 +25,11 @@ DateChooser::DateChooser(std::optional<Date> initial, std::optional<Date> minimu
     layout->addWidget(m_calendar);
     auto* row = new QHBoxLayout;
     m_time->setObjectName(QStringLiteral("time"));
+    m_time->setDisplayFormat(QLocale().timeFormat(QLocale::ShortFormat));
+    // A click puts the cursor into the hours or the minutes; what is typed there should replace
+    // them, as it does after Tab, rather than be refused as a third digit.
+    if (auto* field = m_time->findChild<QLineEdit*>())
+        field->installEventFilter(this);
     row->addWidget(m_time);
     row->addStretch();
     auto* none = new QPushButton(tr("No date"), this);
@@ -44,6 +53,14 @@ DateChooser::DateChooser(std::optional<Date> initial, std::optional<Date> minimu
         Q_EMIT unset();
         close();
     });
+}
+
+bool DateChooser::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease)
+        QTimer::singleShot(0, m_time,
+                           [time = m_time] { time->setSelectedSection(time->currentSection()); });
+    return QFrame::eventFilter(watched, event);
 }
 
 void DateChooser::popUpBelow(QWidget* anchor)

@@ -22,6 +22,9 @@ public:
     // Shows the chooser below the given widget.
     void popUpBelow(QWidget* anchor);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     void chosen(lullet::Date date);
     // The user wants no date at all.

@@ -7,6 +7,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -101,6 +102,16 @@ void QuickAddView::chooseDate()
         showDate();
     });
     chooser->popUpBelow(m_dateButton);
+}
+
+void QuickAddView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        Balloon::dismiss(m_name);
+        Q_EMIT dismissed();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void QuickAddView::add()

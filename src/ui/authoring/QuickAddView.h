@@ -33,6 +33,11 @@ public:
 Q_SIGNALS:
     // The task was added: the form may go.
     void added(lullet::Item* item);
+    // Escape: the form goes, nothing added.
+    void dismissed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void buildOptions(QVBoxLayout* layout);

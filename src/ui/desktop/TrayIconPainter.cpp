@@ -4,13 +4,19 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
+#include <QPen>
 #include <QPixmap>
+
+#include <algorithm>
 
 namespace lullet {
 
 QIcon TrayIconPainter::make()
 {
+    // The panel's colour can't be known: the desktop's text colour with a rim of the opposite
+    // lightness reads on dark and light panels alike.
     const QColor ink = QGuiApplication::palette().color(QPalette::WindowText);
+    const QColor rim = ink.lightness() < 128 ? QColor(255, 255, 255, 220) : QColor(0, 0, 0, 200);
     QIcon icon;
     for (const int size : {16, 22, 24, 32, 48, 64}) {
         QPixmap pixmap(size, size);
@@ -22,7 +28,9 @@ QIcon TrayIconPainter::make()
         moon.addEllipse(QRectF(s * 0.12, s * 0.12, s * 0.76, s * 0.76));
         QPainterPath bite;
         bite.addEllipse(QRectF(s * 0.34, s * 0.02, s * 0.66, s * 0.66));
-        painter.fillPath(moon.subtracted(bite), ink);
+        const QPainterPath shape = moon.subtracted(bite);
+        painter.strokePath(shape, QPen(rim, std::max(1.5, s / 12.0)));
+        painter.fillPath(shape, ink);
         painter.end();
         icon.addPixmap(pixmap);
     }

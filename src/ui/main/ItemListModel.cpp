@@ -196,7 +196,7 @@ QVariant ItemListModel::headerData(int section, Qt::Orientation orientation, int
     case StartColumn:
         return QString();
     case TitleColumn:
-        return tr("Lullet");
+        return tr("Name");
     case TimeColumn:
         return tr("Time");
     case DurationColumn:

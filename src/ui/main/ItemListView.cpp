@@ -9,6 +9,7 @@
 #include "core/library/Library.h"
 #include "core/monitor/Monitor.h"
 #include "core/presentation/RowTexts.h"
+#include "core/presentation/RunningStatus.h"
 #include "core/presentation/TaskStats.h"
 #include "core/settings/Settings.h"
 #include "core/settings/SettingsKeys.h"
@@ -19,16 +20,19 @@
 #include "ui/widgets/BarChart.h"
 #include "ui/widgets/CircularProgress.h"
 #include "ui/widgets/Dialogs.h"
+#include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/HexColor.h"
 #include "ui/widgets/StyledButton.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
-#include <QPushButton>
+#include <QScrollBar>
 #include <QTableView>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace lullet {
@@ -37,10 +41,12 @@ namespace {
 
 const QString ongoingColor = QStringLiteral("FC7274");
 const QString completedColor = QStringLiteral("A0CFAB");
+constexpr int minimumTitleWidth = 150;
 
-QLabel* countLabel(QWidget* parent)
+QLabel* countLabel(const QString& name, QWidget* parent)
 {
     auto* label = new QLabel(parent);
+    label->setObjectName(name);
     label->setForegroundRole(QPalette::PlaceholderText);
     return label;
 }
@@ -56,7 +62,8 @@ ItemListView::ItemListView(const Services& services, const ListBuilder::Scope& s
                                 withHeader && !scope.project, this))
 {
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(withHeader ? 16 : 0, withHeader ? 12 : 0, withHeader ? 16 : 0, 0);
+    layout->setContentsMargins(withHeader ? 16 : 0, withHeader ? 12 : 0, withHeader ? 16 : 0,
+                               withHeader ? 12 : 0);
     if (withHeader)
         buildHeader(layout);
     buildTable(layout);
@@ -70,20 +77,23 @@ void ItemListView::buildHeader(QVBoxLayout* layout)
     const ListBuilder::Scope& scope = m_model->scope();
     auto* header = new QHBoxLayout;
     auto* texts = new QVBoxLayout;
-    m_name =
-        new QLabel(scope.project ? scope.project->name().value_or(QString()) : scope.segment, this);
+    // A long project name gives way, whole in its tooltip; the badge and the circle keep their
+    // size.
+    m_name = new ElidedLabel(
+        scope.project ? scope.project->name().value_or(QString()) : scope.segment, this);
+    m_name->setObjectName(QStringLiteral("listName"));
     QFont big = m_name->font();
     big.setPointSizeF(big.pointSizeF() * 1.6);
     big.setBold(true);
     m_name->setFont(big);
     texts->addWidget(m_name);
     buildCounts(texts);
-    buildIdleSwitch(texts);
+    buildSwitchRow(texts, scope.project);
     header->addLayout(texts, 1);
-    if (scope.project)
-        buildProjectButtons(header, scope.project);
     m_status = new StyledButton(QString(), this);
+    m_status->setObjectName(QStringLiteral("status"));
     m_status->setHoverEnabled(false);
+    m_status->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     header->addWidget(m_status, 0, Qt::AlignVCenter);
     m_progress = new CircularProgress(this);
     m_progress->setColor(*HexColor::fromHex(ongoingColor));
@@ -102,8 +112,10 @@ void ItemListView::buildHeader(QVBoxLayout* layout)
     }
 }
 
-void ItemListView::buildIdleSwitch(QVBoxLayout* texts)
+// The idle question's switch ("disableAutoPrompt"), and a project's own buttons beside it.
+void ItemListView::buildSwitchRow(QVBoxLayout* texts, Project* project)
 {
+    auto* row = new QHBoxLayout;
     Settings& settings = m_services.settings;
     auto* ask = new QCheckBox(tr("Ask when idle"), this);
     ask->setObjectName(QStringLiteral("askWhenIdle"));
@@ -115,36 +127,55 @@ void ItemListView::buildIdleSwitch(QVBoxLayout* texts)
         if (on && !m_services.running.item())
             m_services.monitor.askWhatNow();
     });
-    texts->addWidget(ask);
+    row->addWidget(ask);
+    row->addStretch();
+    if (project)
+        buildProjectButtons(row, project);
+    texts->addLayout(row);
 }
 
+// Two counts a line, so that all four read in a narrow window.
 void ItemListView::buildCounts(QVBoxLayout* texts)
 {
-    auto* counts = new QHBoxLayout;
-    m_taskCount = countLabel(this);
-    m_completedCount = countLabel(this);
-    m_dueCount = countLabel(this);
-    m_todayCount = countLabel(this);
-    for (QLabel* label : {m_taskCount, m_completedCount, m_dueCount, m_todayCount})
-        counts->addWidget(label);
-    counts->addStretch();
+    auto* counts = new QGridLayout;
+    counts->setHorizontalSpacing(16);
+    counts->setVerticalSpacing(0);
+    m_taskCount = countLabel(QStringLiteral("taskCount"), this);
+    m_completedCount = countLabel(QStringLiteral("completedCount"), this);
+    m_dueCount = countLabel(QStringLiteral("dueCount"), this);
+    m_todayCount = countLabel(QStringLiteral("todayCount"), this);
+    counts->addWidget(m_taskCount, 0, 0);
+    counts->addWidget(m_completedCount, 0, 1);
+    counts->addWidget(m_dueCount, 1, 0);
+    counts->addWidget(m_todayCount, 1, 1);
+    counts->setColumnStretch(2, 1);
     texts->addLayout(counts);
-    m_timeUsed = countLabel(this);
+    m_timeUsed = countLabel(QStringLiteral("timeUsed"), this);
     texts->addWidget(m_timeUsed);
+    // The running item's own clock, the same text as the tray's panel shows.
+    m_runningClock = new ElidedLabel(QString(), this);
+    m_runningClock->setObjectName(QStringLiteral("runningClock"));
+    texts->addWidget(m_runningClock);
 }
 
-void ItemListView::buildProjectButtons(QHBoxLayout* header, Project* project)
+// A project's own actions, in one small menu so that the header fits a narrow window.
+void ItemListView::buildProjectButtons(QHBoxLayout* row, Project* project)
 {
-    auto* duplicate = new QPushButton(tr("Duplicate"), this);
+    auto* button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("projectActions"));
+    button->setText(tr("Project"));
+    button->setPopupMode(QToolButton::InstantPopup);
+    auto* menu = new QMenu(button);
+    QAction* duplicate = menu->addAction(tr("Duplicate"));
     duplicate->setObjectName(QStringLiteral("duplicateProject"));
-    auto* remove = new QPushButton(tr("Delete"), this);
+    QAction* remove = menu->addAction(tr("Delete"));
     remove->setObjectName(QStringLiteral("deleteProject"));
-    header->addWidget(duplicate, 0, Qt::AlignVCenter);
-    header->addWidget(remove, 0, Qt::AlignVCenter);
-    connect(duplicate, &QPushButton::clicked, this, [this, project] {
+    button->setMenu(menu);
+    row->addWidget(button);
+    connect(duplicate, &QAction::triggered, this, [this, project] {
         Q_EMIT projectDuplicated(m_services.projectActions.duplicateAsNew(*project));
     });
-    connect(remove, &QPushButton::clicked, this, [this, project] {
+    connect(remove, &QAction::triggered, this, [this, project] {
         if (ProjectActions::deleteAsks(*project) &&
             !Dialogs::confirm(this, ProjectActions::deleteTitle(),
                               ProjectActions::deleteQuestion()))
@@ -240,9 +271,15 @@ void ItemListView::listenToChanges()
 void ItemListView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    // A narrow window keeps the title readable and leaves the planned and used times out.
+    // The planned and used times show whenever they leave the title room enough to read.
     if (m_withHeader) {
-        const bool narrow = width() < 560;
+        const int others = m_table->columnWidth(ItemListModel::StartColumn) +
+                           m_table->columnWidth(ItemListModel::TimeColumn) +
+                           m_table->columnWidth(ItemListModel::DurationColumn) +
+                           m_table->columnWidth(ItemListModel::UsedColumn);
+        const int room = m_table->width() - 2 * m_table->frameWidth() -
+                         m_table->verticalScrollBar()->sizeHint().width() - others;
+        const bool narrow = room < minimumTitleWidth;
         m_table->setColumnHidden(ItemListModel::DurationColumn, narrow);
         m_table->setColumnHidden(ItemListModel::UsedColumn, narrow);
     }
@@ -457,6 +494,8 @@ void ItemListView::updateChart()
     for (const auto& [day, seconds] : ListBuilder::timeUsedByDay(m_model->rows()))
         hours.push_back(
             {QString::number(day.day()) + u' ' + day.shortMonthToString(), seconds / 3600.0});
+    // No bars, no empty box above "Nothing here".
+    m_chart->setVisible(!hours.empty());
     m_chart->setBars(std::move(hours));
 }
 
@@ -488,6 +527,10 @@ void ItemListView::updateStats()
     }
     m_status->setText(status);
     m_status->setColor(*HexColor::fromHex(color));
+    const Item* running = m_services.running.item();
+    m_runningClock->setText(running ? tr("Running: %1").arg(RunningStatus::clockText(*running))
+                                    : QString());
+    m_runningClock->setVisible(running != nullptr);
 }
 
 } // namespace lullet

@@ -14,6 +14,7 @@ namespace lullet {
 
 class BarChart;
 class CircularProgress;
+class ElidedLabel;
 class Item;
 class ItemListModel;
 class Project;
@@ -54,9 +55,8 @@ protected:
 private:
     void buildHeader(QVBoxLayout* layout);
     void buildCounts(QVBoxLayout* texts);
-    // The switch of the idle question ("disableAutoPrompt").
-    void buildIdleSwitch(QVBoxLayout* texts);
-    void buildProjectButtons(QHBoxLayout* header, Project* project);
+    void buildSwitchRow(QVBoxLayout* texts, Project* project);
+    void buildProjectButtons(QHBoxLayout* row, Project* project);
     void buildTable(QVBoxLayout* layout);
     void listenToChanges();
     void addMoveAndDuplicate(QMenu* menu, Item* item);
@@ -79,12 +79,13 @@ private:
     ItemListModel* m_model;
     QTableView* m_table = nullptr;
     QLabel* m_noData = nullptr;
-    QLabel* m_name = nullptr;
+    ElidedLabel* m_name = nullptr;
     QLabel* m_taskCount = nullptr;
     QLabel* m_completedCount = nullptr;
     QLabel* m_dueCount = nullptr;
     QLabel* m_todayCount = nullptr;
     QLabel* m_timeUsed = nullptr;
+    ElidedLabel* m_runningClock = nullptr;
     CircularProgress* m_progress = nullptr;
     StyledButton* m_status = nullptr;
     BarChart* m_chart = nullptr;

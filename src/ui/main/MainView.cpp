@@ -13,11 +13,15 @@
 #include "ui/widgets/Dialogs.h"
 #include "ui/widgets/ViewSwitcher.h"
 
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QSplitter>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -25,6 +29,8 @@
 namespace lullet {
 
 namespace {
+
+constexpr int sidebarWidth = 180;
 
 // A view that a later part of the program provides.
 QWidget* comingView(const QString& what)
@@ -47,7 +53,12 @@ MainView::MainView(const Services& services, QWidget* parent)
     auto* splitter = new QSplitter(this);
     splitter->addWidget(buildSidebar(splitter));
     splitter->addWidget(buildRightSide(splitter));
+    // The sidebar keeps its width as the views change; the list takes what the window adds.
+    splitter->setStretchFactor(0, 0);
     splitter->setStretchFactor(1, 1);
+    splitter->setChildrenCollapsible(false);
+    // Given, not worked out from the views' wishes, which differ from view to view.
+    splitter->setSizes({sidebarWidth, 4 * sidebarWidth});
     layout->addWidget(splitter);
     registerViews();
     connectSidebar();
@@ -66,6 +77,17 @@ void MainView::showEvent(QShowEvent* event)
         m_sidebar->setFocus();
 }
 
+bool MainView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_searchField && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
+        !m_searchField->text().isEmpty()) {
+        m_searchField->clear();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 QWidget* MainView::buildSidebar(QSplitter* splitter)
 {
     auto* sidebar = new QWidget(splitter);
@@ -75,16 +97,31 @@ QWidget* MainView::buildSidebar(QSplitter* splitter)
     m_searchField->setObjectName(QStringLiteral("searchField"));
     m_searchField->setPlaceholderText(tr("Search"));
     m_searchField->setClearButtonEnabled(true);
-    side->addWidget(m_searchField);
+    // Escape clears it.
+    m_searchField->installEventFilter(this);
+    auto* top = new QHBoxLayout;
+    top->addWidget(m_searchField, 1);
+    auto* add = new QToolButton(sidebar);
+    add->setObjectName(QStringLiteral("addTask"));
+    add->setText(QStringLiteral("+"));
+    add->setToolTip(tr("Quick Add (%1)")
+                        .arg(QKeySequence(QKeySequence::New).toString(QKeySequence::NativeText)));
+    add->setAccessibleName(tr("Quick Add"));
+    connect(add, &QToolButton::clicked, this, &MainView::showQuickAddBar);
+    top->addWidget(add);
+    side->addLayout(top);
     m_sidebar = new QListWidget(sidebar);
     m_sidebar->setObjectName(QStringLiteral("sidebar"));
     m_sidebar->setFrameShape(QFrame::NoFrame);
+    // A long project name gives way in its middle, keeping its count and percentage.
+    m_sidebar->setTextElideMode(Qt::ElideMiddle);
+    m_sidebar->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     side->addWidget(m_sidebar, 1);
     m_newProject = new QLineEdit(sidebar);
     m_newProject->setObjectName(QStringLiteral("newProject"));
     m_newProject->setPlaceholderText(tr("New project"));
     side->addWidget(m_newProject);
-    sidebar->setMinimumWidth(170);
+    sidebar->setMinimumWidth(sidebarWidth - 30);
     sidebar->setMaximumWidth(280);
     return sidebar;
 }
@@ -100,6 +137,7 @@ QWidget* MainView::buildRightSide(QSplitter* splitter)
     m_switcher = new ViewSwitcher(right);
     layout->addWidget(m_switcher, 1);
     connect(m_quickAdd, &QuickAddView::added, this, [this] { m_quickAdd->hide(); });
+    connect(m_quickAdd, &QuickAddView::dismissed, this, [this] { m_quickAdd->hide(); });
     return right;
 }
 
@@ -220,6 +258,12 @@ void MainView::loadSidebar()
     m_sidebar->clear();
     for (const SidebarRow& row : m_rows) {
         auto* item = new QListWidgetItem(rowText(row), m_sidebar);
+        // The percentage is of time, not of tasks: one with no planned length weighs only what
+        // it has run, so a project can read 100% with a task still open.
+        if (row.project)
+            item->setToolTip(tr("%1\nProgress: time used of time planned. A task with no "
+                                "planned length counts only the time it has run.")
+                                 .arg(row.name));
         if (row.type == SidebarRow::Separator) {
             item->setFlags(Qt::NoItemFlags);
             item->setSizeHint(QSize(0, 10));

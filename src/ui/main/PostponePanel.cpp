@@ -3,6 +3,8 @@
 #include "core/activity/Postponing.h"
 #include "core/app/Services.h"
 #include "core/dates/Clock.h"
+#include "core/dates/DateFormats.h"
+#include "core/model/Item.h"
 
 #include <QDateTimeEdit>
 #include <QGridLayout>
@@ -39,6 +41,14 @@ PostponePanel::PostponePanel(const Services& services, Item* item, QWidget* pare
     // The captions count from the base, but never from before now.
     const Date base = std::max(item ? Postponing::panelBase(*item, services.clock) : now, now);
     auto* layout = new QVBoxLayout(this);
+    auto* title = new QLabel(
+        tr("Postpone %1").arg(item ? item->title().value_or(QString()) : QString()), this);
+    title->setObjectName(QStringLiteral("postponeTitle"));
+    title->setWordWrap(true);
+    QFont bold = title->font();
+    bold.setBold(true);
+    title->setFont(bold);
+    layout->addWidget(title);
     buildChoices(base);
     layout->addWidget(m_choices);
     buildDateChoice(now, base);
@@ -62,7 +72,13 @@ void PostponePanel::buildChoices(Date base)
     };
     int i = 0;
     for (const auto& [choice, caption] : choices) {
-        auto* button = new QPushButton(caption, m_choices);
+        // Each named choice shows where it leads: "Tomorrow" and, below it, "Tue 24 Nov 9:00 AM".
+        const std::optional<Date> to = Postponing::dateFor(choice, base, m_clock);
+        const QString when = to ? to->toString(DateFormat::custom(QStringLiteral("EEE d MMM"))) +
+                                      u' ' + to->toString(DateStyle::None, DateStyle::Short)
+                                : QString();
+        auto* button =
+            new QPushButton(when.isEmpty() ? caption : caption + u'\n' + when, m_choices);
         button->setObjectName(QStringLiteral("choice%1").arg(choice));
         button->setMinimumWidth(130);
         grid->addWidget(button, i / 2, i % 2);

@@ -51,6 +51,7 @@ void RepeatListView::buildHeader()
     m_stats = new QLabel(this);
     m_stats->setObjectName(QStringLiteral("stats"));
     m_stats->setForegroundRole(QPalette::PlaceholderText);
+    m_stats->setWordWrap(true);
     texts->addWidget(m_stats);
     header->addLayout(texts, 1);
     auto* add = new QPushButton(tr("New lullet…"), this);

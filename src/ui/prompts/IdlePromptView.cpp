@@ -58,8 +58,8 @@ void IdlePromptView::buildQuickChoices(QVBoxLayout* layout)
                                  tr("Break"),   tr("Lunch"), tr("Reading")};
     for (int i = 0; i < choices.size(); ++i) {
         auto* button = new QPushButton(choices[i], this);
-        button->setFlat(true);
         button->setAutoDefault(false);
+        button->setFocusPolicy(Qt::ClickFocus);
         grid->addWidget(button, i / 3, i % 3);
         connect(button, &QPushButton::clicked, this,
                 [this, button] { chooseQuickAnswer(button->text()); });
@@ -73,13 +73,18 @@ void IdlePromptView::buildAnswerRow(QVBoxLayout* layout)
     m_projects = new QComboBox(this);
     m_projects->setObjectName(QStringLiteral("projects"));
     row->addWidget(m_projects, 1);
+    QPushButton* later = PromptLayout::button(tr("Later"), this);
+    later->setObjectName(QStringLiteral("later"));
+    later->setToolTip(tr("Ask again in one prompt period"));
     QPushButton* alreadyDone = PromptLayout::button(tr("Done already"), this);
     alreadyDone->setObjectName(QStringLiteral("alreadyDone"));
     QPushButton* start = PromptLayout::button(tr("Start"), this, true);
     start->setObjectName(QStringLiteral("answer"));
+    row->addWidget(later);
     row->addWidget(alreadyDone);
     row->addWidget(start);
     layout->addLayout(row);
+    connect(later, &QPushButton::clicked, this, &IdlePromptView::dismiss);
     connect(start, &QPushButton::clicked, this, [this] { answer(false); });
     connect(alreadyDone, &QPushButton::clicked, this, [this] { answer(true); });
 }
@@ -102,6 +107,14 @@ void IdlePromptView::extend(bool askNow)
 {
     m_prompt.extend(askNow);
     showTimes();
+}
+
+void IdlePromptView::dismiss()
+{
+    respond([this] {
+        m_prompt.putOff();
+        return PromptOutcome::Close;
+    });
 }
 
 void IdlePromptView::chooseQuickAnswer(const QString& title)

@@ -30,6 +30,8 @@ public:
     void extend(bool askNow);
     // The question goes away unanswered; the next one takes over its gap.
     void leaveUnanswered() { m_prompt.leaveUnanswered(); }
+    // Put off: it comes back after one prompt period.
+    void dismiss() override;
 
 private:
     void buildQuestion(QVBoxLayout* layout);

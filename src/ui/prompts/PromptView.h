@@ -17,6 +17,12 @@ class PromptView : public QWidget {
 public:
     using QWidget::QWidget;
 
+    // The user put the question away unanswered (Escape, the tray icon, "Later").
+    virtual void dismiss()
+    {
+        respond([] { return PromptOutcome::Close; });
+    }
+
 Q_SIGNALS:
     // The user answered; the shell closes the prompt as the outcome says.
     void answered(lullet::PromptOutcome outcome);

@@ -2,11 +2,18 @@
 
 #include <QApplication>
 #include <QGuiApplication>
+#include <QHideEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
 
 namespace lullet {
+
+namespace {
+// What a window manager's title bar and borders may take, before the window is shown and its
+// real frame known.
+const QSize frameAllowance(16, 48);
+} // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
@@ -17,6 +24,10 @@ MainWindow::MainWindow(QWidget* parent)
     setCentralWidget(placeholder);
 
     QMenu* file = menuBar()->addMenu(tr("&Lullet"));
+    QAction* quickAdd = file->addAction(tr("Quick &Add"));
+    quickAdd->setShortcut(QKeySequence::New);
+    connect(quickAdd, &QAction::triggered, this, &MainWindow::quickAddRequested);
+    file->addSeparator();
     QAction* quit = file->addAction(tr("&Quit Lullet"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &MainWindow::quitRequested);
@@ -31,9 +42,22 @@ void MainWindow::applyWelcomeSizing()
     resize(800, 600);
 }
 
+void MainWindow::hideEvent(QHideEvent* event)
+{
+    QMainWindow::hideEvent(event);
+    // A minimised window is hidden too, but keeps its place.
+    if (!event->spontaneous())
+        Q_EMIT hidden();
+}
+
 void MainWindow::applyWorkingSizing(bool locked)
 {
-    setMinimumSize(600, 600);
+    // A small screen, or a large scale, can't hold 600 by 600: the window may then be as small
+    // as the screen's free area leaves room for, with its title bar and frame.
+    QSize size(600, 600);
+    if (const QScreen* shown = screen())
+        size = size.boundedTo(shown->availableGeometry().size() - frameAllowance);
+    setMinimumSize(size);
     // The largest width and the largest height over all screens, each taken separately.
     int maxWidth = 0;
     int maxHeight = 0;
@@ -45,7 +69,7 @@ void MainWindow::applyWorkingSizing(bool locked)
     if (maxWidth > 0 && maxHeight > 0)
         setMaximumSize(maxWidth, maxHeight);
     if (!locked)
-        resize(600, 600);
+        resize(size);
 }
 
 } // namespace lullet

@@ -11,12 +11,19 @@ class MainWindow final : public QMainWindow {
 public:
     explicit MainWindow(QWidget* parent = nullptr);
 
-    // Fixed at 800 by 600 for the welcome pages, at least 600 by 600 afterwards.
+    // Fixed at 800 by 600 for the welcome pages, at least 600 by 600 afterwards (less on a
+    // screen too small for that).
     void applyWelcomeSizing();
     void applyWorkingSizing(bool locked);
 
 Q_SIGNALS:
     void quitRequested();
+    void quickAddRequested();
+    // Closed or hidden: where it stood is worth keeping.
+    void hidden();
+
+protected:
+    void hideEvent(QHideEvent* event) override;
 };
 
 } // namespace lullet

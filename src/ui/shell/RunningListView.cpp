@@ -4,7 +4,7 @@
 #include "core/app/Services.h"
 #include "core/model/Item.h"
 #include "core/monitor/Monitor.h"
-#include "core/presentation/RowTexts.h"
+#include "core/presentation/RunningStatus.h"
 #include "ui/main/ItemListView.h"
 #include "ui/prompts/PromptLayout.h"
 
@@ -20,6 +20,7 @@ RunningListView::RunningListView(const Services& services, QWidget* parent)
     , m_services(services)
     , m_running(PromptLayout::message(this))
 {
+    m_running->setObjectName(QStringLiteral("runningNow"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(PromptLayout::heading(tr("Running now"), this));
@@ -49,11 +50,7 @@ void RunningListView::showRunning()
         m_running->setText(tr("Nothing is running."));
         return;
     }
-    const int limit = running->timeLimit().value_or(0);
-    QString time = RowTexts::getStringFromSeconds(running->elapsedTime().value_or(0));
-    if (limit > 0)
-        time += QStringLiteral(" / ") + RowTexts::getStringFromSeconds(limit);
-    m_running->setText(running->title().value_or(QString()) + QStringLiteral("  ") + time);
+    m_running->setText(RunningStatus::clockText(*running));
 }
 
 } // namespace lullet

@@ -1,10 +1,14 @@
 #include "ui/shell/Shell.h"
 
+#include "core/activity/RunningItem.h"
 #include "core/app/Services.h"
+#include "core/library/Library.h"
 #include "core/model/Item.h"
 #include "core/monitor/Monitor.h"
+#include "core/presentation/RunningStatus.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
+#include "core/settings/SettingsKeys.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/MainView.h"
 #include "ui/prompts/IdlePromptView.h"
@@ -44,14 +48,19 @@ Shell::Shell(const Services& services, MainWindow& window, QObject* parent)
     , m_window(window)
     , m_tray(new Tray(window, this))
 {
-    connect(m_tray, &Tray::clicked, this,
-            [this] { m_tray->togglePopover([this] { return makeTrayContent(); }); });
+    connect(m_tray, &Tray::clicked, this, &Shell::onTrayClicked);
+    connect(m_tray, &Tray::dismissRequested, this, &Shell::dismissPopover);
     connect(m_tray, &Tray::retiring, this, &Shell::onRetiring);
+    connect(&m_window, &MainWindow::quickAddRequested, this, &Shell::quickAdd);
+    connect(&m_window, &MainWindow::hidden, this, &Shell::keepWindowGeometry);
     connectMonitor();
 }
 
 Shell::~Shell()
 {
+    // Quitting leaves the window where it is: its place is kept for the next launch.
+    if (m_window.isVisible())
+        keepWindowGeometry();
     // The open prompt acts on the core's records: it goes while they still exist.
     m_tray->dropPopover();
     delete m_quickAddWindow;
@@ -76,9 +85,37 @@ QWidget* Shell::makeTrayContent()
     return view;
 }
 
+void Shell::onTrayClicked()
+{
+    Popover* open = m_tray->popover();
+    if (!open || !open->isShown()) {
+        m_tray->show([this] { return makeTrayContent(); });
+        return;
+    }
+    // A prompt shown while the user typed elsewhere may not have been seen: the first click
+    // calls it forward, the second puts it away.
+    if (qobject_cast<PromptView*>(open->content()) && !open->isActiveWindow()) {
+        open->activate();
+        return;
+    }
+    dismissPopover();
+}
+
+void Shell::dismissPopover()
+{
+    Popover* open = m_tray->popover();
+    if (!open || !open->isShown())
+        return;
+    if (auto* prompt = qobject_cast<PromptView*>(open->content()))
+        prompt->dismiss();
+    else
+        m_tray->closePopover();
+}
+
 void Shell::setLoaded()
 {
     m_loaded = true;
+    updateToolTip();
     if (m_loading) {
         m_tray->closePopoverImmediate();
         m_tray->show([this] { return makeTrayContent(); });
@@ -92,10 +129,31 @@ void Shell::setLoaded()
 void Shell::connectMonitor()
 {
     const Monitor& monitor = m_services.monitor;
+    // The tooltip's text is worked out with the clock but reaches the panel only when it reads
+    // differently, once a minute at most.
+    connect(&monitor, &Monitor::ticked, this, [this] {
+        if (m_services.running.item())
+            updateToolTip();
+    });
+    connect(&monitor, &Monitor::minutePassed, this, &Shell::updateToolTip);
+    const Library& library = m_services.library;
+    connect(&library, &Library::itemsChanged, this, &Shell::updateToolTip);
+    connect(&library, &Library::itemRemoved, this, &Shell::updateToolTip);
+    connect(&library, &Library::itemPostponed, this, &Shell::updateToolTip);
+    connect(&m_services.running, &RunningItem::started, this, &Shell::updateToolTip);
+    connect(&m_services.running, &RunningItem::finished, this, &Shell::updateToolTip);
+    connect(&m_services.running, &RunningItem::extended, this, &Shell::updateToolTip);
     connect(&monitor, &Monitor::reminderDue, this, &Shell::showReminder);
     connect(&monitor, &Monitor::idleQuestionDue, this, &Shell::askIdleQuestion);
     connect(&monitor, &Monitor::timeOver, this, &Shell::showTimeOver);
     connect(&monitor, &Monitor::toDoDue, this, &Shell::showToDo);
+}
+
+void Shell::updateToolTip()
+{
+    if (m_loaded)
+        m_tray->setToolTip(
+            RunningStatus::toolTip(m_services.library, m_services.running, m_services.clock));
 }
 
 void Shell::showTray()
@@ -103,6 +161,9 @@ void Shell::showTray()
     auto* menu = new QMenu(&m_window);
     connect(menu->addAction(tr("Open Lullet")), &QAction::triggered, this,
             [this] { bringMainWindowForward(); });
+    QAction* quickAdd = menu->addAction(tr("Quick Add"));
+    quickAdd->setShortcut(QKeySequence::New);
+    connect(quickAdd, &QAction::triggered, this, &Shell::quickAdd);
     menu->addSeparator();
     connect(menu->addAction(tr("Quit Lullet")), &QAction::triggered, this, &Shell::quitRequested);
     m_tray->showIcon(menu);
@@ -120,10 +181,23 @@ void Shell::prepareMainWindow(bool locked)
         });
         m_window.setCentralWidget(m_content);
     }
-    if (m_services.settings.welcomeDone())
-        m_window.applyWorkingSizing(locked);
-    else
+    if (!m_services.settings.welcomeDone()) {
         m_window.applyWelcomeSizing();
+        return;
+    }
+    m_window.applyWorkingSizing(locked);
+    // Where the user left it; Qt brings a window saved on a screen now gone back onto one.
+    const QByteArray kept =
+        m_services.settings.value(SettingsKeys::mainWindowGeometry).toByteArray();
+    if (!locked && !kept.isEmpty())
+        m_window.restoreGeometry(kept);
+}
+
+void Shell::keepWindowGeometry()
+{
+    // The welcome's fixed size is not the user's choice.
+    if (m_content && m_services.settings.welcomeDone())
+        m_services.settings.setValue(SettingsKeys::mainWindowGeometry, m_window.saveGeometry());
 }
 
 void Shell::bringMainWindowForward(const std::function<void()>& whenShown)
@@ -241,6 +315,7 @@ void Shell::openQuickAddWindow()
         m_quickAddWindow = new QuickAddView(m_services);
         m_quickAddWindow->setWindowFlags(Qt::Window | Qt::WindowStaysOnTopHint);
         connect(m_quickAddWindow, &QuickAddView::added, m_quickAddWindow, &QWidget::hide);
+        connect(m_quickAddWindow, &QuickAddView::dismissed, m_quickAddWindow, &QWidget::hide);
         // Where a launcher would be: centred, in the upper third of the screen.
         m_quickAddWindow->adjustSize();
         if (const QScreen* screen = QGuiApplication::primaryScreen()) {

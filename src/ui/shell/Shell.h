@@ -57,6 +57,13 @@ Q_SIGNALS:
 
 private:
     QWidget* makeTrayContent();
+    // The tray click: shows the running list, calls a prompt forward, or puts the panel away.
+    void onTrayClicked();
+    // Escape or a second click: a prompt is put off as its own way out says, anything else
+    // closes.
+    void dismissPopover();
+    void keepWindowGeometry();
+    void updateToolTip();
     void connectMonitor();
     void showPrompt(const std::function<QWidget*()>& make);
     void onAnswered(PromptOutcome outcome);

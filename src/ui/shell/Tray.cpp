@@ -5,6 +5,7 @@
 #include "ui/widgets/Popover.h"
 
 #include <QCursor>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QScreen>
@@ -42,7 +43,9 @@ void Tray::dropPopover()
 void Tray::showIcon(QMenu* menu)
 {
     m_icon = new QSystemTrayIcon(TrayIconPainter::make(), this);
-    m_icon->setToolTip(QStringLiteral("Lullet"));
+    m_icon->setToolTip(m_toolTip);
+    // Every widget hears of a new palette; the main window is always there to listen.
+    m_window.installEventFilter(this);
     m_icon->setContextMenu(menu);
     connect(m_icon, &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
@@ -52,6 +55,22 @@ void Tray::showIcon(QMenu* menu)
                 Q_EMIT clicked();
             });
     m_icon->show();
+}
+
+void Tray::setToolTip(const QString& text)
+{
+    if (text == m_toolTip)
+        return;
+    m_toolTip = text;
+    if (m_icon)
+        m_icon->setToolTip(text);
+}
+
+bool Tray::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == &m_window && event->type() == QEvent::PaletteChange && m_icon)
+        m_icon->setIcon(TrayIconPainter::make());
+    return QObject::eventFilter(watched, event);
 }
 
 QRect Tray::anchorRect() const
@@ -76,7 +95,7 @@ void Tray::show(const ContentFactory& make)
             retire(m_popover);
             m_popover->deleteLater();
         }
-        m_popover = new Popover(make(), &m_window);
+        m_popover = makePopover(make, &m_window);
         m_popover->showInHost();
         return;
     }
@@ -92,16 +111,15 @@ void Tray::show(const ContentFactory& make)
         });
         return;
     }
-    m_popover = new Popover(make());
+    m_popover = makePopover(make, nullptr);
     m_popover->showBelow(anchorRect());
 }
 
-void Tray::togglePopover(const ContentFactory& makeRunningList)
+Popover* Tray::makePopover(const ContentFactory& make, QWidget* host)
 {
-    if (m_popover && m_popover->isShown())
-        closePopover();
-    else
-        show(makeRunningList);
+    auto* popover = new Popover(make(), host);
+    connect(popover, &Popover::escapePressed, this, &Tray::dismissRequested);
+    return popover;
 }
 
 void Tray::closePopover()

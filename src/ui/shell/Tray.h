@@ -28,10 +28,10 @@ public:
 
     // Puts the icon in the panel, with its menu.
     void showIcon(QMenu* menu);
+    // Told to the panel only when it differs: an unchanged text wakes nothing.
+    void setToolTip(const QString& text);
     // Shows new content in the popover, after the open one, if any, has closed.
     void show(const ContentFactory& make);
-    // The tray click: closes a shown popover, else shows the running list.
-    void togglePopover(const ContentFactory& makeRunningList);
     // Closes with the fade; the popover still counts as the open one until replaced.
     void closePopover();
     // Closes at once and forgets the popover.
@@ -45,17 +45,25 @@ public:
 
 Q_SIGNALS:
     void clicked();
+    // Escape in the popover: its content is to be dismissed.
+    void dismissRequested();
     // The content is about to go, closed or replaced: a question it asked goes unanswered.
     void retiring(QWidget* content);
 
 private:
     void retire(Popover* popover);
+    Popover* makePopover(const ContentFactory& make, QWidget* host);
 
     MainWindow& m_window;
     QSystemTrayIcon* m_icon = nullptr;
     QPointer<Popover> m_popover;
     QPointer<Popover> m_retired;
     QPoint m_lastClick;
+    QString m_toolTip = QStringLiteral("Lullet");
+
+protected:
+    // The icon is drawn again when the desktop's colours change.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 } // namespace lullet

@@ -1,6 +1,7 @@
 #include "ui/widgets/Popover.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPropertyAnimation>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -61,6 +62,24 @@ void Popover::showInHost()
     move(std::max(0, host->width() - width() - 20), 20);
     show();
     raise();
+}
+
+void Popover::activate()
+{
+    raise();
+    activateWindow();
+    // The first field in the tab order, the answer's in a question.
+    if (!focusWidget())
+        focusNextChild();
+}
+
+void Popover::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        Q_EMIT escapePressed();
+        return;
+    }
+    QFrame::keyPressEvent(event);
 }
 
 void Popover::performClose(const std::function<void()>& done)

@@ -10,7 +10,9 @@ class QPropertyAnimation;
 namespace lullet {
 
 // The one panel that hangs from the status item, or sits inside the main window when that is
-// full screen. It stays until the program closes it: clicks elsewhere leave it alone.
+// full screen. It stays until the program closes it: clicks elsewhere leave it alone. It shows
+// without taking the keyboard from the program the user is typing in; it takes it only when the
+// user clicks into it or calls it forward (activate()). Escape asks for it to be dismissed.
 class Popover final : public QFrame {
     Q_OBJECT
 public:
@@ -27,6 +29,14 @@ public:
     void showInHost();
     // Fades out, then hides; `done` runs once it is gone (at once when it already is).
     void performClose(const std::function<void()>& done = {});
+    // Gives it the keyboard: raised, activated, its first field focused.
+    void activate();
+
+Q_SIGNALS:
+    void escapePressed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QPointer<QWidget> m_content;

@@ -1,5 +1,6 @@
 #include "core/dates/CalendarContext.h"
 #include "core/model/RepeatCodes.h"
+#include "core/monitor/IdlePrompt.h"
 #include "core/monitor/Monitor.h"
 #include "core/scheduling/Catalogue.h"
 #include "core/scheduling/WorkingSchedule.h"
@@ -148,6 +149,29 @@ private Q_SLOTS:
         runUntil(at(2026, 11, 23, 9, 16, 0));
         QCOMPARE(host().prompts.size(), std::size_t(2));
         QCOMPARE(host().prompts[1].since, at(2026, 11, 23, 9, 15));
+    }
+
+    // Put off ("Later", Escape), the question comes back one full period after the dismissal,
+    // over the whole gap, however long it stood open.
+    void aQuestionPutOffComesBackAfterOnePeriod()
+    {
+        launch(at(2026, 11, 23, 9, 0, 0));
+        app().running().setPromptPeriod(15);
+        app().running().stampPrompt(at(2026, 11, 23, 9, 0, 0));
+        runUntil(at(2026, 11, 23, 9, 15, 0));
+        QCOMPARE(host().prompts.size(), std::size_t(1));
+        // The user notices it at 9:27 and puts it off.
+        m_app->clock.set(at(2026, 11, 23, 9, 27, 0));
+        IdlePrompt question(app().clock, app().library(), app().running(), host().prompts[0].since,
+                            false);
+        question.putOff();
+        runUntil(at(2026, 11, 23, 9, 41, 59));
+        QCOMPARE(host().prompts.size(), std::size_t(1));
+        runUntil(at(2026, 11, 23, 9, 42, 0));
+        QCOMPARE(host().prompts.size(), std::size_t(2));
+        IdlePrompt again(app().clock, app().library(), app().running(), host().prompts[1].since,
+                         false);
+        QCOMPARE(again.gapStart(), at(2026, 11, 23, 9, 0, 0));
     }
 
     void theIdleQuestionHasItsGates_data()

@@ -3,6 +3,7 @@
 #include "core/model/RepeatCodes.h"
 #include "core/presentation/ListBuilder.h"
 #include "core/presentation/RowTexts.h"
+#include "core/presentation/RunningStatus.h"
 #include "core/presentation/TaskStats.h"
 #include "core/scheduling/Catalogue.h"
 #include "support/DatePrinting.h"
@@ -286,6 +287,34 @@ private Q_SLOTS:
         QVERIFY(!task->hasContext());
         QCOMPARE(app().library().items(), std::vector<Item*>{copy});
         QVERIFY(!app().context().hasChanges());
+    }
+
+    // The tray's tooltip: what runs, else the next open item still ahead, else the name alone.
+    // Whole minutes, so that the text changes once a minute at most.
+    void theTrayTellsWhatRunsOrComesNext()
+    {
+        const auto tip = [this] {
+            return RunningStatus::toolTip(app().library(), app().running(), clock());
+        };
+        QCOMPARE(tip(), QStringLiteral("Lullet"));
+        item(QStringLiteral("Overdue"), test::at(2026, 11, 25, 11, 0));
+        Item* done = item(QStringLiteral("Done"), test::at(2026, 11, 25, 12, 30));
+        done->setHasFinished(true);
+        item(QStringLiteral("Tomorrow"), test::at(2026, 11, 26, 9, 0));
+        app().library().save();
+        QCOMPARE(tip(), QStringLiteral("Next: Tomorrow on ") +
+                            test::at(2026, 11, 26).toString(DateStyle::Medium, DateStyle::None) +
+                            QStringLiteral(" at ") + at(test::at(2026, 11, 26, 9, 0)));
+        item(QStringLiteral("Stretch"), test::at(2026, 11, 25, 12, 40));
+        app().library().save();
+        QCOMPARE(tip(), QStringLiteral("Next: Stretch at ") + at(test::at(2026, 11, 25, 12, 40)));
+
+        Item* walk = item(QStringLiteral("Walk"), test::at(2026, 11, 25, 12, 0));
+        walk->setDurationMin(30);
+        app().running().start(*walk);
+        app().runUntil(test::at(2026, 11, 25, 12, 12, 59));
+        QCOMPARE(tip(), QStringLiteral("Walk: 12 of 30 min"));
+        QCOMPARE(RunningStatus::clockText(*walk), QStringLiteral("Walk  00:12:59 / 00:30:00"));
     }
 };
 

@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTimeEdit>
 
 #include <memory>
 
@@ -115,6 +116,28 @@ private Q_SLOTS:
         const Item* item = app().library().items().front();
         QCOMPARE(*item->dtReminder(), at(2026, 11, 23, 12, 25, 30));
         QCOMPARE(item->toProject(), home);
+    }
+
+    // Digits typed into the time field set the time; Escape puts the quick add away.
+    void theChooserTakesATypedTime()
+    {
+        QuickAddView window(app().services());
+        window.show();
+        QSignalSpy dismissed(&window, &QuickAddView::dismissed);
+        window.findChild<QPushButton*>(QStringLiteral("chooseDate"))->click();
+        auto* chooser = window.findChild<DateChooser*>();
+        QVERIFY(chooser);
+        auto* time = chooser->findChild<QTimeEdit*>(QStringLiteral("time"));
+        auto* field = time->findChild<QLineEdit*>();
+        QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(4, field->height() / 2));
+        QCoreApplication::processEvents();
+        QTest::keyClicks(time, QStringLiteral("0845"));
+        QCOMPARE(time->time(), QTime(8, 45));
+        chooser->findChild<QPushButton*>(QStringLiteral("set"))->click();
+        QCOMPARE(window.form().date()->hour(), 8);
+        QCOMPARE(window.form().date()->minute(), 45);
+        QTest::keyClick(window.nameField(), Qt::Key_Escape);
+        QCOMPARE(dismissed.count(), 1);
     }
 };
 

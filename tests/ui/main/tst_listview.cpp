@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDateTimeEdit>
+#include <QLabel>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
@@ -241,9 +242,16 @@ private Q_SLOTS:
         saveShot(panel, QStringLiteral("postpone-panel"));
         auto* evening = panel->findChild<QPushButton*>(QStringLiteral("choice2"));
         QVERIFY(evening);
-        QCOMPARE(evening->text(), QStringLiteral("Tomorrow eve"));
+        // Each choice shows where it leads.
+        const auto time = [](Date d) { return d.toString(DateStyle::None, DateStyle::Short); };
+        QCOMPARE(evening->text(),
+                 QStringLiteral("Tomorrow eve\nThu 26 Nov ") + time(at(2026, 11, 26, 19, 0)));
         QCOMPARE(panel->findChild<QPushButton*>(QStringLiteral("choice4"))->text(),
-                 QStringLiteral("Friday"));
+                 QStringLiteral("Friday\nFri 27 Nov ") + time(at(2026, 11, 27, 9, 0)));
+        QCOMPARE(panel->findChild<QPushButton*>(QStringLiteral("choice7"))->text(),
+                 QStringLiteral("No date"));
+        QCOMPARE(panel->findChild<QLabel*>(QStringLiteral("postponeTitle"))->text(),
+                 QStringLiteral("Postpone Plan"));
         // A free date keeps the panel open; a named choice closes it.
         panel->findChild<QPushButton*>(QStringLiteral("choice9"))->click();
         QVERIFY(panel->findChild<QDateTimeEdit*>()->isVisible());
@@ -252,6 +260,14 @@ private Q_SLOTS:
         evening->click();
         QCOMPARE(*task->dtReminderPostponed(), at(2026, 11, 26, 19, 0));
         QTRY_VERIFY(!alive);
+
+        // Escape closes it, nothing changed.
+        auto* again = new PostponePanel(app().services(), task);
+        QPointer<PostponePanel> open(again);
+        again->popUpAt(QPoint(100, 100));
+        QTest::keyClick(again, Qt::Key_Escape);
+        QTRY_VERIFY(!open);
+        QCOMPARE(*task->dtReminderPostponed(), at(2026, 11, 26, 19, 0));
     }
 };
 

@@ -1,4 +1,5 @@
 #include "core/activity/ItemActions.h"
+#include "core/activity/ProjectActions.h"
 #include "core/dates/CalendarContext.h"
 #include "support/DatePrinting.h"
 #include "support/Launched.h"
@@ -9,16 +10,21 @@
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/ItemListView.h"
 #include "ui/main/MainView.h"
+#include "ui/shell/MainWindow.h"
+#include "ui/shell/RunningListView.h"
 #include "ui/shell/WindowContent.h"
+#include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/ViewSwitcher.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 
 #include <memory>
 
@@ -190,6 +196,97 @@ private Q_SLOTS:
         view.sidebar()->setCurrentRow(1);
         QVERIFY(search->text().isEmpty());
         QCOMPARE(view.selectedSegment(), QStringLiteral("Today"));
+    }
+
+    // At the default window size a project's header shows every count whole, the badge keeps
+    // its size, and a long name gives way with its whole text in the tooltip.
+    void theHeaderFitsAtTheDefaultSize()
+    {
+        ProjectActions& projects = app().services().projectActions;
+        Project* club =
+            projects.addProject(QStringLiteral("Book club reading list for winter")).project;
+        QVERIFY(club);
+        Item* first = app().addItem(QStringLiteral("Choose books"), at(2026, 11, 25, 13, 0));
+        Item* second = app().addItem(QStringLiteral("Send invites"), at(2026, 11, 25, 14, 0));
+        app().services().itemActions.moveToProject(*first, club);
+        app().services().itemActions.moveToProject(*second, club);
+        app().services().itemActions.finish(*first);
+        m_app->settings.setWelcomeDone();
+        MainWindow window;
+        auto* content = new WindowContent(app().services());
+        window.setCentralWidget(content);
+        window.resize(600, 600);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        MainView& view = *content->mainView();
+        view.selectSegment(club->name().value_or(QString()));
+        QCoreApplication::processEvents();
+        auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
+        QVERIFY(list && list->isVisible());
+        const QRect inside = list->rect();
+        for (const char* name :
+             {"taskCount", "completedCount", "dueCount", "todayCount", "timeUsed", "status"}) {
+            auto* widget = list->findChild<QWidget*>(QLatin1String(name));
+            QVERIFY2(widget && widget->isVisible(), name);
+            QVERIFY2(widget->width() >= widget->sizeHint().width(), name);
+            const QRect where(widget->mapTo(list, QPoint(0, 0)), widget->size());
+            QVERIFY2(inside.contains(where), name);
+        }
+        QCOMPARE(list->findChild<QLabel*>(QStringLiteral("completedCount"))->text(),
+                 QStringLiteral("Complete: 1"));
+        auto* name = list->findChild<ElidedLabel*>(QStringLiteral("listName"));
+        QCOMPARE(name->text(), QStringLiteral("Book club reading list for winter"));
+        if (name->isElided())
+            QCOMPARE(name->toolTip(), name->text());
+        saveShot(&window, QStringLiteral("project-600"));
+        // The sidebar keeps its width from view to view.
+        const int sidebarWidth = view.sidebar()->width();
+        for (const QString& segment : {QStringLiteral("Dashboard"), QStringLiteral("Lullets"),
+                                       QStringLiteral("Completed"), QStringLiteral("Today")}) {
+            view.selectSegment(segment);
+            QCoreApplication::processEvents();
+            QVERIFY2(view.sidebar()->width() == sidebarWidth, qPrintable(segment));
+        }
+    }
+
+    // The main header and the tray's panel show the running item's one clock.
+    void oneClockForTheRunningItem()
+    {
+        Item* done = app().addItem(QStringLiteral("Tea"), at(2026, 11, 25, 11, 0));
+        done->setElapsedTime(29);
+        done->setHasFinished(true);
+        MainView view(app().services());
+        view.resize(900, 600);
+        view.show();
+        RunningListView panel(app().services());
+        for (Item* item : app().library().items()) {
+            if (item->title() == QStringLiteral("Walk the dog"))
+                app().services().itemActions.start(*item);
+        }
+        m_app->runUntil(at(2026, 11, 25, 12, 0, 19));
+        QCoreApplication::processEvents();
+        auto* clock = view.findChild<ElidedLabel*>(QStringLiteral("runningClock"));
+        QVERIFY(clock && clock->isVisible());
+        QCOMPARE(clock->text(), QStringLiteral("Running: Walk the dog  00:00:19"));
+        QVERIFY(panel.findChild<QLabel*>(QStringLiteral("runningNow")));
+        QCOMPARE(panel.findChild<QLabel*>(QStringLiteral("runningNow"))->text(),
+                 QStringLiteral("Walk the dog  00:00:19"));
+    }
+
+    // Escape clears the search; the add button opens the quick-add bar, Escape closes it.
+    void waysInAndOut()
+    {
+        MainView view(app().services());
+        view.show();
+        auto* search = view.findChild<QLineEdit*>(QStringLiteral("searchField"));
+        search->setFocus();
+        QTest::keyClicks(search, QStringLiteral("dog"));
+        QTest::keyClick(search, Qt::Key_Escape);
+        QVERIFY(search->text().isEmpty());
+        view.findChild<QToolButton*>(QStringLiteral("addTask"))->click();
+        QVERIFY(view.quickAddBar()->isVisible());
+        QTest::keyClick(view.quickAddBar()->nameField(), Qt::Key_Escape);
+        QVERIFY(!view.quickAddBar()->isVisible());
     }
 };
 

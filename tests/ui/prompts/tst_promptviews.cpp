@@ -193,6 +193,33 @@ private Q_SLOTS:
         QCOMPARE(app().library().items().front()->toProject(), today);
     }
 
+    // "Later" puts the question off: closed unanswered, its gap kept for the next question, and
+    // the idle clock stamped so the next comes a whole period from now. Any prompt closes on
+    // Escape.
+    void laterAndEscapePutAQuestionOff()
+    {
+        MainWindow window;
+        Shell shell(services(), window);
+        shell.setLoaded();
+        m_app->clock.set(at(2026, 11, 23, 10, 20));
+        shell.askIdleQuestion(at(2026, 11, 23, 10, 0), false);
+        QTRY_VERIFY(shell.tray().popover());
+        Popover* popover = shell.tray().popover();
+        click(popover->content(), "later");
+        QTRY_VERIFY(!popover->isVisible());
+        QCOMPARE(*app().running().lastPromptAt(), at(2026, 11, 23, 10, 20));
+        QCOMPARE(*app().running().unansweredGapStart(), at(2026, 11, 23, 10, 0));
+        QVERIFY(!app().running().item());
+
+        Item* due = item(QStringLiteral("Stretch"), at(2026, 11, 23, 10, 20));
+        shell.showReminder(due, nullptr);
+        QTRY_VERIFY(qobject_cast<ReminderPromptView*>(shell.tray().popover()->content()));
+        popover = shell.tray().popover();
+        QTest::keyClick(popover, Qt::Key_Escape);
+        QTRY_VERIFY(!popover->isVisible());
+        QVERIFY(!due->isStarted());
+    }
+
     void aBalloonClosesByItself()
     {
         QLineEdit field;

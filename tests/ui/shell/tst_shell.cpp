@@ -1,7 +1,9 @@
 #include "core/dates/CalendarContext.h"
+#include "core/settings/SettingsKeys.h"
 #include "support/Launched.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
+#include "ui/authoring/QuickAddView.h"
 #include "ui/main/MainView.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
@@ -13,6 +15,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QTemporaryDir>
@@ -150,6 +153,55 @@ private Q_SLOTS:
                 a->trigger();
         }
         QVERIFY(quit);
+    }
+
+    // The window comes back where the user left it, and at its size.
+    void theWindowKeepsItsPlace()
+    {
+        QVERIFY(m_app->open());
+        {
+            MainWindow window;
+            Shell shell(m_app->services(), window);
+            shell.setLoaded();
+            shell.bringMainWindowForward();
+            window.setGeometry(QRect(120, 90, 700, 640));
+            window.close();
+        }
+        QVERIFY(!m_app->settings.value(SettingsKeys::mainWindowGeometry).toByteArray().isEmpty());
+        MainWindow window;
+        Shell shell(m_app->services(), window);
+        shell.setLoaded();
+        shell.bringMainWindowForward();
+        QCOMPARE(window.size(), QSize(700, 640));
+        QCOMPARE(window.geometry().topLeft(), QPoint(120, 90));
+    }
+
+    // Quick add from the window's menu and the tray's menu, with the platform's "new" key.
+    void quickAddFromTheMenus()
+    {
+        QVERIFY(m_app->open());
+        MainWindow window;
+        Shell shell(m_app->services(), window);
+        shell.setLoaded();
+        shell.showTray();
+        int withShortcut = 0;
+        for (QMenu* menu : window.findChildren<QMenu*>()) {
+            for (QAction* action : menu->actions()) {
+                if (action->text().remove(u'&') == QStringLiteral("Quick Add") &&
+                    action->shortcut() == QKeySequence(QKeySequence::New))
+                    ++withShortcut;
+            }
+        }
+        QCOMPARE(withShortcut, 2);
+        Q_EMIT window.quickAddRequested();
+        QuickAddView* quick = nullptr;
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            if (w->isVisible() && qobject_cast<QuickAddView*>(w))
+                quick = qobject_cast<QuickAddView*>(w);
+        }
+        QVERIFY(quick);
+        QTest::keyClick(quick->nameField(), Qt::Key_Escape);
+        QVERIFY(!quick->isVisible());
     }
 };
 

@@ -80,7 +80,6 @@ measure() { # name, program and arguments
 
 home=$WORK/home; mkdir -p "$home/.local/share/Lullet" "$home/run"; chmod 700 "$home/run"
 export HOME=$home XDG_RUNTIME_DIR=$home/run
-printf "[General]\nisShowFirst=1\n" > /dev/null
 mkdir -p "$home/.config/Lullet"; printf "[General]\nisShowFirst=1\ndisableAutoPrompt=1\n" > "$home/.config/Lullet/Lullet.conf"
 fresh() { rm -f "$home/.local/share/Lullet/"Lullet.sqlite*; [ -n "$STORE" ] && cp "$STORE" "$home/.local/share/Lullet/Lullet.sqlite"; true; }
 

@@ -46,9 +46,10 @@ AppController::AppController(const Clock& clock, Settings& settings, const QStri
     , m_itemActions(m_library, m_running, m_catalogue)
     , m_projectActions(clock, m_library)
     , m_postponing(clock, m_library)
-    , m_services{clock,     settings,      m_library,        m_schedule,  m_hours,
-                 m_texts,   m_generator,   m_catalogue,      m_running,   m_lock,
-                 m_monitor, m_itemActions, m_projectActions, m_postponing}
+    , m_backups({clock, settings, m_store, m_library, m_catalogue, m_running})
+    , m_services{clock,     settings,      m_library,        m_schedule,   m_hours,
+                 m_texts,   m_generator,   m_catalogue,      m_running,    m_lock,
+                 m_monitor, m_itemActions, m_projectActions, m_postponing, m_backups}
 {
 }
 
@@ -57,6 +58,7 @@ AppController::~AppController() = default;
 Store::Result AppController::open()
 {
     m_settings.writeIdleQuestionSwitchIfAbsent();
+    m_backups.pruneAtLaunch();
     Store::Result opened = m_store.open();
     if (opened.outcome != Store::Outcome::Opened)
         return opened;
@@ -88,6 +90,9 @@ void AppController::startMonitoring()
     connect(&m_running, &RunningItem::started, this, &AppController::armTimer);
     connect(&m_running, &RunningItem::finished, this, &AppController::armTimer);
     armTimer();
+    // After the launch is done: the tray and the window come first.
+    if (m_settings.boolean(SettingsKeys::automaticBackup))
+        QTimer::singleShot(0, this, [this] { m_backups.createLaunchBackup(); });
 }
 
 void AppController::armTimer()

@@ -5,6 +5,7 @@
 #include "core/activity/ProjectActions.h"
 #include "core/activity/RunningItem.h"
 #include "core/app/Services.h"
+#include "core/backup/Backups.h"
 #include "core/library/Library.h"
 #include "core/monitor/Monitor.h"
 #include "core/scheduling/Catalogue.h"
@@ -40,12 +41,14 @@ public:
 
     const Services& services() const { return m_services; }
 
-    // Opens the store and loads every record; every active rule gets its occurrence. The idle
-    // clock starts at the nearest whole minute, and a protected program starts locked. A store
-    // that cannot be used ends the launch: the result says why.
+    // Old listed backups go first. Then the store is opened and every record loaded; every
+    // active rule gets its occurrence. The idle clock starts at the nearest whole minute, and a
+    // protected program starts locked. A store that cannot be used ends the launch: the result
+    // says why.
     Store::Result open();
     // The loop begins: the display is kept awake and the monitor ticks each second while an item
-    // runs, and at each whole minute while none does.
+    // runs, and at each whole minute while none does. The launch's backup follows, when
+    // "automaticBackup" is on.
     void startMonitoring();
     bool isMonitoring() const;
     // How long until the monitor's next tick; negative when it does not tick.
@@ -77,6 +80,7 @@ private:
     ItemActions m_itemActions;
     ProjectActions m_projectActions;
     Postponing m_postponing;
+    Backups m_backups;
     Services m_services;
     std::unique_ptr<QTimer> m_timer;
     std::optional<quint32> m_inhibitCookie;

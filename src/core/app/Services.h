@@ -2,6 +2,7 @@
 
 namespace lullet {
 
+class Backups;
 class Catalogue;
 class Clock;
 class Generator;
@@ -34,6 +35,7 @@ struct Services {
     ItemActions& itemActions;
     ProjectActions& projectActions;
     Postponing& postponing;
+    Backups& backups;
 };
 
 } // namespace lullet

@@ -208,6 +208,13 @@ void Library::announceRulesChangedLater()
     later([this] { Q_EMIT rulesChanged(); });
 }
 
+void Library::announceReloaded()
+{
+    Q_EMIT projectsChanged();
+    Q_EMIT itemsChanged(nullptr);
+    Q_EMIT rulesChanged();
+}
+
 void Library::later(std::function<void()> emitter)
 {
     QMetaObject::invokeMethod(this, std::move(emitter), Qt::QueuedConnection);

@@ -69,6 +69,8 @@ public:
     void announceItemChangedLater(Item* item);
     void announcePostponed(Item* item);
     void announceProjectContent(Project* project);
+    // The store was replaced and read again: every list is told.
+    void announceReloaded();
     // Rules changed: now, or after the current work is done.
     void announceRulesChanged();
     void announceRulesChangedLater();

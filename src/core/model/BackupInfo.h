@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QJsonObject>
+#include <QMetaType>
 #include <QString>
 
 #include <optional>
@@ -29,3 +30,5 @@ struct BackupInfo {
 };
 
 } // namespace lullet
+
+Q_DECLARE_METATYPE(lullet::BackupInfo)

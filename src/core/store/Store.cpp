@@ -81,10 +81,17 @@ Store::Result Store::open()
 
 Store::Result Store::fail(Outcome outcome, const QString& what)
 {
-    m_context.reset();
     const QString words = sqliteWords(m_db);
-    m_db = Db();
+    close();
     return {outcome, what.arg(storePath()) + words, {}};
+}
+
+void Store::close()
+{
+    if (m_context)
+        m_context->reset();
+    m_open = false;
+    m_db = Db();
 }
 
 // Nothing is written to the file until it is known to be ours or new: a foreign or damaged
@@ -140,13 +147,14 @@ Store::Result Store::openFile()
     // would only hold the store a second time, all day.
     m_db.exec("PRAGMA cache_size = -512");
 
-    auto context = std::make_unique<ObjectContext>(m_db);
-    if (!context->load()) {
-        if (isDamage(context->errorCode()))
-            return moveAside(context->errorMessage());
+    if (!m_context)
+        m_context = std::make_unique<ObjectContext>(m_db);
+    if (!m_context->load()) {
+        if (isDamage(m_context->errorCode()))
+            return moveAside(m_context->errorMessage());
         return fail(Outcome::Unreadable, QStringLiteral("The store %1 cannot be loaded."));
     }
-    m_context = std::move(context);
+    m_open = true;
     for (const char* suffix : sideSuffixes)
         PrivateFiles::keepFile(storePath() + QLatin1String(suffix));
     return {Outcome::Opened, {}, {}};
@@ -207,8 +215,7 @@ Store::Inspection Store::inspectOnce() const
 
 Store::Result Store::moveAside(const QString& why)
 {
-    m_context.reset();
-    m_db = Db();
+    close();
     const QString stamp = m_clock.now().toString(
         DateFormat::custom(QStringLiteral("yyyyMMdd-HHmmss"), QStringLiteral("en_US")));
     const QString aside = storePath() + QStringLiteral(".unreadable-") + stamp;
@@ -230,6 +237,62 @@ Store::Result Store::moveAside(const QString& why)
                            "start with an empty store next time.")
                 .arg(why, aside),
             aside};
+}
+
+void Store::removeFiles(const QString& path)
+{
+    QFile::remove(path);
+    for (const char* suffix : sideSuffixes)
+        QFile::remove(path + QLatin1String(suffix));
+}
+
+// The main file and any side files it has, as one.
+bool Store::renameFiles(const QString& from, const QString& to)
+{
+    if (QFile::exists(from) && !QFile::rename(from, to))
+        return false;
+    for (const char* suffix : sideSuffixes) {
+        const QString side = from + QLatin1String(suffix);
+        if (QFile::exists(side))
+            QFile::rename(side, to + QLatin1String(suffix));
+    }
+    return true;
+}
+
+Store::Result Store::replaceWith(const QString& source)
+{
+    // Closing the last connection folds the log into the file: what was saved is in it.
+    close();
+    const QString live = storePath();
+    const QString kept = live + QStringLiteral(".before-restore");
+    removeFiles(kept);
+    if (!renameFiles(live, kept)) {
+        Result reopened = openFile();
+        reopened.message = QStringLiteral("The store could not be set aside for the restore; "
+                                          "nothing was restored.");
+        return reopened;
+    }
+    // No side file of the old store may stand beside the new one: SQLite would replay it.
+    removeFiles(live);
+    Result opened{
+        Outcome::OpenFailed, QStringLiteral("%1 could not be copied into place.").arg(source), {}};
+    if (QFile::copy(source, live)) {
+        PrivateFiles::keepFile(live);
+        opened = openFile();
+    }
+    if (opened.outcome == Outcome::Opened) {
+        removeFiles(kept);
+        return opened;
+    }
+    // The old store goes back exactly as it was.
+    close();
+    removeFiles(live);
+    renameFiles(kept, live);
+    Result back = openFile();
+    back.outcome = back.outcome == Outcome::Opened ? Outcome::OpenFailed : back.outcome;
+    back.message = QStringLiteral("The restore failed (%1); your store was put back as it was.")
+                       .arg(opened.message);
+    return back;
 }
 
 } // namespace lullet

@@ -52,7 +52,12 @@ public:
 
     // Opens the folder, the file and the context and loads every record.
     Result open();
-    bool isOpen() const { return m_context != nullptr; }
+    bool isOpen() const { return m_open; }
+    // Puts a copy of the file at `source` in the store's place and opens it as a launch does,
+    // with its migrations. The records read before keep their memory, without a context, for
+    // whoever still holds them. On any failure the store it had is put back and opened again,
+    // and the result says what went wrong.
+    Result replaceWith(const QString& source);
 
     QString folder() const { return m_folder; }
     QString storePath() const;
@@ -75,12 +80,18 @@ private:
     Result openFile();
     Result fail(Outcome outcome, const QString& what);
     Result moveAside(const QString& why);
+    // Closes the connection; the context forgets its records but keeps their memory.
+    void close();
+    void removeFiles(const QString& path);
+    bool renameFiles(const QString& from, const QString& to);
 
     QString m_folder;
     const Clock& m_clock;
     int m_patienceMs;
     Db m_db;
+    // Made once and kept for the run: a replaced store's records must outlive the swap.
     std::unique_ptr<ObjectContext> m_context;
+    bool m_open = false;
 };
 
 } // namespace lullet

@@ -339,6 +339,17 @@ void MainView::selectSegment(const QString& name)
         selectSegment(QStringLiteral("Today"));
 }
 
+void MainView::showAfterRestore(const QString& shownProject)
+{
+    // Every record the view held belongs to the store that went: nothing of it is kept.
+    m_project = nullptr;
+    m_renaming = nullptr;
+    if (!m_searchField->text().isEmpty())
+        m_searchField->clear();
+    loadSidebar();
+    selectSegment(shownProject.isEmpty() ? m_segment : shownProject);
+}
+
 void MainView::addProject()
 {
     const ProjectActions::Added added = m_services.projectActions.addProject(m_newProject->text());

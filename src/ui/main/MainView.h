@@ -41,6 +41,9 @@ public:
     void search(const QString& text);
     // The quick-add bar above the view: opened afresh, or, when open with a name, its task added.
     void showQuickAddBar();
+    // The store was restored: the lists are built anew, on the project of that name if there
+    // is one, else on the segment shown before.
+    void showAfterRestore(const QString& shownProject);
     // The project row's actions.
     void renameProject(Project* project);
     void deleteProject(Project* project, bool ask = true);

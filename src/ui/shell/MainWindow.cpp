@@ -28,6 +28,11 @@ MainWindow::MainWindow(QWidget* parent)
     quickAdd->setShortcut(QKeySequence::New);
     connect(quickAdd, &QAction::triggered, this, &MainWindow::quickAddRequested);
     file->addSeparator();
+    connect(file->addAction(tr("&Back Up Now…")), &QAction::triggered, this,
+            &MainWindow::backUpRequested);
+    connect(file->addAction(tr("&Restore From File…")), &QAction::triggered, this,
+            &MainWindow::restoreRequested);
+    file->addSeparator();
     QAction* quit = file->addAction(tr("&Quit Lullet"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &MainWindow::quitRequested);

@@ -19,6 +19,8 @@ public:
 Q_SIGNALS:
     void quitRequested();
     void quickAddRequested();
+    void backUpRequested();
+    void restoreRequested();
     // Closed or hidden: where it stood is worth keeping.
     void hidden();
 

@@ -2,6 +2,7 @@
 
 #include "core/activity/RunningItem.h"
 #include "core/app/Services.h"
+#include "core/backup/Backups.h"
 #include "core/library/Library.h"
 #include "core/model/Item.h"
 #include "core/monitor/Monitor.h"
@@ -10,11 +11,13 @@
 #include "core/settings/Settings.h"
 #include "core/settings/SettingsKeys.h"
 #include "ui/authoring/QuickAddView.h"
+#include "ui/desktop/FileManager.h"
 #include "ui/main/MainView.h"
 #include "ui/prompts/IdlePromptView.h"
 #include "ui/prompts/ReminderPromptView.h"
 #include "ui/prompts/TimeOverPromptView.h"
 #include "ui/prompts/TodoPromptView.h"
+#include "ui/shell/BackupCommands.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/Tray.h"
@@ -54,6 +57,23 @@ Shell::Shell(const Services& services, MainWindow& window, QObject* parent)
     connect(&m_window, &MainWindow::quickAddRequested, this, &Shell::quickAdd);
     connect(&m_window, &MainWindow::hidden, this, &Shell::keepWindowGeometry);
     connectMonitor();
+    connectBackups();
+}
+
+void Shell::connectBackups()
+{
+    auto* commands = new BackupCommands(m_services, &m_window, &FileManager::showFile, this);
+    connect(&m_window, &MainWindow::backUpRequested, commands, &BackupCommands::backUpNow);
+    connect(&m_window, &MainWindow::restoreRequested, this, [this, commands] {
+        const Project* shown = selectedProject();
+        commands->restoreFromFile(shown ? shown->name().value_or(QString()) : QString());
+    });
+    connect(&m_services.backups, &Backups::restored, this, [this](const QString& shownProject) {
+        // An open prompt or list holds records of the store that went.
+        m_tray->closePopoverImmediate();
+        if (MainView* main = m_content ? m_content->mainView() : nullptr)
+            main->showAfterRestore(shownProject);
+    });
 }
 
 Shell::~Shell()

@@ -65,6 +65,7 @@ private:
     void keepWindowGeometry();
     void updateToolTip();
     void connectMonitor();
+    void connectBackups();
     void showPrompt(const std::function<QWidget*()>& make);
     void onAnswered(PromptOutcome outcome);
     void onRetiring(QWidget* content);

@@ -1,6 +1,7 @@
 #include "ui/widgets/Dialogs.h"
 
 #include <QAbstractButton>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QQueue>
@@ -12,6 +13,12 @@ namespace {
 QQueue<int>& answers()
 {
     static QQueue<int> queue;
+    return queue;
+}
+
+QQueue<QString>& chosenFiles()
+{
+    static QQueue<QString> queue;
     return queue;
 }
 
@@ -55,6 +62,27 @@ void Dialogs::inform(QWidget* parent, const QString& text, const QString& inform
     ask(parent, {text, information, {QStringLiteral("Ok")}});
 }
 
+QString Dialogs::chooseFileToSave(QWidget* parent, const QString& caption, const QString& proposed)
+{
+    history().append({caption, proposed, {}});
+    if (!chosenFiles().isEmpty())
+        return chosenFiles().dequeue();
+    return QFileDialog::getSaveFileName(parent, caption, proposed);
+}
+
+QString Dialogs::chooseFileToOpen(QWidget* parent, const QString& caption, const QString& folder)
+{
+    history().append({caption, folder, {}});
+    if (!chosenFiles().isEmpty())
+        return chosenFiles().dequeue();
+    return QFileDialog::getOpenFileName(parent, caption, folder);
+}
+
+void Dialogs::chooseFileNext(const QString& path)
+{
+    chosenFiles().enqueue(path);
+}
+
 void Dialogs::answerNext(int button)
 {
     answers().enqueue(button);
@@ -69,6 +97,7 @@ void Dialogs::forgetAsked()
 {
     history().clear();
     answers().clear();
+    chosenFiles().clear();
 }
 
 } // namespace lullet

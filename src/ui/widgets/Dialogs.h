@@ -27,9 +27,16 @@ public:
                         const QString& no = QStringLiteral("No"));
     // A message with one button, "Ok".
     static void inform(QWidget* parent, const QString& text, const QString& information = {});
+    // The desktop's file panels: a file to write, offered under `proposed` (a path), or a file
+    // to read, starting in `folder`. Empty when the user cancels.
+    static QString chooseFileToSave(QWidget* parent, const QString& caption,
+                                    const QString& proposed);
+    static QString chooseFileToOpen(QWidget* parent, const QString& caption, const QString& folder);
 
     // Tests: the next question is answered with this button, without a panel. Answers queue up.
     static void answerNext(int button);
+    // Tests: the next file panel answers with this path (empty: cancelled), without a panel.
+    static void chooseFileNext(const QString& path);
     // Tests: every question asked so far, the pre-answered ones included.
     static const QList<Question>& asked();
     static void forgetAsked();

@@ -1,3 +1,6 @@
+#include "core/activity/ItemActions.h"
+#include "core/activity/ProjectActions.h"
+#include "core/backup/Backups.h"
 #include "core/dates/CalendarContext.h"
 #include "core/settings/SettingsKeys.h"
 #include "support/Launched.h"
@@ -5,6 +8,7 @@
 #include "support/TestMain.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/MainView.h"
+#include "ui/shell/BackupCommands.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/Shell.h"
@@ -14,10 +18,13 @@
 #include "ui/widgets/Popover.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -202,6 +209,58 @@ private Q_SLOTS:
         QVERIFY(quick);
         QTest::keyClick(quick->nameField(), Qt::Key_Escape);
         QVERIFY(!quick->isVisible());
+    }
+
+    // From the menu: a copy saved by hand is shown in the file manager; a restore comes back on
+    // the project shown before, by name; a refused file is said and changes nothing.
+    void backUpAndRestoreFromTheMenu()
+    {
+        QVERIFY(m_app->open());
+        Project* home = m_app->services().projectActions.addProject(QStringLiteral("Home")).project;
+        Item* walk = m_app->addItem(QStringLiteral("Walk"), at(2026, 11, 23, 12, 0));
+        m_app->services().itemActions.moveToProject(*walk, home);
+        QVERIFY(m_app->library().save());
+        MainWindow window;
+        const QString copy = QDir(m_dir->path()).filePath(QStringLiteral("mine.sqlite"));
+        {
+            QStringList revealed;
+            BackupCommands commands(m_app->services(), &window,
+                                    [&](const QString& path) { revealed << path; });
+            Dialogs::forgetAsked();
+            Dialogs::chooseFileNext(copy);
+            commands.backUpNow();
+            QTRY_COMPARE(revealed, QStringList{copy});
+            QVERIFY(Dialogs::asked().front().information.endsWith(QStringLiteral(".sqlite")));
+        }
+
+        Shell shell(m_app->services(), window);
+        shell.setLoaded();
+        shell.bringMainWindowForward();
+        MainView* view = shell.content()->mainView();
+        view->selectSegment(QStringLiteral("Home"));
+        m_app->addItem(QStringLiteral("Read"), at(2026, 11, 23, 13, 0));
+        QVERIFY(m_app->library().save());
+        QSignalSpy restored(&m_app->services().backups, &Backups::restored);
+        Dialogs::chooseFileNext(copy);
+        Q_EMIT window.restoreRequested();
+        QVERIFY(restored.wait(5000));
+        QVERIFY(view->selectedProject() && view->selectedProject()->hasContext());
+        QCOMPARE(*view->selectedProject()->name(), QStringLiteral("Home"));
+        QCOMPARE(m_app->library().items().size(), std::size_t(1));
+
+        // A text file is refused, and the user is told why.
+        const QString text = QDir(m_dir->path()).filePath(QStringLiteral("notes.txt"));
+        QFile notes(text);
+        QVERIFY(notes.open(QIODevice::WriteOnly));
+        notes.write("not a store");
+        notes.close();
+        Dialogs::forgetAsked();
+        Dialogs::answerNext(0);
+        Dialogs::chooseFileNext(text);
+        Q_EMIT window.restoreRequested();
+        QCOMPARE(Dialogs::asked().size(), 2);
+        QCOMPARE(Dialogs::asked().back().text,
+                 QStringLiteral("This file can't be restored. Nothing was changed."));
     }
 };
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+namespace lullet {
+
+// A whole, self-contained copy of a store file, made through SQLite from a connection of its
+// own, so that what is committed but still in the write-ahead log is in it too. The copy ends in
+// journal mode DELETE: one file, no side files. Safe on any thread; it touches no record.
+class StoreCopy {
+public:
+    struct Result {
+        bool ok = false;
+        // Why the copy failed, in words for the user.
+        QString message;
+    };
+
+    // Copies `source` to `destination` by way of "tempBkp.sqlite" in `workFolder`. An existing
+    // destination is never overwritten.
+    static Result copy(const QString& source, const QString& destination,
+                       const QString& workFolder);
+};
+
+} // namespace lullet

@@ -1,0 +1,328 @@
+#include "core/backup/BackupList.h"
+#include "core/backup/Backups.h"
+#include "core/backup/StoreCopy.h"
+#include "core/dates/CalendarContext.h"
+#include "core/settings/SettingsKeys.h"
+#include "core/store/Db.h"
+#include "core/store/Store.h"
+#include "core/store/StoreSchema.h"
+#include "support/DatePrinting.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+namespace {
+
+QByteArray digest(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256);
+}
+
+QStringList titlesIn(const QString& storeFile)
+{
+    Db db(storeFile, true);
+    QStringList titles;
+    for (qint64 i = 0; i < db.queryInt("SELECT count(*) FROM ReminderInfo").value_or(0); ++i) {
+        const QByteArray sql =
+            "SELECT title FROM ReminderInfo ORDER BY title LIMIT 1 OFFSET " + QByteArray::number(i);
+        titles << db.queryText(sql.constData()).value_or(QString());
+    }
+    return titles;
+}
+
+} // namespace
+
+// Copies of the store and restores from them, over a real store in a temporary folder.
+class TestBackups : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    Launched& app() { return *m_app; }
+    Backups& backups() { return app().services().backups; }
+    QString storeFile()
+    {
+        return QDir(m_dir->path()).filePath(QStringLiteral("data/Lullet.sqlite"));
+    }
+    QString file(const QString& name) { return QDir(m_dir->path()).filePath(name); }
+
+    void add(const QString& title)
+    {
+        app().addItem(title, at(2026, 11, 23, 12, 0));
+        QVERIFY(app().library().save());
+    }
+
+    QStringList titles()
+    {
+        QStringList list;
+        for (const Item* item : app().library().items())
+            list << item->title().value_or(QString());
+        list.sort();
+        return list;
+    }
+
+    BackupInfo listed(const QString& path, std::optional<Date> created)
+    {
+        QFile f(path);
+        f.open(QIODevice::WriteOnly);
+        f.write("x");
+        return {path, created, QStringLiteral("1 byte"), QStringLiteral("Backup"), {}};
+    }
+
+    // Makes a manual copy and waits for it.
+    void backUpTo(const QString& path)
+    {
+        QSignalSpy done(&backups(), &Backups::backedUp);
+        backups().backUpTo(path);
+        QVERIFY(done.wait(5000));
+    }
+
+private Q_SLOTS:
+    void initTestCase() { lullet::test::useTestCalendar(); }
+
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 15, 30));
+        QVERIFY(app().open());
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    // Committed rows still in the live store's log are in the copy, which is one whole file.
+    void aCopyIsWholeAndStandsAlone()
+    {
+        add(QStringLiteral("Walk"));
+        add(QStringLiteral("Read"));
+        QVERIFY(QFile::exists(storeFile() + QStringLiteral("-wal")));
+        const QString copy = file(QStringLiteral("copy.sqlite"));
+        backUpTo(copy);
+        QCOMPARE(titlesIn(copy), (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
+        Db db(copy, true);
+        QCOMPARE(db.queryText("PRAGMA journal_mode"), QStringLiteral("delete"));
+        QCOMPARE(db.queryInt("PRAGMA application_id"), qint64(StoreSchema::applicationId));
+        QVERIFY(!QFile::exists(copy + QStringLiteral("-wal")));
+        QVERIFY(!QFile::exists(copy + QStringLiteral("-shm")));
+        QVERIFY(!QFile::exists(file(QStringLiteral("data/temp/tempBkp.sqlite"))));
+        // A copy saved by hand is not listed.
+        QVERIFY(backups().list().entries().empty());
+
+        // An existing destination is never overwritten, and the user is told.
+        QSignalSpy failed(&backups(), &Backups::backupFailed);
+        backups().backUpTo(copy);
+        QVERIFY(failed.wait(5000));
+        QVERIFY(failed.first().first().toString().contains(QStringLiteral("already exists")));
+    }
+
+    // The launch's copy is listed, named by a moment a file name can hold.
+    void theLaunchCopyIsListed()
+    {
+        add(QStringLiteral("Walk"));
+        QSignalSpy created(&backups(), &Backups::backupCreated);
+        backups().createLaunchBackup();
+        QVERIFY(created.wait(5000));
+        const std::vector<BackupInfo> list = backups().list().entries();
+        QCOMPARE(list.size(), std::size_t(1));
+        QCOMPARE(list[0].type, QStringLiteral("Backup"));
+        QCOMPARE(*list[0].createdDate, at(2026, 11, 23, 10, 15, 30));
+        QVERIFY(list[0].path.startsWith(backups().backupsFolder()));
+        QCOMPARE(titlesIn(list[0].path), QStringList{QStringLiteral("Walk")});
+        QVERIFY(list[0].sizeDisplay.endsWith(QStringLiteral(" KB")));
+        const QString name = QFileInfo(list[0].path).fileName();
+        for (const QChar bad : {QChar(u':'), QChar(u'/'), QChar(0x202F), QChar(0x00A0)})
+            QVERIFY2(!name.contains(bad), qPrintable(name));
+        QVERIFY(name.startsWith(QStringLiteral("Backup-Nov 23  2026")));
+        QVERIFY(backups().proposedFileName().startsWith(QStringLiteral("Lullet Backup-")));
+        QCOMPARE(BackupList::sizeToDisplay(file(QStringLiteral("none"))),
+                 QStringLiteral("Zero Byte"));
+    }
+
+    void retentionAtLaunch_data()
+    {
+        QTest::addColumn<int>("option");
+        QTest::addColumn<QStringList>("kept");
+        QTest::newRow("0 keeps all")
+            << 0
+            << QStringList{QStringLiteral("today"), QStringLiteral("six"), QStringLiteral("seven"),
+                           QStringLiteral("gone"), QStringLiteral("undated")};
+        QTest::newRow("1 keeps six days")
+            << 1
+            << QStringList{QStringLiteral("today"), QStringLiteral("six"),
+                           QStringLiteral("undated")};
+        QTest::newRow("2 keeps nothing") << 2 << QStringList{};
+    }
+
+    void retentionAtLaunch()
+    {
+        QFETCH(int, option);
+        QFETCH(QStringList, kept);
+        app().settings.setValue(SettingsKeys::backupOption, option);
+        const QString folder = backups().backupsFolder();
+        QDir().mkpath(folder);
+        const auto path = [&](const QString& name) {
+            return QDir(folder).filePath(name + QStringLiteral(".sqlite"));
+        };
+        std::vector<BackupInfo> list = {
+            listed(path(QStringLiteral("today")), at(2026, 11, 23, 8, 0)),
+            listed(path(QStringLiteral("six")), at(2026, 11, 17, 0, 0)),
+            listed(path(QStringLiteral("seven")), at(2026, 11, 16, 0, 0)),
+            {path(QStringLiteral("gone")), at(2026, 10, 1), {}, QStringLiteral("Backup"), {}},
+            listed(path(QStringLiteral("undated")), std::nullopt),
+        };
+        // Someone else's file, named in the list: never deleted.
+        const QString outside = file(QStringLiteral("mine.sqlite"));
+        list.push_back(listed(outside, at(2026, 1, 1)));
+        kept << (option == 0 ? QStringList{QStringLiteral("mine")} : QStringList{});
+        app().settings.setValue(SettingsKeys::backupFiles2, BackupInfo::archive(list));
+
+        backups().pruneAtLaunch();
+        QStringList names;
+        for (const BackupInfo& info : backups().list().entries())
+            names << QFileInfo(info.path).completeBaseName();
+        QCOMPARE(names, kept);
+        QCOMPARE(QFile::exists(path(QStringLiteral("seven"))), option == 0);
+        QCOMPARE(QFile::exists(path(QStringLiteral("today"))), option != 2);
+        QVERIFY(QFile::exists(outside));
+        if (kept.isEmpty())
+            QVERIFY(!app().settings.contains(SettingsKeys::backupFiles2));
+    }
+
+    // Back up, change more, restore: the store is the backup again, the safety copy holds what
+    // there was, and every list was read anew.
+    void aRestoreRoundTrip()
+    {
+        Project* home = app().library().newProject();
+        home->setName(QStringLiteral("Home"));
+        app().library().addProject(home);
+        add(QStringLiteral("Walk"));
+        const QString copy = file(QStringLiteral("copy.sqlite"));
+        backUpTo(copy);
+        add(QStringLiteral("Read"));
+        Item* running = app().library().items().front();
+        app().running().start(*running);
+        QSignalSpy restored(&backups(), &Backups::restored);
+        QSignalSpy reloaded(&app().library(), &Library::itemsChanged);
+        backups().restoreFrom(copy, QStringLiteral("Home"));
+        QVERIFY(restored.wait(5000));
+        QCOMPARE(restored.first().first().toString(), QStringLiteral("Home"));
+        QCOMPARE(titles(), QStringList{QStringLiteral("Walk")});
+        QVERIFY(app().library().projectNamed(QStringLiteral("Home")));
+        QVERIFY(!app().running().item());
+        QVERIFY(!running->hasContext());
+        QVERIFY(!reloaded.isEmpty());
+        QVERIFY(!QFile::exists(storeFile() + QStringLiteral(".before-restore")));
+
+        const std::vector<BackupInfo> list = backups().list().entries();
+        QCOMPARE(list.size(), std::size_t(1));
+        QCOMPARE(list[0].type, QStringLiteral("Restored Backup"));
+        QCOMPARE(titlesIn(list[0].path),
+                 (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
+        // The chosen file was copied, not moved; the restored store saves as before.
+        QVERIFY(QFile::exists(copy));
+        add(QStringLiteral("Stretch"));
+        QCOMPARE(titlesIn(storeFile()),
+                 (QStringList{QStringLiteral("Stretch"), QStringLiteral("Walk")}));
+    }
+
+    void aRefusedFileChangesNothing_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("because");
+        QTest::newRow("text") << "text"
+                              << "not a database";
+        QTest::newRow("empty") << "empty"
+                               << "not a database";
+        QTest::newRow("truncated") << "truncated"
+                                   << "damaged";
+        QTest::newRow("foreign") << "foreign"
+                                 << "another program";
+        QTest::newRow("newer") << "newer"
+                               << "newer version";
+        QTest::newRow("no tables") << "tables"
+                                   << "lacks the tables";
+    }
+
+    void aRefusedFileChangesNothing()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, because);
+        add(QStringLiteral("Walk"));
+        const QString chosen = file(QStringLiteral("chosen.sqlite"));
+        if (kind == QStringLiteral("text") || kind == QStringLiteral("empty")) {
+            QFile f(chosen);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            if (kind == QStringLiteral("text"))
+                f.write("Dear diary, today I backed up nothing at all.\n");
+        } else if (kind == QStringLiteral("truncated")) {
+            backUpTo(chosen);
+            QFile f(chosen);
+            QVERIFY(f.open(QIODevice::ReadWrite));
+            QVERIFY(f.resize(f.size() / 2));
+        } else {
+            Db other(chosen);
+            if (kind == QStringLiteral("foreign")) {
+                other.exec("CREATE TABLE notes (body TEXT)");
+            } else {
+                const QByteArray stamp =
+                    "PRAGMA application_id = " + QByteArray::number(StoreSchema::applicationId);
+                other.exec(stamp.constData());
+                other.exec(kind == QStringLiteral("newer") ? "PRAGMA user_version = 999"
+                                                           : "PRAGMA user_version = 1");
+                other.exec("CREATE TABLE notes (body TEXT)");
+            }
+        }
+        const QByteArray before = digest(storeFile());
+        QSignalSpy refused(&backups(), &Backups::restoreRefused);
+        QSignalSpy created(&backups(), &Backups::backupCreated);
+        backups().restoreFrom(chosen, QString());
+        QCOMPARE(refused.size(), 1);
+        QVERIFY2(refused.first().first().toString().contains(because),
+                 qPrintable(refused.first().first().toString()));
+        QTest::qWait(50);
+        QVERIFY(created.isEmpty());
+        QVERIFY(backups().list().entries().empty());
+        QCOMPARE(digest(storeFile()), before);
+        QCOMPARE(titles(), QStringList{QStringLiteral("Walk")});
+    }
+
+    // The chosen file vanishes while the safety copy is made: the swap fails, the old store is
+    // put back and the program goes on with it.
+    void aFailedSwapPutsTheStoreBack()
+    {
+        add(QStringLiteral("Walk"));
+        const QString copy = file(QStringLiteral("copy.sqlite"));
+        backUpTo(copy);
+        add(QStringLiteral("Read"));
+        QSignalSpy failed(&backups(), &Backups::restoreFailed);
+        backups().restoreFrom(copy, QString());
+        QVERIFY(QFile::remove(copy));
+        QVERIFY(failed.wait(5000));
+        QVERIFY(failed.first().first().toString().contains(QStringLiteral("put back")));
+        QCOMPARE(titles(), (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
+        add(QStringLiteral("Stretch"));
+        QCOMPARE(titlesIn(storeFile()),
+                 (QStringList{QStringLiteral("Read"), QStringLiteral("Stretch"),
+                              QStringLiteral("Walk")}));
+    }
+};
+
+LULLET_TEST_MAIN(TestBackups)
+#include "tst_backups.moc"

@@ -54,9 +54,6 @@ public:
     // main view shows, handed back by restored() so that the view can find it again.
     void restoreFrom(const QString& path, const QString& shownProject);
 
-    // Tests: waits until the worker is idle.
-    void waitForCopies() { m_worker.waitForDone(); }
-
 Q_SIGNALS:
     // A copy was made and listed.
     void backupCreated(const lullet::BackupInfo& info);

@@ -29,7 +29,8 @@ public:
     void showInHost();
     // Fades out, then hides; `done` runs once it is gone (at once when it already is).
     void performClose(const std::function<void()>& done = {});
-    // Gives it the keyboard: raised, activated, its first field focused.
+    // Gives it the keyboard: raised, activated, its first field focused. Only for a user's own
+    // act (a click on the tray icon), never when the popover is shown.
     void activate();
 
 Q_SIGNALS:

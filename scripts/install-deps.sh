@@ -9,6 +9,7 @@ packages=(
   libicu-dev libsqlite3-dev libgl-dev
   xvfb xauth dbus dbus-x11 fonts-dejavu-core clang-format
   openbox xdotool x11-utils
+  qtkeychain-qt6-dev libsecret-1-0 gnome-keyring
 )
 
 missing=()

@@ -6,6 +6,7 @@
 #include "core/scheduling/WorkingSchedule.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
+#include "ui/desktop/KeyringSecretStore.h"
 #include "ui/desktop/ScreenSaverInhibitor.h"
 #include "ui/desktop/SingleInstance.h"
 #include "ui/desktop/TerminationSignals.h"
@@ -168,7 +169,8 @@ int main(int argc, char* argv[])
     SystemClock clock;
     Settings settings(Settings::defaultPath());
     ScreenSaverInhibitor inhibitor;
-    AppController core(clock, settings, Store::defaultFolder(), inhibitor);
+    KeyringSecretStore keyring;
+    AppController core(clock, settings, Store::defaultFolder(), inhibitor, keyring);
     MainWindow window;
     Shell shell(core.services(), window);
     shell.showTray();

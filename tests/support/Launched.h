@@ -7,6 +7,7 @@
 #include "core/store/ObjectContext.h"
 #include "support/FakeClock.h"
 #include "support/FakeInhibitor.h"
+#include "support/FakeSecretStore.h"
 #include "support/PromptRecorder.h"
 
 #include <QCoreApplication>
@@ -26,7 +27,7 @@ public:
     Launched(const QString& dir, Date now)
         : clock(now)
         , settings(QDir(dir).filePath(QStringLiteral("Lullet.conf")))
-        , core(clock, settings, QDir(dir).filePath(QStringLiteral("data")), inhibitor)
+        , core(clock, settings, QDir(dir).filePath(QStringLiteral("data")), inhibitor, secrets)
         , prompts(core.services().monitor)
     {
     }
@@ -68,6 +69,7 @@ public:
     FakeClock clock;
     Settings settings;
     FakeInhibitor inhibitor;
+    FakeSecretStore secrets;
     AppController core;
     PromptRecorder prompts;
 };

@@ -29,7 +29,8 @@ Date nearestMinute(Date now)
 } // namespace
 
 AppController::AppController(const Clock& clock, Settings& settings, const QString& storeFolder,
-                             DisplaySleepInhibitor& inhibitor, QObject* parent)
+                             DisplaySleepInhibitor& inhibitor, SecretStore& secrets,
+                             QObject* parent)
     : QObject(parent)
     , m_clock(clock)
     , m_settings(settings)
@@ -47,10 +48,14 @@ AppController::AppController(const Clock& clock, Settings& settings, const QStri
     , m_projectActions(clock, m_library)
     , m_postponing(clock, m_library)
     , m_backups({clock, settings, m_store, m_library, m_catalogue, m_running})
-    , m_services{clock,     settings,      m_library,        m_schedule,   m_hours,
-                 m_texts,   m_generator,   m_catalogue,      m_running,    m_lock,
-                 m_monitor, m_itemActions, m_projectActions, m_postponing, m_backups}
+    , m_protection(settings, secrets, m_lock)
+    , m_services{clock,       settings,      m_library,        m_schedule,   m_hours,
+                 m_texts,     m_generator,   m_catalogue,      m_running,    m_lock,
+                 m_monitor,   m_itemActions, m_projectActions, m_postponing, m_backups,
+                 m_protection}
 {
+    // The idle question the lock held back is asked as soon as the user is in.
+    connect(&m_lock, &Lock::unlocked, &m_monitor, &Monitor::askWhatNow);
 }
 
 AppController::~AppController() = default;

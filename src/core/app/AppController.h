@@ -14,6 +14,7 @@
 #include "core/scheduling/WorkingHours.h"
 #include "core/scheduling/WorkingSchedule.h"
 #include "core/security/Lock.h"
+#include "core/security/Protection.h"
 #include "core/store/Store.h"
 
 #include <QObject>
@@ -36,7 +37,8 @@ class AppController final : public QObject {
     Q_OBJECT
 public:
     AppController(const Clock& clock, Settings& settings, const QString& storeFolder,
-                  DisplaySleepInhibitor& inhibitor, QObject* parent = nullptr);
+                  DisplaySleepInhibitor& inhibitor, SecretStore& secrets,
+                  QObject* parent = nullptr);
     ~AppController() override;
 
     const Services& services() const { return m_services; }
@@ -81,6 +83,7 @@ private:
     ProjectActions m_projectActions;
     Postponing m_postponing;
     Backups m_backups;
+    Protection m_protection;
     Services m_services;
     std::unique_ptr<QTimer> m_timer;
     std::optional<quint32> m_inhibitCookie;

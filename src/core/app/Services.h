@@ -12,6 +12,7 @@ class Lock;
 class Monitor;
 class Postponing;
 class ProjectActions;
+class Protection;
 class RunningItem;
 class ScheduleTexts;
 class Settings;
@@ -36,6 +37,7 @@ struct Services {
     ProjectActions& projectActions;
     Postponing& postponing;
     Backups& backups;
+    Protection& protection;
 };
 
 } // namespace lullet

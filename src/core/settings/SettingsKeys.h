@@ -27,6 +27,8 @@ inline constexpr QLatin1String mainWindowGeometry{"mainWindowGeometry"};
 // Keys inside the "passwordValues" dictionary.
 inline constexpr QLatin1String isPassword{"isPassword"};
 inline constexpr QLatin1String password{"password"};
+// Written, always empty, when the login page finds protection without a password.
+inline constexpr QLatin1String email{"email"};
 
 struct Default {
     QLatin1String key;

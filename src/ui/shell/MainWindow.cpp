@@ -15,6 +15,21 @@ namespace {
 const QSize frameAllowance(16, 48);
 } // namespace
 
+QList<QKeySequence> MainWindow::preferencesShortcuts()
+{
+    // Desktops that name no key for preferences get the one most programs use.
+    QList<QKeySequence> keys = QKeySequence::keyBindings(QKeySequence::Preferences);
+    if (keys.isEmpty())
+        keys << QKeySequence(Qt::CTRL | Qt::Key_Comma);
+    return keys;
+}
+
+void MainWindow::setLocked(bool locked)
+{
+    for (QAction* action : std::as_const(m_dataActions))
+        action->setEnabled(!locked);
+}
+
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
 {
@@ -28,10 +43,16 @@ MainWindow::MainWindow(QWidget* parent)
     quickAdd->setShortcut(QKeySequence::New);
     connect(quickAdd, &QAction::triggered, this, &MainWindow::quickAddRequested);
     file->addSeparator();
-    connect(file->addAction(tr("&Back Up Now…")), &QAction::triggered, this,
-            &MainWindow::backUpRequested);
-    connect(file->addAction(tr("&Restore From File…")), &QAction::triggered, this,
-            &MainWindow::restoreRequested);
+    QAction* backUp = file->addAction(tr("&Back Up Now…"));
+    connect(backUp, &QAction::triggered, this, &MainWindow::backUpRequested);
+    QAction* restore = file->addAction(tr("&Restore From File…"));
+    connect(restore, &QAction::triggered, this, &MainWindow::restoreRequested);
+    m_dataActions = {quickAdd, backUp, restore};
+    file->addSeparator();
+    QAction* preferences = file->addAction(tr("&Preferences…"));
+    preferences->setShortcuts(preferencesShortcuts());
+    preferences->setMenuRole(QAction::PreferencesRole);
+    connect(preferences, &QAction::triggered, this, &MainWindow::preferencesRequested);
     file->addSeparator();
     QAction* quit = file->addAction(tr("&Quit Lullet"));
     quit->setShortcut(QKeySequence::Quit);

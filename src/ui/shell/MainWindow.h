@@ -15,17 +15,25 @@ public:
     // screen too small for that).
     void applyWelcomeSizing();
     void applyWorkingSizing(bool locked);
+    // While locked, the menu entries that would reveal or copy the user's data are off.
+    void setLocked(bool locked);
+    // The platform's key for preferences, for the window's menu and the tray's.
+    static QList<QKeySequence> preferencesShortcuts();
 
 Q_SIGNALS:
     void quitRequested();
     void quickAddRequested();
     void backUpRequested();
     void restoreRequested();
+    void preferencesRequested();
     // Closed or hidden: where it stood is worth keeping.
     void hidden();
 
 protected:
     void hideEvent(QHideEvent* event) override;
+
+private:
+    QList<QAction*> m_dataActions;
 };
 
 } // namespace lullet

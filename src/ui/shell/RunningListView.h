@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QHBoxLayout;
 class QLabel;
 
 namespace lullet {
@@ -9,7 +10,7 @@ namespace lullet {
 struct Services;
 
 // What the tray shows when clicked: the item running now, with its time, and the day's list
-// without its header.
+// without its header. While the program is locked it says only that.
 class RunningListView final : public QWidget {
     Q_OBJECT
 public:
@@ -20,6 +21,7 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
+    QHBoxLayout* makeActions();
     void showRunning();
 
     const Services& m_services;

@@ -13,6 +13,7 @@
 #include "ui/authoring/QuickAddView.h"
 #include "ui/desktop/FileManager.h"
 #include "ui/main/MainView.h"
+#include "ui/preferences/PreferencesWindow.h"
 #include "ui/prompts/IdlePromptView.h"
 #include "ui/prompts/ReminderPromptView.h"
 #include "ui/prompts/TimeOverPromptView.h"
@@ -22,6 +23,7 @@
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/Tray.h"
 #include "ui/shell/WindowContent.h"
+#include "ui/widgets/Dialogs.h"
 #include "ui/widgets/Popover.h"
 
 #include <QGuiApplication>
@@ -56,8 +58,25 @@ Shell::Shell(const Services& services, MainWindow& window, QObject* parent)
     connect(m_tray, &Tray::retiring, this, &Shell::onRetiring);
     connect(&m_window, &MainWindow::quickAddRequested, this, &Shell::quickAdd);
     connect(&m_window, &MainWindow::hidden, this, &Shell::keepWindowGeometry);
+    connect(&m_window, &MainWindow::preferencesRequested, this, &Shell::showPreferences);
     connectMonitor();
     connectBackups();
+    connectLock();
+}
+
+void Shell::connectLock()
+{
+    m_window.setLocked(m_services.lock.isLocked());
+    connect(&m_services.lock, &Lock::unlocked, this, [this] {
+        m_window.setLocked(false);
+        if (m_trayQuickAdd)
+            m_trayQuickAdd->setEnabled(true);
+        // The list that said it was locked has nothing true to say now.
+        if (qobject_cast<RunningListView*>(m_tray->popover() ? m_tray->popover()->content()
+                                                             : nullptr))
+            m_tray->closePopoverImmediate();
+        updateToolTip();
+    });
 }
 
 void Shell::connectBackups()
@@ -171,7 +190,12 @@ void Shell::connectMonitor()
 
 void Shell::updateToolTip()
 {
-    if (m_loaded)
+    if (!m_loaded)
+        return;
+    // What runs and what comes next are the user's data.
+    if (m_services.lock.isLocked())
+        m_tray->setToolTip(tr("Lullet is locked"));
+    else
         m_tray->setToolTip(
             RunningStatus::toolTip(m_services.library, m_services.running, m_services.clock));
 }
@@ -181,9 +205,13 @@ void Shell::showTray()
     auto* menu = new QMenu(&m_window);
     connect(menu->addAction(tr("Open Lullet")), &QAction::triggered, this,
             [this] { bringMainWindowForward(); });
-    QAction* quickAdd = menu->addAction(tr("Quick Add"));
-    quickAdd->setShortcut(QKeySequence::New);
-    connect(quickAdd, &QAction::triggered, this, &Shell::quickAdd);
+    m_trayQuickAdd = menu->addAction(tr("Quick Add"));
+    m_trayQuickAdd->setShortcut(QKeySequence::New);
+    m_trayQuickAdd->setEnabled(!m_services.lock.isLocked());
+    connect(m_trayQuickAdd, &QAction::triggered, this, &Shell::quickAdd);
+    QAction* preferences = menu->addAction(tr("Preferences…"));
+    preferences->setShortcuts(MainWindow::preferencesShortcuts());
+    connect(preferences, &QAction::triggered, this, &Shell::showPreferences);
     menu->addSeparator();
     connect(menu->addAction(tr("Quit Lullet")), &QAction::triggered, this, &Shell::quitRequested);
     m_tray->showIcon(menu);
@@ -193,12 +221,7 @@ void Shell::prepareMainWindow(bool locked)
 {
     if (!m_content) {
         m_content = new WindowContent(m_services);
-        connect(m_content, &WindowContent::proceededFromWelcome, this, [this] {
-            m_window.setWindowFlags(Qt::Window);
-            m_window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-            m_window.applyWorkingSizing(false);
-            m_window.show();
-        });
+        connectContent();
         m_window.setCentralWidget(m_content);
     }
     if (!m_services.settings.welcomeDone()) {
@@ -213,10 +236,24 @@ void Shell::prepareMainWindow(bool locked)
         m_window.restoreGeometry(kept);
 }
 
+void Shell::connectContent()
+{
+    connect(m_content, &WindowContent::proceededFromWelcome, this, [this] {
+        m_window.setWindowFlags(Qt::Window);
+        m_window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        m_window.applyWorkingSizing(false);
+        m_window.show();
+    });
+    connect(m_content, &WindowContent::proceededFromLogin, this,
+            [this] { prepareMainWindow(false); });
+    connect(m_content, &WindowContent::preferencesRequested, this, &Shell::showPreferences);
+    connect(m_content, &WindowContent::quitRequested, this, &Shell::quitRequested);
+}
+
 void Shell::keepWindowGeometry()
 {
-    // The welcome's fixed size is not the user's choice.
-    if (m_content && m_services.settings.welcomeDone())
+    // The welcome's fixed size and the login page's are not the user's choice.
+    if (m_content && m_services.settings.welcomeDone() && !m_services.lock.isLocked())
         m_services.settings.setValue(SettingsKeys::mainWindowGeometry, m_window.saveGeometry());
 }
 
@@ -322,6 +359,12 @@ void Shell::quickAdd()
         m_quickAddWanted = true;
         return;
     }
+    if (m_services.lock.isLocked()) {
+        bringMainWindowForward();
+        Dialogs::inform(&m_window, tr("Lullet is locked."),
+                        tr("Enter your password first, then add the task."));
+        return;
+    }
     MainView* main = m_content ? m_content->mainView() : nullptr;
     if (m_window.isVisible() && main)
         main->showQuickAddBar();
@@ -350,6 +393,20 @@ void Shell::openQuickAddWindow()
     m_quickAddWindow->raise();
     m_quickAddWindow->activateWindow();
     m_quickAddWindow->nameField()->setFocus();
+}
+
+PreferencesWindow* Shell::preferences() const
+{
+    return m_preferences;
+}
+
+void Shell::showPreferences()
+{
+    if (!m_preferences)
+        m_preferences = new PreferencesWindow(m_services, &m_window);
+    m_preferences->show();
+    m_preferences->raise();
+    m_preferences->activateWindow();
 }
 
 } // namespace lullet

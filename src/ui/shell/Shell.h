@@ -8,10 +8,13 @@
 
 #include <functional>
 
+class QAction;
+
 namespace lullet {
 
 class Item;
 class MainWindow;
+class PreferencesWindow;
 class Project;
 class QuickAddView;
 class Tray;
@@ -52,6 +55,11 @@ public:
     void quickAdd();
     void openQuickAddWindow();
 
+    // The preferences window, made when first asked for; on the security tab alone while the
+    // program is locked.
+    void showPreferences();
+    PreferencesWindow* preferences() const;
+
 Q_SIGNALS:
     void quitRequested();
 
@@ -66,6 +74,8 @@ private:
     void updateToolTip();
     void connectMonitor();
     void connectBackups();
+    void connectLock();
+    void connectContent();
     void showPrompt(const std::function<QWidget*()>& make);
     void onAnswered(PromptOutcome outcome);
     void onRetiring(QWidget* content);
@@ -76,6 +86,8 @@ private:
     Tray* m_tray;
     WindowContent* m_content = nullptr;
     QPointer<QuickAddView> m_quickAddWindow;
+    QPointer<PreferencesWindow> m_preferences;
+    QAction* m_trayQuickAdd = nullptr;
     QPointer<QWidget> m_loading;
     bool m_loaded = false;
     bool m_windowWanted = false;

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "core/security/SecretStore.h"
+
+#include <QObject>
+
+namespace lullet {
+
+class Lock;
+class Settings;
+
+// The password protection: whether it is on ("isPassword" of "passwordValues") and the password
+// itself, which lives in the keyring only. The security settings write through here, the login
+// page reads through here, and nothing else touches either.
+class Protection final : public QObject {
+    Q_OBJECT
+public:
+    Protection(Settings& settings, SecretStore& secrets, Lock& lock, QObject* parent = nullptr);
+
+    // The launch asks for the password.
+    bool isOn() const;
+
+    // The stored password. None stored while protection is on repairs the protection: it goes
+    // off, since it has nothing to hold to. An unreachable keyring changes nothing.
+    void readPassword(QObject* context, SecretStore::ReadDone done);
+    // Switched on before any password exists: the protection is half set until one is stored.
+    void switchOn();
+    // Switched off: the keyring's item goes and the launch no longer asks.
+    void switchOff();
+    // Stores the password (already checked) and turns protection on. A keyring that can't store
+    // it leaves protection off and says why.
+    void storePassword(const QString& password, QObject* context, SecretStore::WriteDone done);
+
+    enum class Login {
+        Blank,
+        Wrong,
+        In,
+        // The keyring can't be reached: the program stays locked, since no answer is not "no
+        // password".
+        Unavailable,
+    };
+    using LoginDone = std::function<void(Login, const QString& error)>;
+    // Checks what the user typed, exactly as typed, and unlocks the program when it matches.
+    // With protection on and no password stored, any entry that isn't blank lets the user in and
+    // turns protection off.
+    void logIn(const QString& typed, QObject* context, LoginDone done);
+
+private:
+    void writeSwitch(bool on);
+
+    Settings& m_settings;
+    SecretStore& m_secrets;
+    Lock& m_lock;
+};
+
+} // namespace lullet

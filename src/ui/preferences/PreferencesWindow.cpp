@@ -1,0 +1,127 @@
+#include "ui/preferences/PreferencesWindow.h"
+
+#include "core/app/Services.h"
+#include "core/security/Lock.h"
+#include "ui/preferences/GeneralTab.h"
+#include "ui/preferences/SecurityTab.h"
+#include "ui/preferences/TabIcons.h"
+
+#include <QActionGroup>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace lullet {
+
+namespace {
+
+constexpr int windowWidth = 560;
+
+struct TabLook {
+    PreferencesWindow::Tab tab;
+    const char* name;
+    const char* caption;
+    const char* themeIcon;
+    QIcon (*drawnIcon)();
+    // The height of the whole window while the tab shows.
+    int height;
+};
+
+const TabLook tabs[] = {
+    {PreferencesWindow::Tab::General, "general", QT_TRANSLATE_NOOP("PreferencesWindow", "General"),
+     "preferences-system", &TabIcons::general, 319},
+    {PreferencesWindow::Tab::Security, "security",
+     QT_TRANSLATE_NOOP("PreferencesWindow", "Security"), "security-high", &TabIcons::security, 400},
+};
+
+const TabLook& look(PreferencesWindow::Tab tab)
+{
+    for (const TabLook& each : tabs) {
+        if (each.tab == tab)
+            return each;
+    }
+    return tabs[0];
+}
+
+} // namespace
+
+PreferencesWindow::PreferencesWindow(const Services& services, QWidget* parent)
+    : QWidget(parent, Qt::Window)
+    , m_services(services)
+    , m_pages(new QStackedWidget(this))
+{
+    setWindowTitle(tr("Lullet Preferences"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto* bar = new QToolBar(this);
+    makeToolBar(bar);
+    layout->addWidget(bar);
+    layout->addWidget(m_pages, 1);
+    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this,
+            &QWidget::close);
+    if (m_services.lock.isLocked()) {
+        // Behind the lock only the password settings can be reached.
+        for (const auto& [tab, action] : m_actions)
+            action->setVisible(tab == Tab::Security);
+        connect(&m_services.lock, &Lock::unlocked, this, &PreferencesWindow::showUnlockedTabs);
+        showTab(Tab::Security);
+    } else {
+        showTab(Tab::General);
+    }
+}
+
+void PreferencesWindow::makeToolBar(QToolBar* bar)
+{
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    bar->setIconSize(QSize(32, 32));
+    auto* group = new QActionGroup(this);
+    for (const TabLook& each : tabs) {
+        const QIcon icon = QIcon::fromTheme(QLatin1String(each.themeIcon), each.drawnIcon());
+        QAction* action = bar->addAction(icon, tr(each.caption));
+        action->setObjectName(QLatin1String(each.name));
+        action->setCheckable(true);
+        group->addAction(action);
+        const Tab tab = each.tab;
+        connect(action, &QAction::triggered, this, [this, tab] { showTab(tab); });
+        m_actions.emplace(tab, action);
+    }
+}
+
+QWidget* PreferencesWindow::page(Tab tab)
+{
+    // A tab is made when first shown.
+    if (auto made = m_made.find(tab); made != m_made.end())
+        return made->second;
+    QWidget* made = nullptr;
+    switch (tab) {
+    case Tab::General:
+        made = new GeneralTab(m_services.settings, m_services.running, m_pages);
+        break;
+    case Tab::Security:
+        made = new SecurityTab(m_services.protection, m_pages);
+        break;
+    }
+    m_pages->addWidget(made);
+    m_made.emplace(tab, made);
+    return made;
+}
+
+void PreferencesWindow::showTab(Tab tab)
+{
+    m_current = tab;
+    m_actions.at(tab)->setChecked(true);
+    m_pages->setCurrentWidget(page(tab));
+    // Resizing keeps the window's top left corner: the top edge stays.
+    setFixedSize(windowWidth, look(tab).height);
+}
+
+void PreferencesWindow::showUnlockedTabs()
+{
+    for (const auto& [tab, action] : m_actions)
+        action->setVisible(true);
+}
+
+} // namespace lullet

@@ -1,0 +1,73 @@
+#include "ui/preferences/TabIcons.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+#include <cmath>
+#include <functional>
+#include <numbers>
+
+namespace lullet::TabIcons {
+
+namespace {
+
+constexpr int side = 64;
+const QColor ink(0x4A, 0x4F, 0x55);
+
+QIcon drawn(const std::function<void(QPainter&)>& draw)
+{
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    draw(painter);
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+QIcon general()
+{
+    return drawn([](QPainter& painter) {
+        // A cog: eight teeth round a wheel with a hole.
+        QPainterPath cog;
+        const QPointF centre(side / 2.0, side / 2.0);
+        for (int tooth = 0; tooth < 8; ++tooth) {
+            QTransform turn;
+            turn.translate(centre.x(), centre.y());
+            turn.rotate(tooth * 45.0);
+            cog.addPolygon(turn.map(QPolygonF(QRectF(-5, -29, 10, 12))));
+        }
+        cog.addEllipse(centre, 20, 20);
+        cog.setFillRule(Qt::WindingFill);
+        QPainterPath hole;
+        hole.addEllipse(centre, 8, 8);
+        painter.drawPath(cog.simplified().subtracted(hole));
+    });
+}
+
+QIcon security()
+{
+    return drawn([](QPainter& painter) {
+        // A padlock: a shackle over a body with a keyhole.
+        QPen shackle(ink, 7);
+        painter.setPen(shackle);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawArc(QRectF(19, 8, 26, 30), 0, 180 * 16);
+        painter.drawLine(QPointF(19, 23), QPointF(19, 30));
+        painter.drawLine(QPointF(45, 23), QPointF(45, 30));
+        painter.setPen(Qt::NoPen);
+        QPainterPath body;
+        body.addRoundedRect(QRectF(12, 29, 40, 30), 5, 5);
+        QPainterPath keyhole;
+        keyhole.addEllipse(QPointF(32, 41), 4, 4);
+        keyhole.addRect(QRectF(30, 41, 4, 10));
+        painter.setBrush(ink);
+        painter.drawPath(body.subtracted(keyhole));
+    });
+}
+
+} // namespace lullet::TabIcons

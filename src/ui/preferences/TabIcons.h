@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QIcon>
+
+namespace lullet::TabIcons {
+
+// The preferences tabs' icons, drawn here for desktops whose icon theme has none of the names.
+QIcon general();
+QIcon security();
+
+} // namespace lullet::TabIcons

@@ -1,0 +1,75 @@
+#include "support/TestMain.h"
+#include "ui/desktop/KeyringSecretStore.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QObject>
+
+#include <optional>
+
+using namespace lullet;
+
+// The password in a real Secret Service, started for this test alone by with-keyring.sh.
+class TestKeyring : public QObject {
+    Q_OBJECT
+    KeyringSecretStore m_keyring;
+
+    SecretStore::Reading read()
+    {
+        std::optional<SecretStore::Reading> reading;
+        m_keyring.read(this, [&](const SecretStore::Reading& r) { reading = r; });
+        if (!QTest::qWaitFor([&] { return reading.has_value(); }, 20000))
+            qFatal("the keyring did not answer a read");
+        return *reading;
+    }
+
+    QString wait(const std::function<void(SecretStore::WriteDone)>& job)
+    {
+        std::optional<QString> error;
+        job([&](const QString& e) { error = e; });
+        if (!QTest::qWaitFor([&] { return error.has_value(); }, 20000))
+            qFatal("the keyring did not answer");
+        return *error;
+    }
+
+private Q_SLOTS:
+    void storesReadsAndRemovesThePassword()
+    {
+        QCOMPARE(read().outcome, SecretStore::Outcome::NotFound);
+        const QString secret = QStringLiteral("Kestrel 9 \u00e9\u0301");
+        QCOMPARE(wait([&](auto done) { m_keyring.write(secret, this, done); }), QString());
+        SecretStore::Reading found = read();
+        QCOMPARE(found.outcome, SecretStore::Outcome::Found);
+        QCOMPARE(found.secret, secret);
+        // Storing again replaces.
+        QCOMPARE(wait([&](auto done) { m_keyring.write(QStringLiteral("Falcon77"), this, done); }),
+                 QString());
+        QCOMPARE(read().secret, QStringLiteral("Falcon77"));
+        QCOMPARE(wait([&](auto done) { m_keyring.remove(this, done); }), QString());
+        QCOMPARE(read().outcome, SecretStore::Outcome::NotFound);
+        // Removing what isn't there is no failure.
+        QCOMPARE(wait([&](auto done) { m_keyring.remove(this, done); }), QString());
+    }
+
+    // A locked keyring that can't be unlocked (here: no display for its dialog) hides the
+    // password. That is no answer, never "no password".
+    void aLockedKeyringIsUnavailable()
+    {
+        QCOMPARE(wait([&](auto done) { m_keyring.write(QStringLiteral("Kestrel9"), this, done); }),
+                 QString());
+        QDBusMessage lock = QDBusMessage::createMethodCall(
+            QStringLiteral("org.freedesktop.secrets"), QStringLiteral("/org/freedesktop/secrets"),
+            QStringLiteral("org.freedesktop.Secret.Service"), QStringLiteral("Lock"));
+        lock << QVariant::fromValue(QList<QDBusObjectPath>{
+            QDBusObjectPath(QStringLiteral("/org/freedesktop/secrets/collection/login"))});
+        const QDBusMessage locked = QDBusConnection::sessionBus().call(lock);
+        QCOMPARE(locked.type(), QDBusMessage::ReplyMessage);
+        const SecretStore::Reading reading = read();
+        QCOMPARE(reading.outcome, SecretStore::Outcome::Unavailable);
+        QVERIFY(!reading.error.isEmpty());
+    }
+};
+
+LULLET_TEST_MAIN(TestKeyring)
+#include "tst_keyring.moc"

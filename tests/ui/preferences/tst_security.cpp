@@ -1,0 +1,298 @@
+#include "core/security/Lock.h"
+#include "core/security/Protection.h"
+#include "core/settings/SettingsKeys.h"
+#include "support/Launched.h"
+#include "support/Shots.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+#include "ui/authoring/QuickAddView.h"
+#include "ui/main/ItemListView.h"
+#include "ui/preferences/PreferencesWindow.h"
+#include "ui/preferences/SecurityTab.h"
+#include "ui/shell/LoginPage.h"
+#include "ui/shell/MainWindow.h"
+#include "ui/shell/RunningListView.h"
+#include "ui/shell/Shell.h"
+#include "ui/shell/WindowContent.h"
+#include "ui/widgets/Dialogs.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+namespace {
+
+template <typename T> T* child(QWidget* parent, const char* name)
+{
+    T* found = parent->findChild<T*>(QLatin1String(name));
+    if (!found)
+        qFatal("no %s", name);
+    return found;
+}
+
+// What the user sees of a widget: shown within its window.
+bool seen(QWidget* widget)
+{
+    return widget->isVisibleTo(widget->window());
+}
+
+} // namespace
+
+// The password settings and the login page, over a fake keyring.
+class TestSecurity : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    Protection& protection() { return m_app->services().protection; }
+    bool protectionOn() { return protection().isOn(); }
+
+    void launch(bool protectedWith, std::optional<QString> secret)
+    {
+        m_app->settings.setDictionary(SettingsKeys::passwordValues,
+                                      {{QString(SettingsKeys::isPassword), protectedWith}});
+        m_app->secrets.secret = std::move(secret);
+        QVERIFY(m_app->open());
+    }
+
+    void type(QWidget* tab, const char* field, const QString& text)
+    {
+        child<QLineEdit>(tab, field)->setText(text);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        useTestCalendar();
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 0));
+        Dialogs::forgetAsked();
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    // Off, setting, set, and off again, with the messages in their order.
+    void settingAPassword()
+    {
+        launch(false, std::nullopt);
+        SecurityTab tab(protection());
+        tab.resize(560, 340);
+        tab.show();
+        auto* box = child<QCheckBox>(&tab, "protection");
+        auto* done = child<QPushButton>(&tab, "done");
+        auto* message = child<QLabel>(&tab, "passwordMessage");
+        QTRY_VERIFY(box->isEnabled());
+        QVERIFY(!box->isChecked());
+        QVERIFY(!seen(done));
+
+        box->click();
+        // On before any password: half set, as the launch will find it.
+        QVERIFY(protectionOn());
+        QVERIFY(seen(done));
+        QCOMPARE(done->text(), QStringLiteral("Done"));
+        const auto press = [&](const QString& password, const QString& repeat) {
+            type(&tab, "newPassword", password);
+            type(&tab, "repeatPassword", repeat);
+            done->click();
+        };
+        press(QString(), QString());
+        QCOMPARE(message->text(), QStringLiteral("Please insert values in text fields"));
+        press(QStringLiteral(" Kes\t"), QStringLiteral("Kes"));
+        QCOMPARE(message->text(), QStringLiteral("Password should be minimum 4 character"));
+        press(QStringLiteral("Kestrel9"), QStringLiteral("Kestrel8"));
+        QCOMPARE(message->text(), QStringLiteral("Passwords does not match"));
+        QVERIFY(message->styleSheet().contains(QLatin1String("E34947")));
+        press(QStringLiteral(" Kestrel9\t"), QStringLiteral("Kestrel9"));
+        QTRY_COMPARE(message->text(), QStringLiteral("Password protection is set!"));
+        QVERIFY(message->styleSheet().contains(QLatin1String("06A0EB")));
+        saveShot(&tab, QStringLiteral("security-set"));
+        QCOMPARE(m_app->secrets.secret, std::optional(QStringLiteral("Kestrel9")));
+        QCOMPARE(done->text(), QStringLiteral("Change"));
+        QVERIFY(!child<QLineEdit>(&tab, "newPassword")->isEnabled());
+        QVERIFY(protectionOn());
+        m_app->settings.sync();
+        QFile file(m_app->settings.filePath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(!file.readAll().contains("Kestrel9"));
+
+        // "Change" opens the fields again, and only Done stores.
+        done->click();
+        QCOMPARE(done->text(), QStringLiteral("Done"));
+        QVERIFY(child<QLineEdit>(&tab, "newPassword")->isEnabled());
+        press(QStringLiteral("Falcon77"), QStringLiteral("Falcon77"));
+        QTRY_COMPARE(m_app->secrets.secret, std::optional(QStringLiteral("Falcon77")));
+
+        box->click();
+        QVERIFY(!protectionOn());
+        QTRY_VERIFY(!m_app->secrets.secret);
+        QVERIFY(!seen(done));
+    }
+
+    // A stored password must be given before anything changes; the keyring's answer is awaited
+    // without blocking, and a keyring that can't be reached changes nothing.
+    void changingAStoredPassword()
+    {
+        launch(true, QStringLiteral("Kestrel9"));
+        m_app->secrets.holding = true;
+        SecurityTab tab(protection());
+        tab.show();
+        auto* box = child<QCheckBox>(&tab, "protection");
+        auto* status = child<QLabel>(&tab, "keyringStatus");
+        QVERIFY(seen(status));
+        QVERIFY(!box->isEnabled());
+        QVERIFY(!seen(child<QLineEdit>(&tab, "currentPassword")));
+        m_app->secrets.release();
+        QTRY_VERIFY(seen(child<QLineEdit>(&tab, "currentPassword")));
+        QVERIFY(box->isChecked());
+        QVERIFY(!box->isEnabled());
+        QVERIFY(!seen(child<QLineEdit>(&tab, "newPassword")));
+
+        auto* proceed = child<QPushButton>(&tab, "continue");
+        auto* gateMessage = child<QLabel>(&tab, "currentPasswordMessage");
+        type(&tab, "currentPassword", QStringLiteral("Kestrel8"));
+        proceed->click();
+        QCOMPARE(gateMessage->text(), QStringLiteral("Wrong Password"));
+        type(&tab, "currentPassword", QStringLiteral("Kestrel9 "));
+        proceed->click();
+        QVERIFY(seen(child<QLineEdit>(&tab, "newPassword")));
+        QCOMPARE(child<QLineEdit>(&tab, "newPassword")->text(), QStringLiteral("Kestrel9"));
+        QCOMPARE(child<QPushButton>(&tab, "done")->text(), QStringLiteral("Change"));
+        QVERIFY(box->isEnabled());
+
+        m_app->secrets.unavailable = true;
+        SecurityTab unreachable(protection());
+        QTRY_VERIFY(child<QPushButton>(&unreachable, "retry")->isVisibleTo(&unreachable));
+        QVERIFY(child<QLabel>(&unreachable, "keyringStatus")->text().contains(u"keyring"));
+        QVERIFY(!child<QCheckBox>(&unreachable, "protection")->isEnabled());
+        QVERIFY(protectionOn());
+    }
+
+    // Protection that has no password turns itself off when the settings open; a keyring that
+    // can't store the password leaves it off and says so.
+    void protectionWithoutAPassword()
+    {
+        launch(true, std::nullopt);
+        SecurityTab tab(protection());
+        auto* box = child<QCheckBox>(&tab, "protection");
+        QTRY_VERIFY(box->isEnabled());
+        QVERIFY(!box->isChecked());
+        QVERIFY(!protectionOn());
+
+        box->click();
+        m_app->secrets.refuseWrites = true;
+        type(&tab, "newPassword", QStringLiteral("Kestrel9"));
+        type(&tab, "repeatPassword", QStringLiteral("Kestrel9"));
+        child<QPushButton>(&tab, "done")->click();
+        auto* message = child<QLabel>(&tab, "passwordMessage");
+        QTRY_VERIFY(message->text().contains(QLatin1String("could not store")));
+        QVERIFY(!protectionOn());
+        QCOMPARE(child<QPushButton>(&tab, "done")->text(), QStringLiteral("Done"));
+    }
+
+    // Behind the lock nothing of the user's data shows: the window has the login page, the
+    // tray's panel says it is locked, quick add is refused and the data's menu entries are off.
+    // Preferences reach the security tab alone until the user is in.
+    void theLockHidesTheData()
+    {
+        launch(true, QStringLiteral("Kestrel9"));
+        m_app->addItem(QStringLiteral("Secret plan"), at(2026, 11, 23, 11));
+        MainWindow window;
+        Shell shell(m_app->services(), window);
+        shell.showTray();
+        shell.setLoaded();
+        shell.bringMainWindowForward();
+        QVERIFY(shell.content()->loginPage());
+        QVERIFY(!shell.content()->mainView());
+        QCOMPARE(window.findChildren<ItemListView*>().size(), 0);
+        saveShot(&window, QStringLiteral("login-page"));
+
+        RunningListView trayList(m_app->services());
+        QVERIFY(!trayList.findChild<ItemListView*>());
+        QVERIFY(trayList.findChild<QLabel*>(QStringLiteral("runningNow"))
+                    ->text()
+                    .contains(QLatin1String("locked")));
+
+        Dialogs::answerNext(0);
+        shell.quickAdd();
+        QCOMPARE(Dialogs::asked().last().text, QStringLiteral("Lullet is locked."));
+        for (QWidget* top : QApplication::topLevelWidgets())
+            QVERIFY(!qobject_cast<QuickAddView*>(top) || !top->isVisible());
+        const QList<QAction*> entries = window.menuBar()->actions().first()->menu()->actions();
+        for (QAction* entry : entries) {
+            if (entry->text().contains(QLatin1String("Back Up")) ||
+                entry->text().contains(QLatin1String("Quick")))
+                QVERIFY(!entry->isEnabled());
+        }
+
+        Q_EMIT child<QPushButton>(shell.content()->loginPage(), "preferences")->clicked();
+        PreferencesWindow* preferences = shell.preferences();
+        QVERIFY(preferences);
+        QCOMPARE(preferences->currentTab(), PreferencesWindow::Tab::Security);
+        QVERIFY(!preferences->tabAction(PreferencesWindow::Tab::General)->isVisible());
+        QCOMPARE(preferences->height(), 400);
+        QTRY_VERIFY(seen(child<QLineEdit>(preferences, "currentPassword")));
+        saveShot(preferences, QStringLiteral("preferences-locked"));
+
+        LoginPage* page = shell.content()->loginPage();
+        auto* field = page->passwordField();
+        field->setText(QStringLiteral("Kestrel9"));
+        Q_EMIT field->returnPressed();
+        QTRY_VERIFY(!shell.content()->loginPage());
+        QVERIFY(shell.content()->mainView());
+        QVERIFY(preferences->tabAction(PreferencesWindow::Tab::General)->isVisible());
+        preferences->tabAction(PreferencesWindow::Tab::General)->trigger();
+        QCOMPARE(preferences->height(), 319);
+        QCoreApplication::processEvents();
+        saveShot(preferences, QStringLiteral("preferences-general"));
+        for (QAction* entry : entries)
+            QVERIFY(entry->isEnabled());
+    }
+
+    void theLoginPageSaysWhatWentWrong()
+    {
+        launch(true, QStringLiteral("Kestrel9"));
+        LoginPage page(protection());
+        page.resize(600, 600);
+        page.show();
+        auto* field = page.passwordField();
+        auto* error = child<QLabel>(&page, "loginError");
+        const auto submit = [&](const QString& text) {
+            field->setText(text);
+            child<QPushButton>(&page, "logIn")->click();
+        };
+        submit(QStringLiteral("  "));
+        QCOMPARE(error->text(), QStringLiteral("PLEASE ENTER PASSWORD..."));
+        submit(QStringLiteral("Kestrel9 "));
+        QTRY_COMPARE(error->text(), QStringLiteral("INCORRECT PASSWORD..."));
+        // The entry stays as typed, for the user to correct.
+        QCOMPARE(field->text(), QStringLiteral("Kestrel9 "));
+        saveShot(&page, QStringLiteral("login-wrong"));
+
+        m_app->secrets.unavailable = true;
+        submit(QStringLiteral("Kestrel9"));
+        auto* unreachable = child<QWidget>(&page, "keyringUnreachable");
+        QTRY_VERIFY(seen(unreachable));
+        QVERIFY(m_app->services().lock.isLocked());
+        saveShot(&page, QStringLiteral("login-unreachable"));
+        m_app->secrets.unavailable = false;
+        child<QPushButton>(unreachable, "retry")->click();
+        QTRY_VERIFY(!m_app->services().lock.isLocked());
+    }
+};
+
+LULLET_TEST_MAIN_WITH(QApplication, TestSecurity)
+#include "tst_security.moc"

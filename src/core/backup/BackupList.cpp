@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QStringList>
 
 namespace lullet {
 
@@ -69,11 +70,38 @@ void BackupList::prune(Date now)
             kept.push_back(info);
             continue;
         }
-        if (!info.path.isEmpty() && QFile::exists(info.path) && isInside(info.path, m_folder))
-            QFile::remove(info.path);
+        deleteFile(info.path);
     }
     if (kept.size() != list.size())
         store(kept);
+}
+
+QString BackupList::deleteFile(const QString& path) const
+{
+    if (path.isEmpty() || !QFile::exists(path) || !isInside(path, m_folder))
+        return {};
+    QFile file(path);
+    return file.remove() ? QString() : QStringLiteral("%1: %2").arg(path, file.errorString());
+}
+
+QString BackupList::remove(const QString& path)
+{
+    std::vector<BackupInfo> list = entries();
+    std::erase_if(list, [&](const BackupInfo& info) { return info.path == path; });
+    store(list);
+    return deleteFile(path);
+}
+
+QString BackupList::removeAll()
+{
+    QStringList failures;
+    for (const BackupInfo& info : entries()) {
+        const QString failure = deleteFile(info.path);
+        if (!failure.isEmpty())
+            failures << failure;
+    }
+    store({});
+    return failures.join(u'\n');
 }
 
 QString BackupList::sizeToDisplay(const QString& path)

@@ -23,6 +23,12 @@ public:
     // keeps what was made in the six days before today and today, any other value keeps nothing.
     // Only files in the backups folder are ever deleted, whatever the list says.
     void prune(Date now);
+    // One copy leaves the list, and its file goes. The answer is empty, or why the file could
+    // not be deleted (the entry goes all the same: a copy that can't be deleted can't be
+    // trusted as one either).
+    QString remove(const QString& path);
+    // Every listed copy goes, and the list's key with them; the answer as for remove().
+    QString removeAll();
 
     // "12 KB", "1.2 MB": the file's size as a file manager shows it (decimal units), "Zero Byte"
     // when the file can't be read.
@@ -33,6 +39,8 @@ public:
 
 private:
     void store(const std::vector<BackupInfo>& list);
+    // Deletes a listed copy's file, only ever inside the backups folder.
+    QString deleteFile(const QString& path) const;
 
     Settings& m_settings;
     QString m_folder;

@@ -2,7 +2,9 @@
 
 #include "core/app/Services.h"
 #include "core/security/Lock.h"
+#include "ui/preferences/BackupTab.h"
 #include "ui/preferences/GeneralTab.h"
+#include "ui/preferences/ScheduleTab.h"
 #include "ui/preferences/SecurityTab.h"
 #include "ui/preferences/TabIcons.h"
 
@@ -46,9 +48,11 @@ const TabLook& look(PreferencesWindow::Tab tab)
 
 } // namespace
 
-PreferencesWindow::PreferencesWindow(const Services& services, QWidget* parent)
+PreferencesWindow::PreferencesWindow(const Services& services, BackupCommands& backupCommands,
+                                     QWidget* parent)
     : QWidget(parent, Qt::Window)
     , m_services(services)
+    , m_backupCommands(backupCommands)
     , m_pages(new QStackedWidget(this))
 {
     setWindowTitle(tr("Lullet Preferences"));
@@ -102,6 +106,12 @@ QWidget* PreferencesWindow::page(Tab tab)
         break;
     case Tab::Security:
         made = new SecurityTab(m_services.protection, m_pages);
+        break;
+    case Tab::Backup:
+        made = new BackupTab(m_services, m_backupCommands, m_pages);
+        break;
+    case Tab::Schedule:
+        made = new ScheduleTab(m_services, m_pages);
         break;
     }
     m_pages->addWidget(made);

@@ -10,6 +10,7 @@ class QToolBar;
 
 namespace lullet {
 
+class BackupCommands;
 struct Services;
 
 // The preferences: a toolbar of tabs over the tab shown. The window's height follows the tab,
@@ -18,9 +19,10 @@ struct Services;
 class PreferencesWindow final : public QWidget {
     Q_OBJECT
 public:
-    enum class Tab { General, Security };
+    enum class Tab { General, Security, Backup, Schedule };
 
-    explicit PreferencesWindow(const Services& services, QWidget* parent = nullptr);
+    PreferencesWindow(const Services& services, BackupCommands& backupCommands,
+                      QWidget* parent = nullptr);
 
     void showTab(Tab tab);
     Tab currentTab() const { return m_current; }
@@ -33,6 +35,7 @@ private:
     void showUnlockedTabs();
 
     const Services& m_services;
+    BackupCommands& m_backupCommands;
     QStackedWidget* m_pages;
     std::map<Tab, QAction*> m_actions;
     std::map<Tab, QWidget*> m_made;

@@ -70,4 +70,34 @@ QIcon security()
     });
 }
 
+QIcon backup()
+{
+    return drawn([](QPainter& painter) {
+        // A box with its lid and a handle: where copies are kept.
+        painter.drawRoundedRect(QRectF(8, 12, 48, 12), 3, 3);
+        QPainterPath box;
+        box.addRoundedRect(QRectF(12, 27, 40, 29), 3, 3);
+        QPainterPath handle;
+        handle.addRoundedRect(QRectF(24, 33, 16, 6), 3, 3);
+        painter.drawPath(box.subtracted(handle));
+    });
+}
+
+QIcon schedule()
+{
+    return drawn([](QPainter& painter) {
+        // A calendar page: rings, a header and a grid of days.
+        QPainterPath page;
+        page.addRoundedRect(QRectF(8, 12, 48, 44), 5, 5);
+        QPainterPath days;
+        for (int row = 0; row < 3; ++row) {
+            for (int column = 0; column < 4; ++column)
+                days.addRect(QRectF(14 + column * 10, 28 + row * 8, 6, 5));
+        }
+        painter.drawPath(page.subtracted(days));
+        painter.drawRoundedRect(QRectF(18, 6, 6, 12), 3, 3);
+        painter.drawRoundedRect(QRectF(40, 6, 6, 12), 3, 3);
+    });
+}
+
 } // namespace lullet::TabIcons

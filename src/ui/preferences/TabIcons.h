@@ -7,5 +7,7 @@ namespace lullet::TabIcons {
 // The preferences tabs' icons, drawn here for desktops whose icon theme has none of the names.
 QIcon general();
 QIcon security();
+QIcon backup();
+QIcon schedule();
 
 } // namespace lullet::TabIcons

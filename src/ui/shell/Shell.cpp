@@ -13,12 +13,12 @@
 #include "ui/authoring/QuickAddView.h"
 #include "ui/desktop/FileManager.h"
 #include "ui/main/MainView.h"
+#include "ui/preferences/BackupCommands.h"
 #include "ui/preferences/PreferencesWindow.h"
 #include "ui/prompts/IdlePromptView.h"
 #include "ui/prompts/ReminderPromptView.h"
 #include "ui/prompts/TimeOverPromptView.h"
 #include "ui/prompts/TodoPromptView.h"
-#include "ui/shell/BackupCommands.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/Tray.h"
@@ -81,12 +81,17 @@ void Shell::connectLock()
 
 void Shell::connectBackups()
 {
-    auto* commands = new BackupCommands(m_services, &m_window, &FileManager::showFile, this);
-    connect(&m_window, &MainWindow::backUpRequested, commands, &BackupCommands::backUpNow);
-    connect(&m_window, &MainWindow::restoreRequested, this, [this, commands] {
-        const Project* shown = selectedProject();
-        commands->restoreFromFile(shown ? shown->name().value_or(QString()) : QString());
-    });
+    m_backupCommands = new BackupCommands(
+        m_services, &m_window, &FileManager::showFile,
+        [this] {
+            const Project* shown = selectedProject();
+            return shown ? shown->name().value_or(QString()) : QString();
+        },
+        this);
+    connect(&m_window, &MainWindow::backUpRequested, m_backupCommands,
+            [this] { m_backupCommands->backUpNow(); });
+    connect(&m_window, &MainWindow::restoreRequested, m_backupCommands,
+            [this] { m_backupCommands->restoreFromFile(); });
     connect(&m_services.backups, &Backups::restored, this, [this](const QString& shownProject) {
         // An open prompt or list holds records of the store that went.
         m_tray->closePopoverImmediate();
@@ -403,7 +408,7 @@ PreferencesWindow* Shell::preferences() const
 void Shell::showPreferences()
 {
     if (!m_preferences)
-        m_preferences = new PreferencesWindow(m_services, &m_window);
+        m_preferences = new PreferencesWindow(m_services, *m_backupCommands, &m_window);
     m_preferences->show();
     m_preferences->raise();
     m_preferences->activateWindow();

@@ -12,6 +12,7 @@ class QAction;
 
 namespace lullet {
 
+class BackupCommands;
 class Item;
 class MainWindow;
 class PreferencesWindow;
@@ -87,6 +88,7 @@ private:
     WindowContent* m_content = nullptr;
     QPointer<QuickAddView> m_quickAddWindow;
     QPointer<PreferencesWindow> m_preferences;
+    BackupCommands* m_backupCommands = nullptr;
     QAction* m_trayQuickAdd = nullptr;
     QPointer<QWidget> m_loading;
     bool m_loaded = false;

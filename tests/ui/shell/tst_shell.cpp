@@ -8,7 +8,7 @@
 #include "support/TestMain.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/MainView.h"
-#include "ui/shell/BackupCommands.h"
+#include "ui/preferences/BackupCommands.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/Shell.h"

@@ -1,0 +1,159 @@
+#include "core/activity/RunningItem.h"
+#include "core/backup/Backups.h"
+#include "core/scheduling/ScheduleTableModel.h"
+#include "core/scheduling/WorkingHours.h"
+#include "core/settings/SettingsKeys.h"
+#include "support/Launched.h"
+#include "support/Shots.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+#include "ui/preferences/BackupCommands.h"
+#include "ui/preferences/BackupTab.h"
+#include "ui/preferences/PreferencesWindow.h"
+#include "ui/preferences/ScheduleTab.h"
+#include "ui/widgets/Dialogs.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+// The preferences tabs over a launched core on a fake clock.
+class TestPreferences : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    const Services& services() { return m_app->services(); }
+
+    void makeLaunchBackup()
+    {
+        QSignalSpy created(&services().backups, &Backups::backupCreated);
+        services().backups.createLaunchBackup();
+        QVERIFY(created.wait(5000));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        useTestCalendar();
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 0));
+        QVERIFY(m_app->open());
+        Dialogs::forgetAsked();
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    // The period takes effect at once; a stored period none of the choices names stays stored.
+    void thePromptPeriod()
+    {
+        m_app->settings.setValue(SettingsKeys::promptDuration, 3);
+        BackupCommands commands(services(), nullptr, [](const QString&) {});
+        PreferencesWindow window(services(), commands);
+        auto* period = window.findChild<QComboBox*>(QStringLiteral("promptDuration"));
+        QCOMPARE(period->currentText(), QStringLiteral("1 min"));
+        QCOMPARE(m_app->settings.integer(SettingsKeys::promptDuration), 3);
+        const int thirty = period->findText(QStringLiteral("30 mins"));
+        period->setCurrentIndex(thirty);
+        Q_EMIT period->activated(thirty);
+        QCOMPARE(m_app->settings.integer(SettingsKeys::promptDuration), 30);
+        QCOMPARE(services().running.promptPeriod(), 30);
+        QCOMPARE(window.height(), 319);
+    }
+
+    // A day switched off counts at once: no idle question on it.
+    void theWorkingWeek()
+    {
+        ScheduleTab tab(services());
+        QAbstractItemModel* model = tab.table()->model();
+        // Sunday first: Monday is the second row.
+        const QModelIndex monday = model->index(1, ScheduleTableModel::SelectedColumn);
+        QVERIFY(services().hours.isWorkingTime(at(2026, 11, 23, 10, 30)));
+        QVERIFY(model->setData(monday, Qt::Unchecked, Qt::CheckStateRole));
+        QVERIFY(!services().hours.isWorkingTime(at(2026, 11, 23, 10, 30)));
+        tab.resize(560, 380);
+        saveShot(&tab, QStringLiteral("preferences-schedule"));
+    }
+
+    // The list of copies, newest first, kept up to date; a restore asks first and its safety
+    // copy comes in on top; deleting takes the files with the entries.
+    void theBackupList()
+    {
+        makeLaunchBackup();
+        m_app->clock.advance(60);
+        makeLaunchBackup();
+        QStringList revealed;
+        BackupCommands commands(services(), nullptr,
+                                [&](const QString& path) { revealed << path; });
+        BackupTab tab(services(), commands);
+        tab.resize(560, 400);
+        QTreeWidget* list = tab.list();
+        QCOMPARE(list->topLevelItemCount(), 2);
+        const QString newest = list->topLevelItem(0)->data(0, Qt::UserRole).toString();
+        QCOMPARE(newest, services().backups.list().entries().front().path);
+        saveShot(&tab, QStringLiteral("preferences-backup"));
+
+        auto* restore = tab.findChild<QPushButton*>(QStringLiteral("restore"));
+        QVERIFY(!restore->isEnabled());
+        list->setCurrentItem(list->topLevelItem(1));
+        QSignalSpy restored(&services().backups, &Backups::restored);
+        Dialogs::answerNext(1);
+        restore->click();
+        QCOMPARE(Dialogs::asked().last().text, QStringLiteral("Confirm Restore"));
+        QCOMPARE(Dialogs::asked().last().information,
+                 QStringLiteral("All data will be replaced.\nDo you want to proceed?"));
+        QVERIFY(!services().backups.isRestoring());
+        Dialogs::answerNext(0);
+        restore->click();
+        QVERIFY(restored.wait(5000));
+        QCOMPARE(list->topLevelItemCount(), 3);
+        QCOMPARE(list->topLevelItem(0)->text(0), QStringLiteral("Restored Backup"));
+
+        // A copy saved elsewhere replaces what stands there.
+        const QString copy = QDir(m_dir->path()).filePath(QStringLiteral("copy.sqlite"));
+        QFile old(copy);
+        QVERIFY(old.open(QIODevice::WriteOnly));
+        old.write("old");
+        old.close();
+        Dialogs::chooseFileNext(copy);
+        commands.saveCopyOf(newest);
+        QCOMPARE(revealed, QStringList{copy});
+        QCOMPARE(QFileInfo(copy).size(), QFileInfo(newest).size());
+
+        list->setCurrentItem(list->topLevelItem(1));
+        const QString doomed = list->currentItem()->data(0, Qt::UserRole).toString();
+        Dialogs::answerNext(0);
+        tab.findChild<QPushButton*>(QStringLiteral("delete"))->click();
+        QCOMPARE(Dialogs::asked().last().text, QStringLiteral("Selected backup will be deleted."));
+        QCOMPARE(Dialogs::asked().last().information, QStringLiteral("Are you sure to delete ?"));
+        QVERIFY(!QFile::exists(doomed));
+        QCOMPARE(list->topLevelItemCount(), 2);
+        QCOMPARE(services().backups.list().entries().size(), std::size_t(2));
+
+        const auto remaining = services().backups.list().entries();
+        Dialogs::answerNext(0);
+        tab.findChild<QPushButton*>(QStringLiteral("deleteAll"))->click();
+        QCOMPARE(Dialogs::asked().last().text, QStringLiteral("All backups will be deleted."));
+        QCOMPARE(list->topLevelItemCount(), 0);
+        QVERIFY(!m_app->settings.contains(SettingsKeys::backupFiles2));
+        for (const BackupInfo& info : remaining)
+            QVERIFY(!QFile::exists(info.path));
+    }
+};
+
+LULLET_TEST_MAIN_WITH(QApplication, TestPreferences)
+#include "tst_preferences.moc"

@@ -18,7 +18,6 @@ class FakeSecretStore final : public SecretStore {
 public:
     void read(QObject* context, ReadDone done) override
     {
-        ++reads;
         answer(context, [this, done = std::move(done)] {
             if (unavailable)
                 done({Outcome::Unavailable, {}, QStringLiteral("No keyring here")});
@@ -43,7 +42,6 @@ public:
 
     void remove(QObject* context, WriteDone done) override
     {
-        ++removals;
         answer(context, [this, done = std::move(done)] {
             if (unavailable) {
                 done(QStringLiteral("No keyring here"));
@@ -67,8 +65,6 @@ public:
     bool unavailable = false;
     bool refuseWrites = false;
     bool holding = false;
-    int reads = 0;
-    int removals = 0;
 
 private:
     void answer(QObject* context, std::function<void()> reply)

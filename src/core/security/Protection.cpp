@@ -19,12 +19,14 @@ bool Protection::isOn() const
     return m_settings.passwordProtected();
 }
 
-void Protection::writeSwitch(bool on)
+void Protection::writeSwitch(bool on, Writer writer)
 {
     // The password's own key is kept, and kept empty: the secret is the keyring's alone.
-    m_settings.setDictionary(
-        SettingsKeys::passwordValues,
-        {{QString(SettingsKeys::isPassword), on}, {QString(SettingsKeys::password), QString()}});
+    QVariantMap values{{QString(SettingsKeys::isPassword), on},
+                       {QString(SettingsKeys::password), QString()}};
+    if (writer == Writer::LoginPage)
+        values.insert(QString(SettingsKeys::email), QString());
+    m_settings.setDictionary(SettingsKeys::passwordValues, values);
 }
 
 void Protection::readPassword(QObject* context, SecretStore::ReadDone done)
@@ -71,10 +73,7 @@ void Protection::logIn(const QString& typed, QObject* context, LoginDone done)
                            done(Login::Unavailable, reading.error);
                            return;
                        case SecretStore::Outcome::NotFound:
-                           m_settings.setDictionary(SettingsKeys::passwordValues,
-                                                    {{QString(SettingsKeys::isPassword), false},
-                                                     {QString(SettingsKeys::password), QString()},
-                                                     {QString(SettingsKeys::email), QString()}});
+                           writeSwitch(false, Writer::LoginPage);
                            break;
                        case SecretStore::Outcome::Found:
                            if (reading.secret != typed) {

@@ -46,7 +46,9 @@ public:
     void logIn(const QString& typed, QObject* context, LoginDone done);
 
 private:
-    void writeSwitch(bool on);
+    // The login page's rewrite also carries an empty "email", as the settings always had.
+    enum class Writer { Settings, LoginPage };
+    void writeSwitch(bool on, Writer writer = Writer::Settings);
 
     Settings& m_settings;
     SecretStore& m_secrets;

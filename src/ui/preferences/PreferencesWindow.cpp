@@ -35,6 +35,11 @@ const TabLook tabs[] = {
      "preferences-system", &TabIcons::general, 319},
     {PreferencesWindow::Tab::Security, "security",
      QT_TRANSLATE_NOOP("PreferencesWindow", "Security"), "security-high", &TabIcons::security, 400},
+    {PreferencesWindow::Tab::Backup, "backup", QT_TRANSLATE_NOOP("PreferencesWindow", "Backup"),
+     "document-save", &TabIcons::backup, 457},
+    {PreferencesWindow::Tab::Schedule, "schedule",
+     QT_TRANSLATE_NOOP("PreferencesWindow", "Schedule"), "x-office-calendar", &TabIcons::schedule,
+     457},
 };
 
 const TabLook& look(PreferencesWindow::Tab tab)

@@ -407,8 +407,12 @@ PreferencesWindow* Shell::preferences() const
 
 void Shell::showPreferences()
 {
-    if (!m_preferences)
+    if (!m_preferences) {
         m_preferences = new PreferencesWindow(m_services, *m_backupCommands, &m_window);
+        // Over the window it belongs to, where the user is looking.
+        if (m_window.isVisible())
+            m_preferences->move(m_window.frameGeometry().center() - m_preferences->rect().center());
+    }
     m_preferences->show();
     m_preferences->raise();
     m_preferences->activateWindow();

@@ -13,6 +13,7 @@
 #include "ui/preferences/ScheduleTab.h"
 #include "ui/widgets/Dialogs.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
@@ -73,6 +74,24 @@ private Q_SLOTS:
         QCOMPARE(m_app->settings.integer(SettingsKeys::promptDuration), 30);
         QCOMPARE(services().running.promptPeriod(), 30);
         QCOMPARE(window.height(), 319);
+    }
+
+    // Every tab is on the toolbar, and the window takes its height.
+    void everyTabHasItsButtonAndHeight()
+    {
+        BackupCommands commands(services(), nullptr, [](const QString&) {});
+        PreferencesWindow window(services(), commands);
+        const std::pair<PreferencesWindow::Tab, int> heights[] = {
+            {PreferencesWindow::Tab::Security, 400},
+            {PreferencesWindow::Tab::Backup, 457},
+            {PreferencesWindow::Tab::Schedule, 457},
+            {PreferencesWindow::Tab::General, 319},
+        };
+        for (const auto& [tab, height] : heights) {
+            window.tabAction(tab)->trigger();
+            QCOMPARE(window.currentTab(), tab);
+            QCOMPARE(window.height(), height);
+        }
     }
 
     // A day switched off counts at once: no idle question on it.

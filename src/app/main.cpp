@@ -6,6 +6,8 @@
 #include "core/scheduling/WorkingSchedule.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
+#include "ui/desktop/Autostart.h"
+#include "ui/desktop/DesktopPresence.h"
 #include "ui/desktop/KeyringSecretStore.h"
 #include "ui/desktop/ScreenSaverInhibitor.h"
 #include "ui/desktop/SingleInstance.h"
@@ -15,8 +17,10 @@
 #include "ui/widgets/Dialogs.h"
 
 #include <QApplication>
+#include <QSystemTrayIcon>
 #include <QTimer>
 
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <malloc.h>
@@ -32,6 +36,8 @@ struct Options {
     bool quickAdd = false;
     // A launch at login: the program starts in the tray, its window made when first asked for.
     bool inTray = false;
+    // Started by the instance before it, which is ending: its lock is waited for.
+    bool relaunch = false;
 };
 
 // Read before any window system is touched, so a wrong option is told even without a display.
@@ -42,8 +48,10 @@ int parseOptions(int argc, char* argv[], Options& options)
             options.quickAdd = true;
         } else if (std::strcmp(argv[i], "--in-tray") == 0) {
             options.inTray = true;
+        } else if (std::strcmp(argv[i], "--relaunch") == 0) {
+            options.relaunch = true;
         } else {
-            std::fprintf(stderr, "Usage: lullet [--quick-add] [--in-tray]\n");
+            std::fprintf(stderr, "Usage: lullet [--quick-add] [--in-tray] [--relaunch]\n");
             return 2;
         }
     }
@@ -154,7 +162,9 @@ int main(int argc, char* argv[])
 
     // One Lullet per user: a second launch hands its request to the first and ends.
     SingleInstance instance(SingleInstance::defaultFolder());
-    switch (instance.claim()) {
+    // Saving a large store while quitting can take a few seconds.
+    using namespace std::chrono_literals;
+    switch (instance.claim(options.relaunch ? 30s : 0s)) {
     case SingleInstance::Role::Failed:
         return endLaunch(instance.errorMessage());
     case SingleInstance::Role::Secondary:
@@ -171,8 +181,12 @@ int main(int argc, char* argv[])
     ScreenSaverInhibitor inhibitor;
     KeyringSecretStore keyring;
     AppController core(clock, settings, Store::defaultFolder(), inhibitor, keyring);
+    const QString program = QCoreApplication::applicationFilePath();
+    Autostart autostart(Autostart::defaultPath(), program);
+    DesktopPresence presence(settings, autostart, QSystemTrayIcon::isSystemTrayAvailable(),
+                             program);
     MainWindow window;
-    Shell shell(core.services(), window);
+    Shell shell(core.services(), window, presence);
     shell.showTray();
     QObject::connect(&instance, &SingleInstance::requestReceived, &app, [&](const QString& r) {
         if (r == QLatin1String(SingleInstance::quickAddRequest))
@@ -183,6 +197,8 @@ int main(int argc, char* argv[])
     if (options.quickAdd)
         shell.quickAdd();
     connectQuitPaths(core, shell, window, termination);
-    QTimer::singleShot(0, &app, [&] { openCore(core, shell, window, options.inTray); });
+    // The first run shows the welcome in the window, whatever the launch asked.
+    const bool inTray = settings.welcomeDone() && !presence.windowAtLaunch(options.inTray);
+    QTimer::singleShot(0, &app, [&] { openCore(core, shell, window, inTray); });
     return app.exec();
 }

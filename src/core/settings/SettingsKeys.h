@@ -21,6 +21,12 @@ inline constexpr QLatin1String schedules{"schedules"};
 // An unreadable "schedules" value, kept here before the default week takes its place.
 inline constexpr QLatin1String schedulesUnreadable{"schedulesUnreadable"};
 inline constexpr QLatin1String backupFiles2{"backupFiles2"};
+// The window shows in the taskbar at launch.
+inline constexpr QLatin1String UDDockIcon{"UDDockIcon"};
+// The icon shows in the tray.
+inline constexpr QLatin1String UDStatusBarIcon{"UDStatusBarIcon"};
+// Written beside "openAtLogIn" when the user chooses to start at login.
+inline constexpr QLatin1String UDOpenAtLogin{"UDOpenAtLogin"};
 // Where the main window stood and how large it was, as Qt saves a window's geometry.
 inline constexpr QLatin1String mainWindowGeometry{"mainWindowGeometry"};
 
@@ -37,11 +43,13 @@ struct Default {
 
 // The defaults that answer for keys the user never set. They live in memory only and are never
 // written to the file. "disableAutoPrompt" is not among them: it is written as 0 when absent.
+// A new user sees both the window and the tray icon, as most desktop programs show themselves.
 inline const std::vector<Default>& registeredDefaults()
 {
     static const std::vector<Default> table = {
-        {isShowFirst, 0},     {openAtLogIn, 0},        {isRating, 1},     {remindMe, 2},
-        {promptDuration, 15}, {automaticBackup, true}, {backupOption, 1},
+        {isShowFirst, 0},        {openAtLogIn, 0},        {isRating, 1},     {remindMe, 2},
+        {promptDuration, 15},    {automaticBackup, true}, {backupOption, 1}, {UDDockIcon, true},
+        {UDStatusBarIcon, true}, {UDOpenAtLogin, false},
     };
     return table;
 }

@@ -1,5 +1,6 @@
 #include "ui/desktop/SingleInstance.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -94,7 +95,7 @@ bool SingleInstance::usableFolder()
     return true;
 }
 
-SingleInstance::Role SingleInstance::claim()
+SingleInstance::Role SingleInstance::claim(std::chrono::milliseconds patience)
 {
     if (!usableFolder())
         return Role::Failed;
@@ -105,10 +106,14 @@ SingleInstance::Role SingleInstance::claim()
         m_error = QStringLiteral("Cannot open the lock file in %1.").arg(m_folder);
         return Role::Failed;
     }
-    if (::flock(m_lockFd, LOCK_EX | LOCK_NB) != 0) {
-        ::close(m_lockFd);
-        m_lockFd = -1;
-        return Role::Secondary;
+    const QDeadlineTimer deadline(patience);
+    while (::flock(m_lockFd, LOCK_EX | LOCK_NB) != 0) {
+        if (deadline.hasExpired()) {
+            ::close(m_lockFd);
+            m_lockFd = -1;
+            return Role::Secondary;
+        }
+        QThread::msleep(50);
     }
     if (!listen()) {
         m_error = QStringLiteral("Cannot listen on %1.").arg(socketPath());

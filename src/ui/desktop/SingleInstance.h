@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+#include <chrono>
 #include <map>
 #include <memory>
 
@@ -31,8 +32,9 @@ public:
 
     enum class Role { Primary, Secondary, Failed };
     // Primary: this process is the one Lullet, and listens. Secondary: another one runs.
-    // Failed: the folder or the socket can't be used safely; errorMessage() says why.
-    Role claim();
+    // Failed: the folder or the socket can't be used safely; errorMessage() says why. With
+    // patience, a lock held by an instance that is ending is waited for that long.
+    Role claim(std::chrono::milliseconds patience = {});
     // Hands the request to the running instance, waiting a moment for it to listen; false when
     // none answers.
     bool forward(const QString& request) const;

@@ -2,10 +2,14 @@
 
 #include "core/activity/RunningItem.h"
 #include "core/settings/Settings.h"
+#include "ui/desktop/DesktopPresence.h"
+#include "ui/widgets/Dialogs.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -24,11 +28,24 @@ QString periodTitle(int minutes)
 
 } // namespace
 
-GeneralTab::GeneralTab(Settings& settings, RunningItem& running, QWidget* parent)
+GeneralTab::GeneralTab(Settings& settings, RunningItem& running, DesktopPresence& presence,
+                       QWidget* parent)
     : QWidget(parent)
     , m_settings(settings)
     , m_running(running)
+    , m_presence(presence)
     , m_period(new QComboBox(this))
+    , m_startAtLogin(new QCheckBox(tr("Start Lullet at login"), this))
+    , m_taskbar(new QCheckBox(tr("Show the window in the taskbar at launch"), this))
+    , m_trayIcon(new QCheckBox(tr("Show the icon in the tray"), this))
+{
+    auto* layout = new QFormLayout(this);
+    layout->setContentsMargins(24, 20, 24, 20);
+    addPeriodSection(layout);
+    addPresenceSection(layout);
+}
+
+void GeneralTab::addPeriodSection(QFormLayout* layout)
 {
     m_period->setObjectName(QStringLiteral("promptDuration"));
     for (int minutes : periods)
@@ -37,8 +54,6 @@ GeneralTab::GeneralTab(Settings& settings, RunningItem& running, QWidget* parent
     // stored until the user picks another.
     const int stored = m_settings.promptDuration();
     m_period->setCurrentIndex(stored > 0 ? std::max(0, m_period->findData(stored)) : 0);
-    auto* layout = new QFormLayout(this);
-    layout->setContentsMargins(24, 20, 24, 20);
     layout->addRow(tr("Ask what I'm doing after"), m_period);
     auto* explanation =
         new QLabel(tr("During your working hours, when nothing has run for this long, Lullet "
@@ -49,6 +64,33 @@ GeneralTab::GeneralTab(Settings& settings, RunningItem& running, QWidget* parent
     connect(m_period, &QComboBox::activated, this, &GeneralTab::onPeriodChosen);
 }
 
+void GeneralTab::addPresenceSection(QFormLayout* layout)
+{
+    layout->addItem(new QSpacerItem(0, 12));
+    m_startAtLogin->setObjectName(QStringLiteral("openAtLogIn"));
+    m_taskbar->setObjectName(QStringLiteral("UDDockIcon"));
+    m_trayIcon->setObjectName(QStringLiteral("UDStatusBarIcon"));
+    layout->addRow(m_startAtLogin);
+    layout->addRow(m_taskbar);
+    layout->addRow(m_trayIcon);
+    showPresence();
+    connect(m_startAtLogin, &QCheckBox::toggled, this, &GeneralTab::onStartAtLoginToggled);
+    connect(m_taskbar, &QCheckBox::toggled, this, &GeneralTab::onTaskbarToggled);
+    connect(m_trayIcon, &QCheckBox::toggled, this, &GeneralTab::onTrayIconToggled);
+}
+
+void GeneralTab::showPresence()
+{
+    const QSignalBlocker login(m_startAtLogin);
+    const QSignalBlocker taskbar(m_taskbar);
+    const QSignalBlocker tray(m_trayIcon);
+    m_startAtLogin->setChecked(m_presence.startsAtLogin());
+    m_taskbar->setChecked(m_presence.showsWindowAtLaunch());
+    m_trayIcon->setChecked(m_presence.trayIconShown());
+    // Without the window in the taskbar the icon is the only way back to the program.
+    m_trayIcon->setEnabled(m_presence.showsWindowAtLaunch());
+}
+
 void GeneralTab::onPeriodChosen(int index)
 {
     const int minutes = m_period->itemData(index).toInt();
@@ -56,6 +98,36 @@ void GeneralTab::onPeriodChosen(int index)
     m_settings.sync();
     // The monitor counts in the new period from now on, without a relaunch.
     m_running.setPromptPeriod(minutes);
+}
+
+void GeneralTab::onStartAtLoginToggled(bool on)
+{
+    if (!m_presence.setStartAtLogin(on))
+        Dialogs::inform(this, tr("Lullet could not change how it starts at login."),
+                        m_presence.errorMessage());
+    showPresence();
+}
+
+void GeneralTab::onTaskbarToggled(bool on)
+{
+    m_presence.setShowWindowAtLaunch(on);
+    showPresence();
+    if (on)
+        return;
+    const bool relaunchNow = Dialogs::confirm(
+        this, QStringLiteral("You must now restart app"),
+        QStringLiteral(
+            "Your new setting for the taskbar won't show up until you relaunch this application."),
+        QStringLiteral("Relaunch Now"), QStringLiteral("Later"));
+    if (relaunchNow && !m_presence.relaunch())
+        Dialogs::inform(this, tr("Lullet could not be started again."),
+                        tr("Quit Lullet and start it yourself to see the new setting."));
+}
+
+void GeneralTab::onTrayIconToggled(bool on)
+{
+    m_presence.setTrayIconShown(on);
+    showPresence();
 }
 
 } // namespace lullet

@@ -54,10 +54,11 @@ const TabLook& look(PreferencesWindow::Tab tab)
 } // namespace
 
 PreferencesWindow::PreferencesWindow(const Services& services, BackupCommands& backupCommands,
-                                     QWidget* parent)
+                                     DesktopPresence& presence, QWidget* parent)
     : QWidget(parent, Qt::Window)
     , m_services(services)
     , m_backupCommands(backupCommands)
+    , m_presence(presence)
     , m_pages(new QStackedWidget(this))
 {
     setWindowTitle(tr("Lullet Preferences"));
@@ -107,7 +108,7 @@ QWidget* PreferencesWindow::page(Tab tab)
     QWidget* made = nullptr;
     switch (tab) {
     case Tab::General:
-        made = new GeneralTab(m_services.settings, m_services.running, m_pages);
+        made = new GeneralTab(m_services.settings, m_services.running, m_presence, m_pages);
         break;
     case Tab::Security:
         made = new SecurityTab(m_services.protection, m_pages);

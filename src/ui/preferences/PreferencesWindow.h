@@ -11,6 +11,7 @@ class QToolBar;
 namespace lullet {
 
 class BackupCommands;
+class DesktopPresence;
 struct Services;
 
 // The preferences: a toolbar of tabs over the tab shown. The window's height follows the tab,
@@ -22,7 +23,7 @@ public:
     enum class Tab { General, Security, Backup, Schedule };
 
     PreferencesWindow(const Services& services, BackupCommands& backupCommands,
-                      QWidget* parent = nullptr);
+                      DesktopPresence& presence, QWidget* parent = nullptr);
 
     void showTab(Tab tab);
     Tab currentTab() const { return m_current; }
@@ -36,6 +37,7 @@ private:
 
     const Services& m_services;
     BackupCommands& m_backupCommands;
+    DesktopPresence& m_presence;
     QStackedWidget* m_pages;
     std::map<Tab, QAction*> m_actions;
     std::map<Tab, QWidget*> m_made;

@@ -1,6 +1,7 @@
 #include "ui/shell/MainWindow.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QGuiApplication>
 #include <QHideEvent>
 #include <QLabel>
@@ -74,6 +75,18 @@ void MainWindow::hideEvent(QHideEvent* event)
     // A minimised window is hidden too, but keeps its place.
     if (!event->spontaneous())
         Q_EMIT hidden();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    // Only the user's close is turned into a minimise: quitting closes every window, and a
+    // refused close would cancel the quit.
+    if (!m_closingMinimises || !event->spontaneous()) {
+        QMainWindow::closeEvent(event);
+        return;
+    }
+    event->ignore();
+    showMinimized();
 }
 
 void MainWindow::applyWorkingSizing(bool locked)

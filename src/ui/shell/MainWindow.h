@@ -17,6 +17,9 @@ public:
     void applyWorkingSizing(bool locked);
     // While locked, the menu entries that would reveal or copy the user's data are off.
     void setLocked(bool locked);
+    // Closing minimises instead of hiding: without a tray icon the taskbar entry is the way
+    // back.
+    void setClosingMinimises(bool minimises) { m_closingMinimises = minimises; }
     // The platform's key for preferences, for the window's menu and the tray's.
     static QList<QKeySequence> preferencesShortcuts();
 
@@ -31,9 +34,11 @@ Q_SIGNALS:
 
 protected:
     void hideEvent(QHideEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     QList<QAction*> m_dataActions;
+    bool m_closingMinimises = false;
 };
 
 } // namespace lullet

@@ -11,6 +11,7 @@
 #include "core/settings/Settings.h"
 #include "core/settings/SettingsKeys.h"
 #include "ui/authoring/QuickAddView.h"
+#include "ui/desktop/DesktopPresence.h"
 #include "ui/desktop/FileManager.h"
 #include "ui/main/MainView.h"
 #include "ui/preferences/BackupCommands.h"
@@ -47,10 +48,12 @@ bool gone(const Item* item)
 
 } // namespace
 
-Shell::Shell(const Services& services, MainWindow& window, QObject* parent)
+Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& presence,
+             QObject* parent)
     : QObject(parent)
     , m_services(services)
     , m_window(window)
+    , m_presence(presence)
     , m_tray(new Tray(window, this))
 {
     connect(m_tray, &Tray::clicked, this, &Shell::onTrayClicked);
@@ -62,6 +65,22 @@ Shell::Shell(const Services& services, MainWindow& window, QObject* parent)
     connectMonitor();
     connectBackups();
     connectLock();
+    connectPresence();
+}
+
+void Shell::connectPresence()
+{
+    // Without a tray icon, closing the window keeps it in the taskbar: it is the way back.
+    m_window.setClosingMinimises(!m_presence.trayIconUsable());
+    connect(&m_presence, &DesktopPresence::trayIconShownChanged, this, [this](bool usable) {
+        m_tray->setIconVisible(usable);
+        m_window.setClosingMinimises(!usable);
+        if (!usable)
+            bringMainWindowForward();
+    });
+    connect(&m_presence, &DesktopPresence::windowWanted, this,
+            [this] { bringMainWindowForward(); });
+    connect(&m_presence, &DesktopPresence::quitRequested, this, &Shell::quitRequested);
 }
 
 void Shell::connectLock()
@@ -219,7 +238,7 @@ void Shell::showTray()
     connect(preferences, &QAction::triggered, this, &Shell::showPreferences);
     menu->addSeparator();
     connect(menu->addAction(tr("Quit Lullet")), &QAction::triggered, this, &Shell::quitRequested);
-    m_tray->showIcon(menu);
+    m_tray->showIcon(menu, m_presence.trayIconUsable());
 }
 
 void Shell::prepareMainWindow(bool locked)
@@ -408,7 +427,7 @@ PreferencesWindow* Shell::preferences() const
 void Shell::showPreferences()
 {
     if (!m_preferences) {
-        m_preferences = new PreferencesWindow(m_services, *m_backupCommands, &m_window);
+        m_preferences = new PreferencesWindow(m_services, *m_backupCommands, m_presence, &m_window);
         // Over the window it belongs to, where the user is looking.
         if (m_window.isVisible())
             m_preferences->move(m_window.frameGeometry().center() - m_preferences->rect().center());

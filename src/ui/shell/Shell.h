@@ -13,6 +13,7 @@ class QAction;
 namespace lullet {
 
 class BackupCommands;
+class DesktopPresence;
 class Item;
 class MainWindow;
 class PreferencesWindow;
@@ -27,7 +28,8 @@ struct Services;
 class Shell final : public QObject {
     Q_OBJECT
 public:
-    Shell(const Services& services, MainWindow& window, QObject* parent = nullptr);
+    Shell(const Services& services, MainWindow& window, DesktopPresence& presence,
+          QObject* parent = nullptr);
     ~Shell() override;
 
     Tray& tray() { return *m_tray; }
@@ -77,6 +79,7 @@ private:
     void connectBackups();
     void connectLock();
     void connectContent();
+    void connectPresence();
     void showPrompt(const std::function<QWidget*()>& make);
     void onAnswered(PromptOutcome outcome);
     void onRetiring(QWidget* content);
@@ -84,6 +87,7 @@ private:
 
     const Services& m_services;
     MainWindow& m_window;
+    DesktopPresence& m_presence;
     Tray* m_tray;
     WindowContent* m_content = nullptr;
     QPointer<QuickAddView> m_quickAddWindow;

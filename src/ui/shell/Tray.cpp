@@ -40,7 +40,7 @@ void Tray::dropPopover()
     m_popover = nullptr;
 }
 
-void Tray::showIcon(QMenu* menu)
+void Tray::showIcon(QMenu* menu, bool visible)
 {
     m_icon = new QSystemTrayIcon(TrayIconPainter::make(), this);
     m_icon->setToolTip(m_toolTip);
@@ -54,7 +54,13 @@ void Tray::showIcon(QMenu* menu)
                 m_lastClick = QCursor::pos();
                 Q_EMIT clicked();
             });
-    m_icon->show();
+    m_icon->setVisible(visible);
+}
+
+void Tray::setIconVisible(bool visible)
+{
+    if (m_icon)
+        m_icon->setVisible(visible);
 }
 
 void Tray::setToolTip(const QString& text)
@@ -75,7 +81,7 @@ bool Tray::eventFilter(QObject* watched, QEvent* event)
 
 QRect Tray::anchorRect() const
 {
-    if (m_icon) {
+    if (m_icon && m_icon->isVisible()) {
         const QRect icon = m_icon->geometry();
         if (icon.isValid() && !icon.isEmpty())
             return icon;

@@ -26,8 +26,10 @@ public:
     explicit Tray(MainWindow& window, QObject* parent = nullptr);
     ~Tray() override;
 
-    // Puts the icon in the panel, with its menu.
-    void showIcon(QMenu* menu);
+    // Makes the icon, with its menu, and puts it in the panel unless the user keeps it out.
+    void showIcon(QMenu* menu, bool visible);
+    // The user may keep the icon out of the panel; the popover then hangs from the top right.
+    void setIconVisible(bool visible);
     // Told to the panel only when it differs: an unchanged text wakes nothing.
     void setToolTip(const QString& text);
     // Shows new content in the popover, after the open one, if any, has closed.

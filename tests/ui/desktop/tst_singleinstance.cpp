@@ -8,9 +8,13 @@
 #include <QTemporaryDir>
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace lullet;
@@ -48,6 +52,29 @@ private Q_SLOTS:
         QCOMPARE(third.claim(), SingleInstance::Role::Secondary);
         QVERIFY(third.forward(QStringLiteral("show")));
         QTRY_COMPARE(requests.count(), 2);
+    }
+
+    // A relaunch waits for the instance before it to let go, and only so long.
+    void aRelaunchWaitsForTheEndingInstance()
+    {
+        QVERIFY(QDir().mkpath(folder()));
+        QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                            QFileDevice::ExeOwner);
+        const QByteArray lockPath = QFile::encodeName(folder() + QStringLiteral("/lullet.lock"));
+        const int ending = ::open(lockPath.constData(), O_RDWR | O_CREAT, 0600);
+        QVERIFY(ending >= 0);
+        QCOMPARE(::flock(ending, LOCK_EX | LOCK_NB), 0);
+        using namespace std::chrono_literals;
+        SingleInstance impatient(folder());
+        QCOMPARE(impatient.claim(100ms), SingleInstance::Role::Secondary);
+        std::thread quitting([ending] {
+            std::this_thread::sleep_for(300ms);
+            ::close(ending);
+        });
+        SingleInstance relaunched(folder());
+        const SingleInstance::Role role = relaunched.claim(10s);
+        quitting.join();
+        QCOMPARE(role, SingleInstance::Role::Primary);
     }
 
     void aClientThatNeverEndsItsLineIsCutOff()

@@ -3,7 +3,7 @@
 #include "core/scheduling/ScheduleTableModel.h"
 #include "core/scheduling/WorkingHours.h"
 #include "core/settings/SettingsKeys.h"
-#include "support/Launched.h"
+#include "support/LaunchedDesktop.h"
 #include "support/Shots.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
@@ -15,6 +15,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QPushButton>
@@ -32,7 +33,7 @@ using namespace lullet::test;
 class TestPreferences : public QObject {
     Q_OBJECT
     std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    std::unique_ptr<LaunchedDesktop> m_app;
 
     const Services& services() { return m_app->services(); }
 
@@ -48,7 +49,7 @@ private Q_SLOTS:
     {
         useTestCalendar();
         m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 0));
+        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
         QVERIFY(m_app->open());
         Dialogs::forgetAsked();
     }
@@ -64,7 +65,7 @@ private Q_SLOTS:
     {
         m_app->settings.setValue(SettingsKeys::promptDuration, 3);
         BackupCommands commands(services(), nullptr, [](const QString&) {});
-        PreferencesWindow window(services(), commands);
+        PreferencesWindow window(services(), commands, m_app->presence);
         auto* period = window.findChild<QComboBox*>(QStringLiteral("promptDuration"));
         QCOMPARE(period->currentText(), QStringLiteral("1 min"));
         QCOMPARE(m_app->settings.integer(SettingsKeys::promptDuration), 3);
@@ -76,11 +77,48 @@ private Q_SLOTS:
         QCOMPARE(window.height(), 319);
     }
 
+    // The desktop choices: the entry for a start at login, and leaving the taskbar asks to
+    // relaunch while keeping the tray icon on.
+    void theDesktopChoices()
+    {
+        BackupCommands commands(services(), nullptr, [](const QString&) {});
+        PreferencesWindow window(services(), commands, m_app->presence);
+        auto box = [&](const char* name) {
+            return window.findChild<QCheckBox*>(QLatin1String(name));
+        };
+        box("openAtLogIn")->click();
+        QVERIFY(m_app->autostart.isOn());
+        QCOMPARE(m_app->settings.integer(SettingsKeys::openAtLogIn), 1);
+
+        QVERIFY(box("UDStatusBarIcon")->isChecked());
+        QSignalSpy quit(&m_app->presence, &DesktopPresence::quitRequested);
+        Dialogs::answerNext(1);
+        box("UDDockIcon")->click();
+        QCOMPARE(Dialogs::asked().last().text, QStringLiteral("You must now restart app"));
+        QCOMPARE(Dialogs::asked().last().buttons,
+                 QStringList({QStringLiteral("Relaunch Now"), QStringLiteral("Later")}));
+        QCOMPARE(quit.count(), 0);
+        QVERIFY(!box("UDStatusBarIcon")->isEnabled());
+        QVERIFY(box("UDStatusBarIcon")->isChecked());
+
+        box("UDDockIcon")->click();
+        QVERIFY(box("UDStatusBarIcon")->isEnabled());
+        box("UDStatusBarIcon")->click();
+        QVERIFY(!m_app->presence.trayIconShown());
+        // Leaving the taskbar again brings the icon back, and "Relaunch Now" ends this one.
+        Dialogs::answerNext(0);
+        box("UDDockIcon")->click();
+        QVERIFY(box("UDStatusBarIcon")->isChecked());
+        QCOMPARE(quit.count(), 1);
+        window.resize(560, 319);
+        saveShot(&window, QStringLiteral("preferences-general"));
+    }
+
     // Every tab is on the toolbar, and the window takes its height.
     void everyTabHasItsButtonAndHeight()
     {
         BackupCommands commands(services(), nullptr, [](const QString&) {});
-        PreferencesWindow window(services(), commands);
+        PreferencesWindow window(services(), commands, m_app->presence);
         const std::pair<PreferencesWindow::Tab, int> heights[] = {
             {PreferencesWindow::Tab::Security, 400},
             {PreferencesWindow::Tab::Backup, 457},

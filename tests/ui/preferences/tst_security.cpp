@@ -1,7 +1,7 @@
 #include "core/security/Lock.h"
 #include "core/security/Protection.h"
 #include "core/settings/SettingsKeys.h"
-#include "support/Launched.h"
+#include "support/LaunchedDesktop.h"
 #include "support/Shots.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
@@ -52,7 +52,7 @@ bool seen(QWidget* widget)
 class TestSecurity : public QObject {
     Q_OBJECT
     std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    std::unique_ptr<LaunchedDesktop> m_app;
 
     Protection& protection() { return m_app->services().protection; }
     bool protectionOn() { return protection().isOn(); }
@@ -75,7 +75,7 @@ private Q_SLOTS:
     {
         useTestCalendar();
         m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 0));
+        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
         Dialogs::forgetAsked();
     }
 
@@ -211,7 +211,7 @@ private Q_SLOTS:
         launch(true, QStringLiteral("Kestrel9"));
         m_app->addItem(QStringLiteral("Secret plan"), at(2026, 11, 23, 11));
         MainWindow window;
-        Shell shell(m_app->services(), window);
+        Shell shell(m_app->services(), window, m_app->presence);
         shell.showTray();
         shell.setLoaded();
         shell.bringMainWindowForward();

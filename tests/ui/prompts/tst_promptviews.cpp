@@ -2,7 +2,7 @@
 #include "core/model/RepeatCodes.h"
 #include "core/monitor/IdlePrompt.h"
 #include "support/DatePrinting.h"
-#include "support/Launched.h"
+#include "support/LaunchedDesktop.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
 #include "ui/prompts/IdlePromptView.h"
@@ -54,7 +54,7 @@ Balloon* shownBalloon()
 class TestPromptViews : public QObject {
     Q_OBJECT
     std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    std::unique_ptr<LaunchedDesktop> m_app;
 
     Launched& app() { return *m_app; }
     const Services& services() { return m_app->services(); }
@@ -74,7 +74,7 @@ private Q_SLOTS:
     {
         lullet::test::useTestCalendar();
         m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 15, 0));
+        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 15, 0));
         QVERIFY(app().open());
     }
 
@@ -199,7 +199,7 @@ private Q_SLOTS:
     void laterAndEscapePutAQuestionOff()
     {
         MainWindow window;
-        Shell shell(services(), window);
+        Shell shell(services(), window, m_app->presence);
         shell.setLoaded();
         m_app->clock.set(at(2026, 11, 23, 10, 20));
         shell.askIdleQuestion(at(2026, 11, 23, 10, 0), false);
@@ -232,7 +232,7 @@ private Q_SLOTS:
     void oneQuestionAtATimeInThePopover()
     {
         MainWindow window;
-        Shell shell(services(), window);
+        Shell shell(services(), window, m_app->presence);
         shell.setLoaded();
         Item* first = item(QStringLiteral("First"), at(2026, 11, 23, 10, 15));
         Item* second = item(QStringLiteral("Second"), at(2026, 11, 23, 10, 15));
@@ -266,7 +266,7 @@ private Q_SLOTS:
     void anUnansweredGapGoesToTheNextQuestion()
     {
         MainWindow window;
-        Shell shell(services(), window);
+        Shell shell(services(), window, m_app->presence);
         shell.setLoaded();
         m_app->clock.set(at(2026, 11, 23, 10, 15));
         shell.askIdleQuestion(at(2026, 11, 23, 10, 0), false);

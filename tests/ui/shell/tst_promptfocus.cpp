@@ -1,6 +1,6 @@
 #include "core/activity/RunningItem.h"
 #include "core/dates/CalendarContext.h"
-#include "support/Launched.h"
+#include "support/LaunchedDesktop.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
 #include "ui/prompts/IdlePromptView.h"
@@ -77,7 +77,7 @@ class TestPromptFocus : public QObject {
     Q_OBJECT
     std::unique_ptr<WindowManager> m_manager;
     std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    std::unique_ptr<LaunchedDesktop> m_app;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<Shell> m_shell;
     std::unique_ptr<QLineEdit> m_editor;
@@ -112,10 +112,10 @@ private Q_SLOTS:
     void init()
     {
         m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 0));
+        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
         QVERIFY(m_app->open());
         m_window = std::make_unique<MainWindow>();
-        m_shell = std::make_unique<Shell>(m_app->services(), *m_window);
+        m_shell = std::make_unique<Shell>(m_app->services(), *m_window, m_app->presence);
         m_shell->setLoaded();
         m_editor = std::make_unique<QLineEdit>();
         m_editor->setWindowTitle(QStringLiteral("An essay"));

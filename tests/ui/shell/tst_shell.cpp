@@ -3,7 +3,7 @@
 #include "core/backup/Backups.h"
 #include "core/dates/CalendarContext.h"
 #include "core/settings/SettingsKeys.h"
-#include "support/Launched.h"
+#include "support/LaunchedDesktop.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
 #include "ui/authoring/QuickAddView.h"
@@ -35,14 +35,14 @@ using namespace lullet::test;
 class TestShell : public QObject {
     Q_OBJECT
     std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    std::unique_ptr<LaunchedDesktop> m_app;
 
 private Q_SLOTS:
     void init()
     {
         lullet::test::useTestCalendar();
         m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 0));
+        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
     }
 
     void cleanup()
@@ -56,7 +56,7 @@ private Q_SLOTS:
     void theTrayComesBeforeTheStore()
     {
         MainWindow window;
-        Shell shell(m_app->services(), window);
+        Shell shell(m_app->services(), window, m_app->presence);
         shell.showTray();
         Q_EMIT shell.tray().clicked();
         QVERIFY(shell.tray().popover());
@@ -83,7 +83,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_app->open(false));
         MainWindow window;
-        Shell shell(m_app->services(), window);
+        Shell shell(m_app->services(), window, m_app->presence);
         shell.setLoaded();
         shell.prepareMainWindow(false);
         QCOMPARE(window.maximumSize(), QSize(800, 600));
@@ -96,7 +96,7 @@ private Q_SLOTS:
         QVERIFY(m_app->open());
         MainWindow window;
         window.resize(700, 600);
-        Shell shell(m_app->services(), window);
+        Shell shell(m_app->services(), window, m_app->presence);
         shell.setLoaded();
         shell.prepareMainWindow(true);
         QCOMPARE(window.minimumSize(), QSize(600, 600));
@@ -110,7 +110,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_app->open());
         MainWindow window;
-        Shell shell(m_app->services(), window);
+        Shell shell(m_app->services(), window, m_app->presence);
         shell.setLoaded();
         window.showMinimized();
         QVERIFY(window.isMinimized());
@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_app->open());
         MainWindow window;
-        Shell shell(m_app->services(), window);
+        Shell shell(m_app->services(), window, m_app->presence);
         shell.setLoaded();
         shell.showTray();
         bool quit = false;
@@ -168,7 +168,7 @@ private Q_SLOTS:
         QVERIFY(m_app->open());
         {
             MainWindow window;
-            Shell shell(m_app->services(), window);
+            Shell shell(m_app->services(), window, m_app->presence);
             shell.setLoaded();
             shell.bringMainWindowForward();
             window.setGeometry(QRect(120, 90, 700, 640));
@@ -176,7 +176,7 @@ private Q_SLOTS:
         }
         QVERIFY(!m_app->settings.value(SettingsKeys::mainWindowGeometry).toByteArray().isEmpty());
         MainWindow window;
-        Shell shell(m_app->services(), window);
+        Shell shell(m_app->services(), window, m_app->presence);
         shell.setLoaded();
         shell.bringMainWindowForward();
         QCOMPARE(window.size(), QSize(700, 640));
@@ -188,7 +188,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_app->open());
         MainWindow window;
-        Shell shell(m_app->services(), window);
+        Shell shell(m_app->services(), window, m_app->presence);
         shell.setLoaded();
         shell.showTray();
         int withShortcut = 0;
@@ -233,7 +233,7 @@ private Q_SLOTS:
             QVERIFY(Dialogs::asked().front().information.endsWith(QStringLiteral(".sqlite")));
         }
 
-        Shell shell(m_app->services(), window);
+        Shell shell(m_app->services(), window, m_app->presence);
         shell.setLoaded();
         shell.bringMainWindowForward();
         MainView* view = shell.content()->mainView();

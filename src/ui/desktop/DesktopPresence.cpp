@@ -1,0 +1,90 @@
+#include "ui/desktop/DesktopPresence.h"
+
+#include "core/settings/Settings.h"
+#include "ui/desktop/Autostart.h"
+
+#include <QProcess>
+
+namespace lullet {
+
+DesktopPresence::DesktopPresence(Settings& settings, Autostart& autostart, bool trayAvailable,
+                                 QString relaunchProgram, QObject* parent)
+    : QObject(parent)
+    , m_settings(settings)
+    , m_autostart(autostart)
+    , m_trayAvailable(trayAvailable)
+    , m_relaunchProgram(std::move(relaunchProgram))
+{
+}
+
+bool DesktopPresence::startsAtLogin() const
+{
+    return m_autostart.isOn();
+}
+
+bool DesktopPresence::setStartAtLogin(bool on)
+{
+    if (!m_autostart.setOn(on))
+        return false;
+    m_settings.setValue(SettingsKeys::openAtLogIn, on ? 1 : 0);
+    m_settings.setValue(SettingsKeys::UDOpenAtLogin, on);
+    m_settings.sync();
+    return true;
+}
+
+QString DesktopPresence::errorMessage() const
+{
+    return m_autostart.errorMessage();
+}
+
+bool DesktopPresence::showsWindowAtLaunch() const
+{
+    return m_settings.boolean(SettingsKeys::UDDockIcon);
+}
+
+void DesktopPresence::setShowWindowAtLaunch(bool on)
+{
+    m_settings.setValue(SettingsKeys::UDDockIcon, on);
+    m_settings.sync();
+    if (on) {
+        Q_EMIT windowWanted();
+        return;
+    }
+    setTrayIconShown(true);
+}
+
+bool DesktopPresence::trayIconShown() const
+{
+    return m_settings.boolean(SettingsKeys::UDStatusBarIcon);
+}
+
+void DesktopPresence::setTrayIconShown(bool shown)
+{
+    const bool wasUsable = trayIconUsable();
+    // Neither window nor icon would leave the user no way back to the program.
+    if (!shown && !showsWindowAtLaunch())
+        shown = true;
+    m_settings.setValue(SettingsKeys::UDStatusBarIcon, shown);
+    m_settings.sync();
+    if (trayIconUsable() != wasUsable)
+        Q_EMIT trayIconShownChanged(trayIconUsable());
+}
+
+bool DesktopPresence::windowAtLaunch(bool trayOnlyAsked) const
+{
+    if (!trayIconUsable())
+        return true;
+    return !trayOnlyAsked && showsWindowAtLaunch();
+}
+
+bool DesktopPresence::relaunch()
+{
+    // The new program waits for this one to let go of the single-instance lock; otherwise it
+    // would hand its launch to the one about to end.
+    if (!QProcess::startDetached(m_relaunchProgram, {QStringLiteral("--relaunch")}))
+        return false;
+    Q_EMIT quitRequested();
+    return true;
+}
+
+} // namespace lullet

@@ -1,0 +1,164 @@
+#include "core/settings/Settings.h"
+#include "support/TestMain.h"
+#include "ui/desktop/Autostart.h"
+#include "ui/desktop/DesktopPresence.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <cstdlib>
+
+using namespace lullet;
+
+// How the program shows itself: the autostart entry, the taskbar and the tray icon.
+class TestPresence : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+
+    QString path(const QString& name) const { return m_dir->filePath(name); }
+
+    static void validate(const QString& entry)
+    {
+        const QString validator =
+            QStandardPaths::findExecutable(QStringLiteral("desktop-file-validate"));
+        QVERIFY2(!validator.isEmpty(), "desktop-file-validate (desktop-file-utils) is needed");
+        QProcess check;
+        check.start(validator, {entry});
+        QVERIFY(check.waitForFinished(10000));
+        QVERIFY2(check.exitCode() == 0 && check.readAllStandardOutput().isEmpty(),
+                 qPrintable(QFile(entry).fileName()));
+    }
+
+    static QString execLine(const QString& entry)
+    {
+        QFile file(entry);
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        for (const QByteArray& line : file.readAll().split('\n')) {
+            if (line.startsWith("Exec="))
+                return QString::fromUtf8(line.mid(5));
+        }
+        return {};
+    }
+
+private Q_SLOTS:
+    void init() { m_dir = std::make_unique<QTemporaryDir>(); }
+
+    void cleanup()
+    {
+        ::unsetenv("XDG_CONFIG_HOME");
+        m_dir.reset();
+    }
+
+    // The entry lives below $XDG_CONFIG_HOME, or ~/.config when that is unset or relative.
+    void theEntryFollowsTheConfigurationFolder()
+    {
+        ::setenv("XDG_CONFIG_HOME", qPrintable(path(QStringLiteral("config"))), 1);
+        QCOMPARE(Autostart::defaultPath(), path(QStringLiteral("config/autostart/lullet.desktop")));
+        ::setenv("XDG_CONFIG_HOME", "relative/config", 1);
+        QCOMPARE(Autostart::defaultPath(),
+                 QDir::home().filePath(QStringLiteral(".config/autostart/lullet.desktop")));
+        ::unsetenv("XDG_CONFIG_HOME");
+        QCOMPARE(Autostart::defaultPath(),
+                 QDir::home().filePath(QStringLiteral(".config/autostart/lullet.desktop")));
+    }
+
+    // Written valid, with a program path that needs every kind of quoting, and removed again.
+    void theEntryIsWrittenValidAndRemoved()
+    {
+        ::setenv("XDG_CONFIG_HOME", qPrintable(path(QStringLiteral("config"))), 1);
+        const QString program = path(QStringLiteral("my \"apps\"/100% $HOME `x`\\lullet"));
+        Autostart autostart(Autostart::defaultPath(), program);
+        QVERIFY(!autostart.isOn());
+        QVERIFY(autostart.setOn(true));
+        QVERIFY(autostart.isOn());
+        validate(autostart.entryPath());
+        QCOMPARE(
+            execLine(autostart.entryPath()),
+            QStringLiteral("\"") + path(QString()) +
+                QStringLiteral("/my \\\\\"apps\\\\\"/100%% \\\\$HOME \\\\`x\\\\`\\\\\\\\lullet\" "
+                               "--in-tray"));
+        QVERIFY(autostart.setOn(false));
+        QVERIFY(!QFile::exists(autostart.entryPath()));
+        // Removing what is not there is no error.
+        QVERIFY(autostart.setOn(false));
+    }
+
+    // A folder that can't be made is said, and the switch stays off.
+    void anEntryThatCantBeWrittenIsSaid()
+    {
+        QFile blocker(path(QStringLiteral("config")));
+        QVERIFY(blocker.open(QIODevice::WriteOnly));
+        blocker.close();
+        Settings settings(path(QStringLiteral("Lullet.conf")));
+        Autostart autostart(path(QStringLiteral("config/autostart/lullet.desktop")),
+                            QStringLiteral("/usr/bin/lullet"));
+        DesktopPresence presence(settings, autostart, true, QStringLiteral("/bin/true"));
+        QVERIFY(!presence.setStartAtLogin(true));
+        QVERIFY(presence.errorMessage().contains(path(QStringLiteral("config"))));
+        QVERIFY(!presence.startsAtLogin());
+        QVERIFY(!settings.contains(SettingsKeys::openAtLogIn));
+    }
+
+    // Both keys follow the entry; the program always keeps the tray icon or the window.
+    void theProgramKeepsAWayBack()
+    {
+        Settings settings(path(QStringLiteral("Lullet.conf")));
+        Autostart autostart(path(QStringLiteral("autostart/lullet.desktop")),
+                            QStringLiteral("/usr/bin/lullet"));
+        DesktopPresence presence(settings, autostart, true, QStringLiteral("/bin/true"));
+        QVERIFY(presence.setStartAtLogin(true));
+        QCOMPARE(settings.integer(SettingsKeys::openAtLogIn), 1);
+        QVERIFY(settings.boolean(SettingsKeys::UDOpenAtLogin));
+        QVERIFY(presence.setStartAtLogin(false));
+        QCOMPARE(settings.integer(SettingsKeys::openAtLogIn), 0);
+        QVERIFY(!settings.boolean(SettingsKeys::UDOpenAtLogin));
+
+        // A new user has both.
+        QVERIFY(presence.showsWindowAtLaunch());
+        QVERIFY(presence.trayIconShown());
+        QVERIFY(presence.windowAtLaunch(false));
+        QVERIFY(!presence.windowAtLaunch(true));
+
+        QSignalSpy trayChanged(&presence, &DesktopPresence::trayIconShownChanged);
+        QSignalSpy windowWanted(&presence, &DesktopPresence::windowWanted);
+        presence.setTrayIconShown(false);
+        QCOMPARE(trayChanged.count(), 1);
+        QCOMPARE(trayChanged.at(0).at(0).toBool(), false);
+        // Without the icon the window is the way back, even for a launch at login.
+        QVERIFY(presence.windowAtLaunch(true));
+        // Out of the taskbar: the icon comes back.
+        presence.setShowWindowAtLaunch(false);
+        QVERIFY(!settings.boolean(SettingsKeys::UDDockIcon));
+        QVERIFY(settings.boolean(SettingsKeys::UDStatusBarIcon));
+        QCOMPARE(trayChanged.count(), 2);
+        QCOMPARE(trayChanged.at(1).at(0).toBool(), true);
+        QVERIFY(!presence.windowAtLaunch(false));
+        // And stays while the window is out of the taskbar.
+        presence.setTrayIconShown(false);
+        QVERIFY(presence.trayIconShown());
+        QCOMPARE(trayChanged.count(), 2);
+        QCOMPARE(windowWanted.count(), 0);
+        presence.setShowWindowAtLaunch(true);
+        QCOMPARE(windowWanted.count(), 1);
+    }
+
+    // A desktop with no tray shows the window whatever the settings say.
+    void withoutATrayTheWindowShows()
+    {
+        Settings settings(path(QStringLiteral("Lullet.conf")));
+        settings.setValue(SettingsKeys::UDDockIcon, false);
+        Autostart autostart(path(QStringLiteral("autostart/lullet.desktop")),
+                            QStringLiteral("/usr/bin/lullet"));
+        DesktopPresence presence(settings, autostart, false, QStringLiteral("/bin/true"));
+        QVERIFY(!presence.trayIconUsable());
+        QVERIFY(presence.windowAtLaunch(true));
+    }
+};
+
+LULLET_TEST_MAIN(TestPresence)
+#include "tst_presence.moc"

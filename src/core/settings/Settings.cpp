@@ -112,7 +112,9 @@ bool Settings::welcomeDone() const
 
 void Settings::setWelcomeDone()
 {
+    setValue(SettingsKeys::introPageShown, 1);
     setValue(SettingsKeys::isShowFirst, 1);
+    sync();
 }
 
 void Settings::writeIdleQuestionSwitchIfAbsent()

@@ -9,6 +9,8 @@
 namespace lullet::SettingsKeys {
 
 inline constexpr QLatin1String isShowFirst{"isShowFirst"};
+// Written beside "isShowFirst" when the welcome is left; nothing reads it.
+inline constexpr QLatin1String introPageShown{"introPageShown"};
 inline constexpr QLatin1String openAtLogIn{"openAtLogIn"};
 inline constexpr QLatin1String isRating{"isRating"};
 inline constexpr QLatin1String remindMe{"remindMe"};

@@ -4,6 +4,7 @@
 #include "core/security/Lock.h"
 #include "ui/preferences/BackupTab.h"
 #include "ui/preferences/GeneralTab.h"
+#include "ui/preferences/MoreInfoTab.h"
 #include "ui/preferences/ScheduleTab.h"
 #include "ui/preferences/SecurityTab.h"
 #include "ui/preferences/TabIcons.h"
@@ -40,6 +41,8 @@ const TabLook tabs[] = {
     {PreferencesWindow::Tab::Schedule, "schedule",
      QT_TRANSLATE_NOOP("PreferencesWindow", "Schedule"), "x-office-calendar", &TabIcons::schedule,
      457},
+    {PreferencesWindow::Tab::MoreInfo, "moreInfo",
+     QT_TRANSLATE_NOOP("PreferencesWindow", "More Info"), "help-about", &TabIcons::moreInfo, 457},
 };
 
 const TabLook& look(PreferencesWindow::Tab tab)
@@ -118,6 +121,9 @@ QWidget* PreferencesWindow::page(Tab tab)
         break;
     case Tab::Schedule:
         made = new ScheduleTab(m_services, m_pages);
+        break;
+    case Tab::MoreInfo:
+        made = new MoreInfoTab(m_pages);
         break;
     }
     m_pages->addWidget(made);

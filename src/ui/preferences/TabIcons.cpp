@@ -100,4 +100,17 @@ QIcon schedule()
     });
 }
 
+QIcon moreInfo()
+{
+    return drawn([](QPainter& painter) {
+        // An "i" cut out of a disc.
+        QPainterPath disc;
+        disc.addEllipse(QRectF(6, 6, 52, 52));
+        QPainterPath letter;
+        letter.addEllipse(QRectF(28, 14, 8, 8));
+        letter.addRoundedRect(QRectF(28.5, 26, 7, 24), 3, 3);
+        painter.drawPath(disc.subtracted(letter));
+    });
+}
+
 } // namespace lullet::TabIcons

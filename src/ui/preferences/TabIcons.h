@@ -9,5 +9,6 @@ QIcon general();
 QIcon security();
 QIcon backup();
 QIcon schedule();
+QIcon moreInfo();
 
 } // namespace lullet::TabIcons

@@ -1,5 +1,8 @@
 #include "ui/shell/MainWindow.h"
 
+#include "ui/help/Links.h"
+#include "ui/help/UserGuide.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -39,6 +42,12 @@ MainWindow::MainWindow(QWidget* parent)
     placeholder->setAlignment(Qt::AlignCenter);
     setCentralWidget(placeholder);
 
+    makeLulletMenu();
+    makeHelpMenu();
+}
+
+void MainWindow::makeLulletMenu()
+{
     QMenu* file = menuBar()->addMenu(tr("&Lullet"));
     QAction* quickAdd = file->addAction(tr("Quick &Add"));
     quickAdd->setShortcut(QKeySequence::New);
@@ -58,6 +67,30 @@ MainWindow::MainWindow(QWidget* parent)
     QAction* quit = file->addAction(tr("&Quit Lullet"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &MainWindow::quitRequested);
+}
+
+void MainWindow::makeHelpMenu()
+{
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    QAction* slides = help->addAction(tr("Lullet &Help"));
+    slides->setShortcut(QKeySequence::HelpContents);
+    connect(slides, &QAction::triggered, this, &MainWindow::helpRequested);
+    connect(help->addAction(tr("&User's Guide")), &QAction::triggered, this,
+            [this] { UserGuide::open(this); });
+    help->addSeparator();
+    const std::pair<QString, QUrl> pages[] = {
+        {tr("&Frequently Asked Questions"), Links::faq()},
+        {tr("&Website"), Links::website()},
+        {tr("&Privacy Policy"), Links::privacy()},
+        {tr("&Terms and Conditions"), Links::terms()},
+    };
+    for (const auto& [title, url] : pages) {
+        connect(help->addAction(title), &QAction::triggered, this,
+                [this, url] { Links::open(url, this); });
+    }
+    help->addSeparator();
+    connect(help->addAction(tr("&Contact Us…")), &QAction::triggered, this,
+            &MainWindow::contactRequested);
 }
 
 void MainWindow::applyWelcomeSizing()

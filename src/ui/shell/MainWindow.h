@@ -29,6 +29,8 @@ Q_SIGNALS:
     void backUpRequested();
     void restoreRequested();
     void preferencesRequested();
+    void helpRequested();
+    void contactRequested();
     // Closed or hidden: where it stood is worth keeping.
     void hidden();
 
@@ -37,6 +39,9 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void makeLulletMenu();
+    void makeHelpMenu();
+
     QList<QAction*> m_dataActions;
     bool m_closingMinimises = false;
 };

@@ -13,6 +13,8 @@
 #include "ui/authoring/QuickAddView.h"
 #include "ui/desktop/DesktopPresence.h"
 #include "ui/desktop/FileManager.h"
+#include "ui/help/ContactWindow.h"
+#include "ui/help/HelpWindow.h"
 #include "ui/main/MainView.h"
 #include "ui/preferences/BackupCommands.h"
 #include "ui/preferences/PreferencesWindow.h"
@@ -46,6 +48,13 @@ bool gone(const Item* item)
     return item && !item->hasContext();
 }
 
+void bringForward(QWidget* window)
+{
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
 } // namespace
 
 Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& presence,
@@ -62,6 +71,8 @@ Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& pres
     connect(&m_window, &MainWindow::quickAddRequested, this, &Shell::quickAdd);
     connect(&m_window, &MainWindow::hidden, this, &Shell::keepWindowGeometry);
     connect(&m_window, &MainWindow::preferencesRequested, this, &Shell::showPreferences);
+    connect(&m_window, &MainWindow::helpRequested, this, &Shell::showHelp);
+    connect(&m_window, &MainWindow::contactRequested, this, &Shell::showContact);
     connectMonitor();
     connectBackups();
     connectLock();
@@ -236,6 +247,7 @@ void Shell::showTray()
     QAction* preferences = menu->addAction(tr("Preferences…"));
     preferences->setShortcuts(MainWindow::preferencesShortcuts());
     connect(preferences, &QAction::triggered, this, &Shell::showPreferences);
+    connect(menu->addAction(tr("Help")), &QAction::triggered, this, &Shell::showHelp);
     menu->addSeparator();
     connect(menu->addAction(tr("Quit Lullet")), &QAction::triggered, this, &Shell::quitRequested);
     m_tray->showIcon(menu, m_presence.trayIconUsable());
@@ -432,9 +444,29 @@ void Shell::showPreferences()
         if (m_window.isVisible())
             m_preferences->move(m_window.frameGeometry().center() - m_preferences->rect().center());
     }
-    m_preferences->show();
-    m_preferences->raise();
-    m_preferences->activateWindow();
+    bringForward(m_preferences);
+}
+
+void Shell::showHelp()
+{
+    if (!m_help) {
+        m_help = new HelpWindow(&m_window);
+        // Through with the slides, the user is back at the program.
+        connect(m_help, &HelpWindow::done, this, [this] { bringMainWindowForward(); });
+    }
+    bringForward(m_help);
+}
+
+HelpWindow* Shell::help() const
+{
+    return m_help;
+}
+
+void Shell::showContact()
+{
+    if (!m_contact)
+        m_contact = new ContactWindow(&m_window);
+    bringForward(m_contact);
 }
 
 } // namespace lullet

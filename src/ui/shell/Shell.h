@@ -13,7 +13,9 @@ class QAction;
 namespace lullet {
 
 class BackupCommands;
+class ContactWindow;
 class DesktopPresence;
+class HelpWindow;
 class Item;
 class MainWindow;
 class PreferencesWindow;
@@ -62,6 +64,11 @@ public:
     // program is locked.
     void showPreferences();
     PreferencesWindow* preferences() const;
+    // The welcome slides in their own window, and the contact window: one of each, brought
+    // forward when asked for again.
+    void showHelp();
+    void showContact();
+    HelpWindow* help() const;
 
 Q_SIGNALS:
     void quitRequested();
@@ -92,6 +99,8 @@ private:
     WindowContent* m_content = nullptr;
     QPointer<QuickAddView> m_quickAddWindow;
     QPointer<PreferencesWindow> m_preferences;
+    QPointer<HelpWindow> m_help;
+    QPointer<ContactWindow> m_contact;
     BackupCommands* m_backupCommands = nullptr;
     QAction* m_trayQuickAdd = nullptr;
     QPointer<QWidget> m_loading;

@@ -4,12 +4,9 @@
 #include "core/monitor/Monitor.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
+#include "ui/help/WelcomeSlides.h"
 #include "ui/main/MainView.h"
 #include "ui/shell/LoginPage.h"
-
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 namespace lullet {
 
@@ -56,37 +53,12 @@ void WindowContent::showMainView()
     addWidget(m_main);
     setCurrentWidget(m_main);
 }
-// The first-run pages come later; until then the welcome says what Lullet does and lets the
-// user begin, which switches on the idle questions.
+
 QWidget* WindowContent::makeWelcome()
 {
-    auto* page = new QWidget(this);
-    auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(60, 60, 60, 60);
-    auto* title = new QLabel(tr("Welcome to Lullet"), page);
-    QFont big = title->font();
-    big.setPointSizeF(big.pointSizeF() * 2);
-    big.setBold(true);
-    title->setFont(big);
-    auto* text = new QLabel(
-        tr("Lullet reminds you of short pauses — a rest, a meal, a stretch, a glass of water — and "
-           "of your tasks, which you can group into projects. While nothing runs during your "
-           "working hours (Monday to Friday, 9 to 6, to begin with), Lullet asks what you have "
-           "been doing, and records the answer."),
-        page);
-    text->setWordWrap(true);
-    auto* start = new QPushButton(tr("Get started"), page);
-    start->setObjectName(QStringLiteral("getStarted"));
-    start->setDefault(true);
-    layout->addStretch();
-    layout->addWidget(title);
-    layout->addSpacing(16);
-    layout->addWidget(text);
-    layout->addSpacing(24);
-    layout->addWidget(start, 0, Qt::AlignLeft);
-    layout->addStretch();
-    connect(start, &QPushButton::clicked, this, &WindowContent::skipIntro);
-    return page;
+    auto* slides = new WelcomeSlides(tr("Get Started"), this);
+    connect(slides, &WelcomeSlides::skipped, this, &WindowContent::skipIntro);
+    return slides;
 }
 
 void WindowContent::skipIntro()

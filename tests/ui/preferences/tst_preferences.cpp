@@ -120,15 +120,16 @@ private Q_SLOTS:
         BackupCommands commands(services(), nullptr, [](const QString&) {});
         PreferencesWindow window(services(), commands, m_app->presence);
         const std::pair<PreferencesWindow::Tab, int> heights[] = {
-            {PreferencesWindow::Tab::Security, 400},
-            {PreferencesWindow::Tab::Backup, 457},
-            {PreferencesWindow::Tab::Schedule, 457},
+            {PreferencesWindow::Tab::Security, 400}, {PreferencesWindow::Tab::Backup, 457},
+            {PreferencesWindow::Tab::Schedule, 457}, {PreferencesWindow::Tab::MoreInfo, 457},
             {PreferencesWindow::Tab::General, 319},
         };
         for (const auto& [tab, height] : heights) {
             window.tabAction(tab)->trigger();
             QCOMPARE(window.currentTab(), tab);
             QCOMPARE(window.height(), height);
+            if (tab == PreferencesWindow::Tab::MoreInfo)
+                saveShot(&window, QStringLiteral("preferences-more-info"));
         }
     }
 

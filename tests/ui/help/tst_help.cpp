@@ -1,0 +1,138 @@
+#include "core/settings/SettingsKeys.h"
+#include "support/LaunchedDesktop.h"
+#include "support/Shots.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+#include "ui/help/HelpWindow.h"
+#include "ui/help/Links.h"
+#include "ui/help/WelcomeSlides.h"
+#include "ui/shell/MainWindow.h"
+#include "ui/shell/Shell.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrlQuery>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+// The welcome slides, the help window that shows them again, and the project's links.
+class TestHelp : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<LaunchedDesktop> m_app;
+
+    static QPushButton* button(QWidget* in, const char* name)
+    {
+        return in->findChild<QPushButton*>(QLatin1String(name));
+    }
+
+    QByteArray settingsFile() const
+    {
+        m_app->settings.sync();
+        QFile file(m_app->settings.filePath());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        useTestCalendar();
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
+        QVERIFY(m_app->open());
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    // Previous and Next come and go at the ends; Skip stays, named for leaving on the last.
+    void theSlidesTurn()
+    {
+        WelcomeSlides slides(QStringLiteral("Get Started"));
+        slides.resize(800, 600);
+        slides.show();
+        QSignalSpy skipped(&slides, &WelcomeSlides::skipped);
+        QPushButton* previous = button(&slides, "previous");
+        QPushButton* next = button(&slides, "next");
+        QPushButton* skip = button(&slides, "skip");
+        QVERIFY(!previous->isVisible());
+        slides.previous();
+        QCOMPARE(slides.index(), 0);
+        saveShot(&slides, QStringLiteral("welcome-1"));
+        for (int slide = 1; slide < 5; ++slide) {
+            next->click();
+            QCOMPARE(slides.index(), slide);
+            QVERIFY(previous->isVisible());
+            QTest::qWait(600);
+            saveShot(&slides, QStringLiteral("welcome-%1").arg(slide + 1));
+        }
+        QVERIFY(!next->isVisible());
+        QCOMPARE(skip->text(), QStringLiteral("Get Started"));
+        slides.next();
+        QCOMPARE(slides.index(), 4);
+        QTest::keyClick(&slides, Qt::Key_Left);
+        QCOMPARE(slides.index(), 3);
+        QCOMPARE(skip->text(), QStringLiteral("Skip"));
+        QTest::keyClick(&slides, Qt::Key_Right);
+        QCOMPARE(slides.index(), 4);
+        QCOMPARE(skipped.count(), 0);
+        skip->click();
+        QCOMPARE(skipped.count(), 1);
+    }
+
+    // One help window however often asked for; leaving it, by Skip or by closing, changes no
+    // setting, and Skip brings the main window forward.
+    void theHelpWindowChangesNoSetting()
+    {
+        MainWindow window;
+        Shell shell(m_app->services(), window, m_app->presence);
+        shell.setLoaded();
+        const QByteArray before = settingsFile();
+        shell.showHelp();
+        HelpWindow* help = shell.help();
+        QVERIFY(help && help->isVisible());
+        shell.showHelp();
+        QCOMPARE(shell.help(), help);
+        button(help, "next")->click();
+        button(help, "skip")->click();
+        QTRY_VERIFY(!shell.help());
+        QVERIFY(window.isVisible());
+        shell.showHelp();
+        QVERIFY(shell.help() != nullptr);
+        shell.help()->close();
+        QTRY_VERIFY(!shell.help());
+        QCOMPARE(settingsFile(), before);
+    }
+
+    // The terms share the privacy page; the message's subject names the program; link text is
+    // escaped.
+    void theLinks()
+    {
+        QCOMPARE(Links::terms().fragment(), QStringLiteral("terms"));
+        QCOMPARE(Links::terms().adjusted(QUrl::RemoveFragment), Links::privacy());
+        const QUrl email = Links::email();
+        QCOMPARE(email.scheme(), QStringLiteral("mailto"));
+        QCOMPARE(QUrlQuery(email).queryItemValue(QStringLiteral("subject")),
+                 QStringLiteral("Lullet"));
+        QCOMPARE(Links::anchor(QUrl(QStringLiteral("https://a.example/?x=1&y=2")),
+                               QStringLiteral("Q&A")),
+                 QStringLiteral("<a href=\"https://a.example/?x=1&amp;y=2\">Q&amp;A</a>"));
+        for (const QUrl& url : {Links::website(), Links::faq(), Links::privacy(), Links::contact()})
+            QVERIFY2(url.isValid() && url.scheme() == QStringLiteral("https"),
+                     qPrintable(url.toString()));
+    }
+};
+
+LULLET_TEST_MAIN_WITH(QApplication, TestHelp)
+#include "tst_help.moc"

@@ -94,6 +94,17 @@ void Library::addItem(Item* item)
         ItemOrder::sortShared(m_items);
 }
 
+void Library::addUserTask(Item* item, Project* project)
+{
+    addItem(item);
+    if (project) {
+        item->setToProject(project);
+        announceProjectContent(project);
+    }
+    save();
+    announceItemChanged(item);
+}
+
 void Library::removeItem(Item* item)
 {
     if (!contains(m_items, item))

@@ -42,6 +42,8 @@ public:
 
     // Lists the item once, in the shared order (inside a batch: from the batch's end on).
     void addItem(Item* item);
+    // A task the user made: listed, put in the project (or none), saved and announced as added.
+    void addUserTask(Item* item, Project* project);
     // Takes the item out of the list; its record stays in the store.
     void removeItem(Item* item);
     // Takes the item out and deletes its record.

@@ -62,13 +62,7 @@ Item* QuickAddForm::add(const QString& name, Project* project)
     item->setShouldRemind(m_date.has_value());
     item->setRemindBefore(int(RemindBefore::OnTheDay));
     item->setDtReminder(m_date);
-    m_library.addItem(item);
-    if (project) {
-        item->setToProject(project);
-        m_library.announceProjectContent(project);
-    }
-    m_library.save();
-    m_library.announceItemChanged(item);
+    m_library.addUserTask(item, project);
     return item;
 }
 

@@ -3,6 +3,7 @@
 #include "core/app/Services.h"
 #include "core/model/RepeatCodes.h"
 #include "core/presentation/QuickAddForm.h"
+#include "core/presentation/TaskForm.h"
 #include "core/scheduling/Catalogue.h"
 #include "core/scheduling/CatalogueEntries.h"
 #include "core/scheduling/CatalogueRow.h"
@@ -51,12 +52,46 @@ RuleFormView::RuleFormView(const Services& services, const CatalogueRow* row, QW
         m_fromSuggestion = !row->isCustom;
     }
     setWindowTitle(m_editing ? tr("Edit lullet") : tr("New lullet"));
-    auto* form = new QFormLayout(this);
-    buildNameAndMode(form);
-    buildDuration(form);
-    buildSchedule(form);
-    buildNotesAndButtons(form);
+    build();
     setFields(row ? m_form.fieldsFor(*row) : m_form.blankFields());
+}
+
+RuleFormView::RuleFormView(const Services& services, Project* project, Item* task, QWidget* parent)
+    : QDialog(parent)
+    , m_services(services)
+    , m_form({services.clock, services.library, services.generator, services.catalogue})
+    , m_task(std::make_unique<TaskForm>(services.clock, services.library))
+    , m_project(project)
+    , m_editingTask(task)
+{
+    setObjectName(QStringLiteral("taskForm"));
+    setWindowTitle(task ? tr("Edit task") : tr("New task"));
+    build();
+    useTaskMode();
+    setFields(task ? m_task->fieldsOf(*task) : m_task->blankFields());
+}
+
+RuleFormView::~RuleFormView() = default;
+
+void RuleFormView::build()
+{
+    m_layout = new QFormLayout(this);
+    buildNameAndMode(m_layout);
+    buildDuration(m_layout);
+    buildSchedule(m_layout);
+    buildNotesAndButtons(m_layout);
+}
+
+void RuleFormView::useTaskMode()
+{
+    // A task is timed, happens once and is always there: no kind, repeat, end or switch.
+    for (QWidget* row :
+         {static_cast<QWidget*>(m_mode), m_repeatRow, m_endRow, static_cast<QWidget*>(m_active)})
+        m_layout->setRowVisible(row, false);
+    if (auto* label = qobject_cast<QLabel*>(m_layout->labelForField(m_firstRow)))
+        label->setText(tr("Due on"));
+    // Its name is the user's own: the suggestions are for lullets.
+    m_name->clear();
 }
 
 void RuleFormView::buildNameAndMode(QFormLayout* form)
@@ -125,6 +160,7 @@ void RuleFormView::buildSchedule(QFormLayout* form)
     firstRow->addWidget(m_firstDate);
     firstRow->addWidget(m_time);
     form->addRow(tr("First on"), first);
+    m_firstRow = first;
 
     auto* every = new QWidget(this);
     auto* everyRow = new QHBoxLayout(every);
@@ -141,6 +177,7 @@ void RuleFormView::buildSchedule(QFormLayout* form)
     everyRow->addWidget(m_repeatCount);
     everyRow->addWidget(m_unit, 1);
     form->addRow(tr("Repeat every"), every);
+    m_repeatRow = every;
 
     auto* end = new QWidget(this);
     auto* endRow = new QHBoxLayout(end);
@@ -157,6 +194,7 @@ void RuleFormView::buildSchedule(QFormLayout* form)
     connect(m_end, &QComboBox::currentIndexChanged, this,
             [this](int index) { m_upTo->setVisible(index != 0); });
     form->addRow(tr("Ends"), end);
+    m_endRow = end;
 }
 
 void RuleFormView::buildNotesAndButtons(QFormLayout* form)
@@ -228,6 +266,16 @@ RuleForm::Fields RuleFormView::fields() const
 
 RuleForm::Outcome RuleFormView::submit()
 {
+    if (m_task) {
+        m_savedTask = m_task->done(fields(), m_editingTask, m_project);
+        if (!m_savedTask) {
+            Balloon::show(QuickAddForm::blankMessage(), m_name);
+            return RuleForm::Outcome::BlankName;
+        }
+        Balloon::dismiss(m_name);
+        accept();
+        return RuleForm::Outcome::Saved;
+    }
     const RuleForm::Outcome outcome = m_form.done(fields(), m_editing, m_fromSuggestion);
     switch (outcome) {
     case RuleForm::Outcome::BlankName:

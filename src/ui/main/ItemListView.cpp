@@ -166,6 +166,10 @@ void ItemListView::buildProjectButtons(QHBoxLayout* row, Project* project)
     button->setText(tr("Project"));
     button->setPopupMode(QToolButton::InstantPopup);
     auto* menu = new QMenu(button);
+    QAction* addTasks = menu->addAction(tr("Add Tasks…"));
+    addTasks->setObjectName(QStringLiteral("addTasks"));
+    connect(addTasks, &QAction::triggered, this,
+            [this, project] { Q_EMIT addTasksRequested(project); });
     QAction* duplicate = menu->addAction(tr("Duplicate"));
     duplicate->setObjectName(QStringLiteral("duplicateProject"));
     QAction* remove = menu->addAction(tr("Delete"));
@@ -304,8 +308,10 @@ void ItemListView::onReset()
 void ItemListView::select(const Item* item)
 {
     const int row = m_model->rowOf(item);
-    if (row >= 0)
-        m_table->selectRow(row);
+    if (row < 0)
+        return;
+    m_table->selectRow(row);
+    m_table->scrollTo(m_model->index(row, 0));
 }
 
 void ItemListView::onItemsChanged(Item* item)

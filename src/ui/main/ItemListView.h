@@ -48,6 +48,8 @@ Q_SIGNALS:
     // The project list's own buttons.
     void projectDeletionRequested(lullet::Project* project);
     void projectDuplicated(lullet::Project* project);
+    // The project's tasks are to be added to and edited in their own panel.
+    void addTasksRequested(lullet::Project* project);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -7,6 +7,7 @@
 #include "core/monitor/Monitor.h"
 #include "core/scheduling/Catalogue.h"
 #include "ui/authoring/QuickAddView.h"
+#include "ui/main/AddTaskView.h"
 #include "ui/main/ItemListView.h"
 #include "ui/main/RepeatListView.h"
 #include "ui/widgets/Balloon.h"
@@ -157,6 +158,12 @@ QWidget* MainView::makeList(const QString& segment, Project* project)
         loadSidebar();
         selectSegment(copy->name().value_or(QString()));
     });
+    connect(list, &ItemListView::addTasksRequested, this, [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { m_switcher->showView(QStringLiteral("AddTaskList")); },
+            Qt::QueuedConnection);
+    });
+    list->select(std::exchange(m_toSelect, nullptr));
     return list;
 }
 
@@ -173,6 +180,17 @@ void MainView::registerViews()
     });
     m_switcher->registerView(QStringLiteral("RepeatList"),
                              [this] { return new RepeatListView(m_services); });
+    m_switcher->registerView(QStringLiteral("AddTaskList"), [this] {
+        auto* tasks = new AddTaskView(m_services, m_project);
+        connect(tasks, &AddTaskView::doneRequested, this, [this](const Item* lastTouched) {
+            m_toSelect = lastTouched;
+            // Not from inside the view that is about to be replaced.
+            QMetaObject::invokeMethod(
+                this, [this] { m_switcher->showView(QStringLiteral("ProjectList")); },
+                Qt::QueuedConnection);
+        });
+        return tasks;
+    });
 }
 
 void MainView::connectSidebar()
@@ -316,6 +334,7 @@ void MainView::dispatch(int index)
         const QString target = segment == QStringLiteral("Project")
                                    ? row.item->toProject()->name().value_or(QString())
                                    : segment;
+        m_toSelect = row.item;
         m_searchField->clear();
         selectSegment(target);
         return;
@@ -323,6 +342,8 @@ void MainView::dispatch(int index)
     m_project = row.project;
     m_segment = row.project ? QStringLiteral("Project") : row.name;
     m_switcher->showView(Sidebar::viewFor(m_segment));
+    // Meant for the list just made, if it was one.
+    m_toSelect = nullptr;
 }
 
 void MainView::selectSegment(const QString& name)

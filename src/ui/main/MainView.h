@@ -12,6 +12,7 @@ class QSplitter;
 
 namespace lullet {
 
+class Item;
 class Project;
 class QuickAddView;
 class ViewSwitcher;
@@ -81,6 +82,8 @@ private:
     bool m_selectingSilently = false;
     Project* m_renaming = nullptr;
     bool m_focusPlaced = false;
+    // The item the next list made selects: a search result, or the task last added.
+    const Item* m_toSelect = nullptr;
 };
 
 } // namespace lullet

@@ -1,13 +1,16 @@
+#include "core/activity/ProjectActions.h"
 #include "core/dates/CalendarContext.h"
 #include "core/library/Library.h"
 #include "core/model/RepeatCodes.h"
 #include "core/presentation/RuleForm.h"
+#include "core/presentation/TaskForm.h"
 #include "core/scheduling/Catalogue.h"
 #include "support/DatePrinting.h"
 #include "support/Launched.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
 
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -172,6 +175,51 @@ private Q_SLOTS:
         QCOMPARE(f.done(fields, nullptr, true), RuleForm::Outcome::Saved);
         QCOMPARE(*app().library().rules().back()->isCustom(), false);
         QCOMPARE(walk->representedObject, app().library().rules().back());
+    }
+
+    // The task mode makes a plain task of the project, announced as added; an edit that leaves
+    // the date as shown keeps a postponement, or the task's having no date; a new date replaces
+    // both.
+    void theTaskMode()
+    {
+        const Services& s = app().services();
+        Project* home = s.projectActions.addProject(QStringLiteral("Home")).project;
+        QVERIFY(home);
+        TaskForm tasks(s.clock, s.library);
+        RuleForm::Fields fields = tasks.blankFields();
+        QCOMPARE(fields.time, at(2026, 11, 23, 9, 10));
+        QVERIFY(!tasks.done(fields, nullptr, home));
+        fields.title = QStringLiteral("  water the plants ");
+        fields.minutes = 20;
+        QSignalSpy added(&s.library, &Library::itemsChanged);
+        Item* task = tasks.done(fields, nullptr, home);
+        QVERIFY(task);
+        QCOMPARE(added.count(), 1);
+        QCOMPARE(added.at(0).at(0).value<Item*>(), task);
+        QCOMPARE(task->title(), std::optional(QStringLiteral("Water the plants")));
+        QCOMPARE(task->toProject(), home);
+        QCOMPARE(task->uniqueId(), std::optional(placeholderId()));
+        QCOMPARE(task->dtReminder(), std::optional(at(2026, 11, 23, 9, 10)));
+        QCOMPARE(task->durationMin(), std::optional(20));
+
+        task->setDtReminderPostponed(at(2026, 11, 23, 11, 0, 30));
+        fields = tasks.fieldsOf(*task);
+        QCOMPARE(fields.time, at(2026, 11, 23, 11, 0));
+        fields.notes = QStringLiteral("The ones by the window");
+        QCOMPARE(tasks.done(fields, task, nullptr), task);
+        QCOMPARE(task->dtReminderPostponed(), std::optional(at(2026, 11, 23, 11, 0, 30)));
+        QCOMPARE(task->toProject(), home);
+        fields.time = at(2026, 11, 23, 14, 0);
+        tasks.done(fields, task, nullptr);
+        QCOMPARE(task->dtReminder(), std::optional(at(2026, 11, 23, 14, 0)));
+        QVERIFY(!task->dtReminderPostponed());
+
+        Item* anytime = app().addItem(QStringLiteral("Read"), std::nullopt);
+        fields = tasks.fieldsOf(*anytime);
+        fields.hours = 1;
+        tasks.done(fields, anytime, nullptr);
+        QVERIFY(!anytime->dtReminder());
+        QCOMPARE(anytime->durationHr(), std::optional(1));
     }
 };
 

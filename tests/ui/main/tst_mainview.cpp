@@ -8,23 +8,32 @@
 #include "support/TestMain.h"
 #include "ui/authoring/DateChooser.h"
 #include "ui/authoring/QuickAddView.h"
+#include "ui/authoring/RuleFormView.h"
+#include "ui/main/AddTaskView.h"
+#include "ui/main/ItemListModel.h"
 #include "ui/main/ItemListView.h"
 #include "ui/main/MainView.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/WindowContent.h"
+#include "ui/widgets/Dialogs.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/ViewSwitcher.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include <memory>
 
@@ -194,9 +203,69 @@ private Q_SLOTS:
         QCOMPARE(shown.size(), 2);
         QVERIFY(shown[0].startsWith(QStringLiteral("Today")));
         QCOMPARE(shown[1], QStringLiteral("• Walk the dog"));
-        view.sidebar()->setCurrentRow(1);
+        app().addItem(QStringLiteral("Call the vet"), at(2026, 11, 25, 17, 0));
+        search->setText(QStringLiteral("walk"));
+        view.sidebar()->setCurrentRow(view.sidebar()->count() - 1);
         QVERIFY(search->text().isEmpty());
         QCOMPARE(view.selectedSegment(), QStringLiteral("Today"));
+        // The list opens with the result selected, below the other task of the day.
+        auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
+        QVERIFY(list);
+        const QModelIndexList selected = list->table()->selectionModel()->selectedRows();
+        QCOMPARE(selected.size(), 1);
+        QCOMPARE(list->model().index(selected.front().row(), 1).data().toString(),
+                 QStringLiteral("Walk the dog"));
+        QCOMPARE(selected.front().row(), 1);
+    }
+
+    // A project's tasks are added and edited in their own panel, which lists only those still
+    // waiting and goes back to the project's list with the new task selected.
+    void theAddTaskPanel()
+    {
+        const Services& s = app().services();
+        Project* home = s.projectActions.addProject(QStringLiteral("Home")).project;
+        Item* started = app().addItem(QStringLiteral("Paint the door"), at(2026, 11, 25, 9, 0));
+        started->setToProject(home);
+        started->setHasStarted(true);
+        Item* waiting = app().addItem(QStringLiteral("Fix the tap"), at(2026, 11, 26, 9, 0));
+        waiting->setToProject(home);
+        MainView view(s);
+        view.resize(900, 600);
+        view.show();
+        view.selectSegment(QStringLiteral("Home"));
+        auto* projectList = qobject_cast<ItemListView*>(view.switcher().currentWidget());
+        QVERIFY(projectList);
+        projectList->findChild<QAction*>(QStringLiteral("addTasks"))->trigger();
+        QTRY_COMPARE(view.switcher().currentName(), QStringLiteral("AddTaskList"));
+        auto* panel = qobject_cast<AddTaskView*>(view.switcher().currentWidget());
+        QCOMPARE(panel->list()->topLevelItemCount(), 1);
+        QCOMPARE(panel->list()->topLevelItem(0)->text(0), QStringLiteral("Fix the tap"));
+
+        RuleFormView* form = panel->openForm(nullptr);
+        QVERIFY(form->isVisible());
+        QVERIFY(!form->findChild<QComboBox*>(QStringLiteral("unit"))->isVisible());
+        form->findChild<QComboBox*>(QStringLiteral("name"))
+            ->setCurrentText(QStringLiteral("Buy bulbs"));
+        saveShot(form, QStringLiteral("task-form"));
+        form->findChild<QPushButton*>(QStringLiteral("done"))->click();
+        Item* bulbs = form->savedTask();
+        QVERIFY(bulbs);
+        QCOMPARE(bulbs->toProject(), home);
+        // Due ten minutes from now, before the tap: first, and selected.
+        QCOMPARE(panel->list()->topLevelItemCount(), 2);
+        QCOMPARE(panel->selectedTask(), bulbs);
+        QCOMPARE(panel->list()->indexOfTopLevelItem(panel->list()->currentItem()), 0);
+        saveShot(&view, QStringLiteral("add-task-panel"));
+
+        Dialogs::answerNext(1);
+        panel->deleteTask(waiting);
+        QCOMPARE(panel->list()->topLevelItemCount(), 2);
+        panel->findChild<QPushButton*>(QStringLiteral("done"))->click();
+        QTRY_COMPARE(view.switcher().currentName(), QStringLiteral("ProjectList"));
+        projectList = qobject_cast<ItemListView*>(view.switcher().currentWidget());
+        const QModelIndexList selected = projectList->table()->selectionModel()->selectedRows();
+        QCOMPARE(selected.size(), 1);
+        QCOMPARE(projectList->model().rowOf(bulbs), selected.front().row());
     }
 
     // At the default window size a project's header shows every count whole, the badge keeps

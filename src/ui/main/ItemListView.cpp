@@ -314,6 +314,13 @@ void ItemListView::select(const Item* item)
     m_table->scrollTo(m_model->index(row, 0));
 }
 
+Item* ItemListView::selectedItem() const
+{
+    const QModelIndex current = m_table->currentIndex();
+    return current.isValid() ? m_model->data(current, ItemListModel::ItemRole).value<Item*>()
+                             : nullptr;
+}
+
 void ItemListView::onItemsChanged(Item* item)
 {
     reload();

@@ -41,6 +41,8 @@ public:
     void postpone(Item* item);
     // Selects the item's row, if it is listed.
     void select(const Item* item);
+    // The item of the current row, if any.
+    Item* selectedItem() const;
 
 Q_SIGNALS:
     // The main view is asked to show another segment, where an item now belongs.

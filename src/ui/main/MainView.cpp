@@ -158,7 +158,9 @@ QWidget* MainView::makeList(const QString& segment, Project* project)
         loadSidebar();
         selectSegment(copy->name().value_or(QString()));
     });
-    connect(list, &ItemListView::addTasksRequested, this, [this] {
+    connect(list, &ItemListView::addTasksRequested, this, [this, list] {
+        // The panel opens on the task chosen in the list.
+        m_toSelect = list->selectedItem();
         QMetaObject::invokeMethod(
             this, [this] { m_switcher->showView(QStringLiteral("AddTaskList")); },
             Qt::QueuedConnection);
@@ -182,6 +184,7 @@ void MainView::registerViews()
                              [this] { return new RepeatListView(m_services); });
     m_switcher->registerView(QStringLiteral("AddTaskList"), [this] {
         auto* tasks = new AddTaskView(m_services, m_project);
+        tasks->select(std::exchange(m_toSelect, nullptr));
         connect(tasks, &AddTaskView::doneRequested, this, [this](const Item* lastTouched) {
             m_toSelect = lastTouched;
             // Not from inside the view that is about to be replaced.

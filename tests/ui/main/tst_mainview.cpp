@@ -235,10 +235,12 @@ private Q_SLOTS:
         view.selectSegment(QStringLiteral("Home"));
         auto* projectList = qobject_cast<ItemListView*>(view.switcher().currentWidget());
         QVERIFY(projectList);
+        projectList->select(waiting);
         projectList->findChild<QAction*>(QStringLiteral("addTasks"))->trigger();
         QTRY_COMPARE(view.switcher().currentName(), QStringLiteral("AddTaskList"));
         auto* panel = qobject_cast<AddTaskView*>(view.switcher().currentWidget());
         QCOMPARE(panel->list()->topLevelItemCount(), 1);
+        QCOMPARE(panel->selectedTask(), waiting);
         QCOMPARE(panel->list()->topLevelItem(0)->text(0), QStringLiteral("Fix the tap"));
 
         RuleFormView* form = panel->openForm(nullptr);

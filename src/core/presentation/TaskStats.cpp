@@ -3,6 +3,7 @@
 #include "core/activity/RunningItem.h"
 #include "core/dates/Clock.h"
 #include "core/model/Item.h"
+#include "core/presentation/ListBuilder.h"
 
 #include <algorithm>
 
@@ -27,6 +28,8 @@ TaskStats TaskStats::of(const std::vector<Item*>& items, const Clock& clock,
     const Date now = clock.now();
     const std::optional<Date> lastPrompt = running.lastPromptAt();
     const qint64 secondsNow = lastPrompt ? now.secondsAfterDate(*lastPrompt) : 0;
+    // Today's bounds once, rather than a calendar's answer for every item.
+    const ListBuilder::Today today(now);
     for (const Item* item : items) {
         s.totalCount += 1;
         const bool isToDo = item->isToDo();
@@ -49,7 +52,7 @@ TaskStats TaskStats::of(const std::vector<Item*>& items, const Clock& clock,
             limit = started ? extended + covered : covered;
         }
         const std::optional<Date> date = item->effectiveDate();
-        const bool inToday = date && date->isToday(clock);
+        const bool inToday = date && today.contains(*date);
 
         if (finished) {
             s.completedCount += 1;

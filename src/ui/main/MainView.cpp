@@ -8,6 +8,7 @@
 #include "core/scheduling/Catalogue.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/AddTaskView.h"
+#include "ui/main/DashboardView.h"
 #include "ui/main/ItemListView.h"
 #include "ui/main/RepeatListView.h"
 #include "ui/widgets/Balloon.h"
@@ -17,7 +18,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QKeySequence>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -32,15 +32,6 @@ namespace lullet {
 namespace {
 
 constexpr int sidebarWidth = 180;
-
-// A view that a later part of the program provides.
-QWidget* comingView(const QString& what)
-{
-    auto* label = new QLabel(what);
-    label->setAlignment(Qt::AlignCenter);
-    label->setForegroundRole(QPalette::PlaceholderText);
-    return label;
-}
 
 } // namespace
 
@@ -177,9 +168,8 @@ void MainView::registerViews()
                              [this] { return makeList(m_segment, nullptr); });
     m_switcher->registerView(QStringLiteral("ProjectList"),
                              [this] { return makeList(QStringLiteral("Project"), m_project); });
-    m_switcher->registerView(QStringLiteral("Chart"), [] {
-        return comingView(tr("The dashboard comes with the reports."));
-    });
+    m_switcher->registerView(QStringLiteral("Chart"),
+                             [this] { return new DashboardView(m_services); });
     m_switcher->registerView(QStringLiteral("RepeatList"),
                              [this] { return new RepeatListView(m_services); });
     m_switcher->registerView(QStringLiteral("AddTaskList"), [this] {

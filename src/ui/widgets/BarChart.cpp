@@ -31,10 +31,22 @@ void BarChart::setUnit(const QString& unit)
     update();
 }
 
-std::pair<double, double> BarChart::axisFor(double largest)
+void BarChart::setWholeNumbers(bool whole)
+{
+    m_wholeNumbers = whole;
+    update();
+}
+
+void BarChart::setEmptyText(const QString& text)
+{
+    m_emptyText = text;
+    update();
+}
+
+std::pair<double, double> BarChart::axisFor(double largest) const
 {
     if (largest <= 0)
-        return {1, 0.25};
+        return m_wholeNumbers ? std::pair{1.0, 1.0} : std::pair{1.0, 0.25};
     // A step of 1, 2 or 5 times a power of ten that gives at most four steps.
     const double rough = largest / 4;
     const double power = std::pow(10.0, std::floor(std::log10(rough)));
@@ -44,6 +56,8 @@ std::pair<double, double> BarChart::axisFor(double largest)
         if (step >= rough)
             break;
     }
+    if (m_wholeNumbers)
+        step = std::max(step, 1.0);
     return {std::ceil(largest / step) * step, step};
 }
 
@@ -57,8 +71,14 @@ void BarChart::paintEvent(QPaintEvent*)
         largest = std::max(largest, bar.value);
     const auto [top, step] = axisFor(largest);
 
+    if (largest <= 0 && !m_emptyText.isEmpty()) {
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
+        return;
+    }
     const auto tickText = [this](double value) {
-        return QString::number(value, 'f', 1) + (m_unit.isEmpty() ? QString() : u' ' + m_unit);
+        return QString::number(value, 'f', m_wholeNumbers ? 0 : 1) +
+               (m_unit.isEmpty() ? QString() : u' ' + m_unit);
     };
     const int axisWidth = metrics.horizontalAdvance(tickText(top)) + 8;
     const QRect plot =

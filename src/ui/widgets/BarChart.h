@@ -25,6 +25,10 @@ public:
     void setColor(const QColor& color);
     // The value axis' labels: `unit` follows each tick's value ("h" gives "1.5 h").
     void setUnit(const QString& unit);
+    // Counts: the value axis steps by whole numbers and shows no decimals.
+    void setWholeNumbers(bool whole);
+    // Said in place of the bars while every value is 0.
+    void setEmptyText(const QString& text);
 
     QSize sizeHint() const override { return {400, 180}; }
 
@@ -33,11 +37,13 @@ protected:
 
 private:
     // The top of the value axis and its step: round numbers, four steps or so.
-    static std::pair<double, double> axisFor(double largest);
+    std::pair<double, double> axisFor(double largest) const;
 
     std::vector<Bar> m_bars;
     QColor m_color = QColor(0xFC, 0x72, 0x74);
     QString m_unit;
+    QString m_emptyText;
+    bool m_wholeNumbers = false;
 };
 
 } // namespace lullet

@@ -48,13 +48,25 @@ void CircularProgress::setProgress(double progress, bool animated)
     m_animation->start();
 }
 
+void CircularProgress::setTrackColor(const QColor& color)
+{
+    m_track = color;
+    update();
+}
+
+void CircularProgress::setCentreText(const QString& text)
+{
+    m_centreText = text;
+    update();
+}
+
 void CircularProgress::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const int side = std::min(width(), height()) - m_lineWidth;
     const QRectF ring((width() - side) / 2.0, (height() - side) / 2.0, side, side);
-    QPen track(palette().color(QPalette::Midlight), m_lineWidth);
+    QPen track(m_track.isValid() ? m_track : palette().color(QPalette::Midlight), m_lineWidth);
     painter.setPen(track);
     painter.drawEllipse(ring);
     QPen bar(m_color, m_lineWidth, Qt::SolidLine, Qt::RoundCap);
@@ -62,7 +74,9 @@ void CircularProgress::paintEvent(QPaintEvent*)
     // From the top (90 degrees), clockwise (negative spans), as far as the progress goes.
     painter.drawArc(ring, 90 * 16, int(-360 * 16 * m_shown));
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("%1%").arg(qRound(m_shown * 100)));
+    painter.drawText(rect(), Qt::AlignCenter,
+                     m_centreText.isNull() ? QStringLiteral("%1%").arg(qRound(m_shown * 100))
+                                           : m_centreText);
 }
 
 } // namespace lullet

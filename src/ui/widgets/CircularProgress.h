@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QString>
 #include <QWidget>
 
 class QVariantAnimation;
@@ -16,6 +17,10 @@ public:
 
     void setColor(const QColor& color);
     void setLineWidth(int width);
+    // The ring behind the bar; the palette's by default.
+    void setTrackColor(const QColor& color);
+    // Shown in the middle in place of the percentage.
+    void setCentreText(const QString& text);
     // Clamped to 0..1.
     void setProgress(double progress, bool animated = true);
     double progress() const { return m_target; }
@@ -27,6 +32,8 @@ protected:
 
 private:
     QColor m_color = QColor(0xFC, 0x72, 0x74);
+    QColor m_track;
+    QString m_centreText;
     int m_lineWidth = 8;
     double m_shown = 0;
     double m_target = 0;

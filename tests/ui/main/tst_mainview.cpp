@@ -10,12 +10,15 @@
 #include "ui/authoring/QuickAddView.h"
 #include "ui/authoring/RuleFormView.h"
 #include "ui/main/AddTaskView.h"
+#include "ui/main/DashboardView.h"
 #include "ui/main/ItemListModel.h"
 #include "ui/main/ItemListView.h"
 #include "ui/main/MainView.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/WindowContent.h"
+#include "ui/widgets/BarChart.h"
+#include "ui/widgets/CircularProgress.h"
 #include "ui/widgets/Dialogs.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/ViewSwitcher.h"
@@ -216,6 +219,28 @@ private Q_SLOTS:
         QCOMPARE(list->model().index(selected.front().row(), 1).data().toString(),
                  QStringLiteral("Walk the dog"));
         QCOMPARE(selected.front().row(), 1);
+    }
+
+    // The dashboard counts what the store holds and follows a change at once.
+    void theDashboardFollowsTheItems()
+    {
+        MainView view(app().services());
+        view.resize(900, 600);
+        view.show();
+        view.selectSegment(QStringLiteral("Dashboard"));
+        auto* dashboard = qobject_cast<DashboardView*>(view.switcher().currentWidget());
+        QVERIFY(dashboard);
+        // "Walk the dog", today at 18:00: current and upcoming, in November.
+        QCOMPARE(dashboard->chart()->bars().at(10).value, 1.0);
+        QCOMPARE(dashboard->chart()->bars().at(10).label, QStringLiteral("NOV"));
+        QCOMPARE(dashboard->circle(1)->progress(), 0.5);
+        QCOMPARE(dashboard->projects()->topLevelItemCount(), 1);
+        QCOMPARE(dashboard->projects()->topLevelItem(0)->text(0), QStringLiteral("Not in Project"));
+        app().library().announceItemChanged(
+            app().addItem(QStringLiteral("Plan the party"), at(2026, 12, 20, 18, 0)));
+        QCOMPARE(dashboard->chart()->bars().at(11).value, 1.0);
+        QCOMPARE(dashboard->projects()->topLevelItem(0)->text(1), QStringLiteral("2"));
+        saveShot(&view, QStringLiteral("dashboard"));
     }
 
     // A project's tasks are added and edited in their own panel, which lists only those still

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "core/dates/Date.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <vector>
+
+namespace lullet {
+
+class Clock;
+class Item;
+class Project;
+class RunningItem;
+
+// What the dashboard shows, worked out in one pass over the items: the three circles' counts,
+// the items of each month of this year, and a row for each project that has items.
+struct DashboardSummary {
+    struct ProjectRow {
+        QString title;
+        int count = 0;
+        qint64 plannedSeconds = 0;
+        // None for the row of items in no project.
+        Project* project = nullptr;
+    };
+
+    // An item comes due later: upcoming. Due today, or ahead within its advance notice: current
+    // (so an item inside its notice counts twice). Past its day and unfinished: overdue, but
+    // only with an advance notice set. An item with no date counts in no circle.
+    int overdue = 0;
+    int current = 0;
+    int upcoming = 0;
+    // January to December of this year. An item counts once in a month if its own date or its
+    // postponed one falls in it.
+    std::array<int, 12> months{};
+    // "Not in Project" first, when any item has no project; then the projects, in their order.
+    std::vector<ProjectRow> rows;
+
+    static DashboardSummary of(const std::vector<Item*>& items,
+                               const std::vector<Project*>& projects, const Clock& clock,
+                               const RunningItem& running);
+    // "JAN" … "DEC".
+    static QStringList monthLabels();
+    static QString notInProjectTitle() { return QStringLiteral("Not in Project"); }
+};
+
+} // namespace lullet

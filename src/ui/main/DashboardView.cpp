@@ -1,0 +1,146 @@
+#include "ui/main/DashboardView.h"
+
+#include "core/app/Services.h"
+#include "core/library/Library.h"
+#include "core/monitor/Monitor.h"
+#include "core/presentation/DashboardSummary.h"
+#include "core/presentation/RowTexts.h"
+#include "ui/widgets/BarChart.h"
+#include "ui/widgets/CircularProgress.h"
+
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace lullet {
+
+namespace {
+
+struct CircleLook {
+    const char* name;
+    const char* caption;
+    QColor color;
+};
+
+const CircleLook circleLooks[] = {
+    {"overdue", QT_TRANSLATE_NOOP("DashboardView", "Overdue"), QColor(0xE6, 0x3A, 0x46)},
+    {"current", QT_TRANSLATE_NOOP("DashboardView", "Current"), QColor(0x00, 0x80, 0x80)},
+    {"upcoming", QT_TRANSLATE_NOOP("DashboardView", "Upcoming"), QColor(0x00, 0x80, 0xFF)},
+};
+
+QColor faded(QColor color)
+{
+    color.setAlphaF(0.1f);
+    return color;
+}
+
+} // namespace
+
+DashboardView::DashboardView(const Services& services, QWidget* parent)
+    : QWidget(parent)
+    , m_services(services)
+{
+    setObjectName(QStringLiteral("dashboard"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(makeCircles());
+    layout->addWidget(makeChart(), 1);
+    layout->addWidget(makeProjectTable(), 1);
+    listenToChanges();
+    reload();
+}
+
+QWidget* DashboardView::makeCircles()
+{
+    auto* row = new QWidget(this);
+    auto* grid = new QGridLayout(row);
+    for (int i = 0; i < 3; ++i) {
+        const CircleLook& look = circleLooks[i];
+        auto* circle = new CircularProgress(row);
+        circle->setObjectName(QLatin1String(look.name));
+        circle->setColor(look.color);
+        circle->setTrackColor(faded(look.color));
+        circle->setLineWidth(10);
+        circle->setMinimumSize(96, 96);
+        QFont big = circle->font();
+        big.setPointSizeF(big.pointSizeF() * 1.8);
+        big.setBold(true);
+        circle->setFont(big);
+        auto* caption = new QLabel(tr(look.caption), row);
+        caption->setAlignment(Qt::AlignHCenter);
+        grid->addWidget(circle, 0, i, Qt::AlignHCenter);
+        grid->addWidget(caption, 1, i);
+        m_circles[std::size_t(i)] = circle;
+    }
+    return row;
+}
+
+QWidget* DashboardView::makeChart()
+{
+    m_chart = new BarChart(this);
+    m_chart->setObjectName(QStringLiteral("months"));
+    m_chart->setColor(QColor(0xDC, 0xDF, 0xE6));
+    m_chart->setWholeNumbers(true);
+    m_chart->setEmptyText(QStringLiteral("You need to provide data for the chart."));
+    m_chart->setAutoFillBackground(true);
+    m_chart->setBackgroundRole(QPalette::Base);
+    m_chart->setMinimumHeight(140);
+    return m_chart;
+}
+
+QWidget* DashboardView::makeProjectTable()
+{
+    m_projects = new QTreeWidget(this);
+    m_projects->setObjectName(QStringLiteral("projects"));
+    m_projects->setColumnCount(3);
+    m_projects->setHeaderLabels({tr("Project"), tr("Tasks"), tr("Planned")});
+    m_projects->setRootIsDecorated(false);
+    m_projects->setUniformRowHeights(true);
+    m_projects->setAlternatingRowColors(true);
+    m_projects->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_projects->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    m_projects->header()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
+    return m_projects;
+}
+
+void DashboardView::listenToChanges()
+{
+    const Library& library = m_services.library;
+    connect(&library, &Library::itemsChanged, this, &DashboardView::reload);
+    connect(&library, &Library::itemRemoved, this, &DashboardView::reload);
+    connect(&library, &Library::itemPostponed, this, &DashboardView::reload);
+    connect(&library, &Library::projectsChanged, this, &DashboardView::reload);
+    connect(&library, &Library::projectContentChanged, this, &DashboardView::reload);
+    // Items cross now and midnight while nothing else changes.
+    connect(&m_services.monitor, &Monitor::minutePassed, this, &DashboardView::reload);
+}
+
+void DashboardView::reload()
+{
+    const DashboardSummary summary =
+        DashboardSummary::of(m_services.library.items(), m_services.library.projects(),
+                             m_services.clock, m_services.running);
+    const int counts[] = {summary.overdue, summary.current, summary.upcoming};
+    const int sum = counts[0] + counts[1] + counts[2];
+    for (std::size_t i = 0; i < m_circles.size(); ++i) {
+        m_circles[i]->setCentreText(QString::number(counts[i]));
+        m_circles[i]->setProgress(sum > 0 ? double(counts[i]) / sum : 0);
+    }
+    std::vector<BarChart::Bar> bars;
+    const QStringList labels = DashboardSummary::monthLabels();
+    for (std::size_t month = 0; month < summary.months.size(); ++month)
+        bars.push_back({labels[qsizetype(month)], double(summary.months[month])});
+    m_chart->setBars(std::move(bars));
+    m_projects->clear();
+    for (const DashboardSummary::ProjectRow& row : summary.rows) {
+        auto* item = new QTreeWidgetItem(m_projects);
+        item->setText(0, row.title);
+        item->setText(1, QString::number(row.count));
+        item->setText(2, RowTexts::getStringFromSeconds(int(row.plannedSeconds)));
+        item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+        item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
+    }
+}
+
+} // namespace lullet

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+class QLabel;
+class QTreeWidget;
+
+namespace lullet {
+
+class BarChart;
+class CircularProgress;
+struct Services;
+
+// The dashboard: overdue, current and upcoming items as three circles, the items of each month
+// of this year as bars, and a row for each project with its tasks and planned time. It follows
+// every change of the items and projects, and the clock's minutes.
+class DashboardView final : public QWidget {
+    Q_OBJECT
+public:
+    explicit DashboardView(const Services& services, QWidget* parent = nullptr);
+
+    const CircularProgress* circle(int index) const { return m_circles.at(std::size_t(index)); }
+    BarChart* chart() const { return m_chart; }
+    QTreeWidget* projects() const { return m_projects; }
+
+    void reload();
+
+private:
+    QWidget* makeCircles();
+    QWidget* makeChart();
+    QWidget* makeProjectTable();
+    void listenToChanges();
+
+    const Services& m_services;
+    std::array<CircularProgress*, 3> m_circles{};
+    BarChart* m_chart = nullptr;
+    QTreeWidget* m_projects = nullptr;
+};
+
+} // namespace lullet

@@ -10,7 +10,7 @@ packages=(
   xvfb xauth dbus dbus-x11 fonts-dejavu-core clang-format
   openbox xdotool x11-utils
   qtkeychain-qt6-dev libsecret-1-0 gnome-keyring
-  desktop-file-utils poppler-utils
+  desktop-file-utils poppler-utils xdg-utils
 )
 
 missing=()

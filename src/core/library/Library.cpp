@@ -82,6 +82,11 @@ Rule* Library::newRule()
     return context().insertRule();
 }
 
+QString Library::dataFolder() const
+{
+    return m_store.folder();
+}
+
 void Library::addItem(Item* item)
 {
     if (!contains(m_items, item))

@@ -35,6 +35,9 @@ public:
     const std::vector<Project*>& projects() const { return m_projects; }
     const std::vector<Rule*>& rules() const { return m_rules; }
 
+    // The folder of the store, where the program keeps its files.
+    QString dataFolder() const;
+
     // New records in the context; they join the lists through add...().
     Item* newItem();
     Project* newProject();

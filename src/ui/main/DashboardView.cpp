@@ -5,12 +5,17 @@
 #include "core/monitor/Monitor.h"
 #include "core/presentation/DashboardSummary.h"
 #include "core/presentation/RowTexts.h"
+#include "core/reports/Report.h"
+#include "ui/reports/ReportCommands.h"
 #include "ui/widgets/BarChart.h"
 #include "ui/widgets/CircularProgress.h"
 
+#include <QDir>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
+#include <QScrollArea>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -43,7 +48,16 @@ DashboardView::DashboardView(const Services& services, QWidget* parent)
     , m_services(services)
 {
     setObjectName(QStringLiteral("dashboard"));
-    auto* layout = new QVBoxLayout(this);
+    // In a small window the dashboard scrolls rather than asking the window for more room.
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    outer->addWidget(scroll);
+    auto* content = new QWidget(scroll);
+    scroll->setWidget(content);
+    auto* layout = new QVBoxLayout(content);
     layout->addWidget(makeCircles());
     layout->addWidget(makeChart(), 1);
     layout->addWidget(makeProjectTable(), 1);
@@ -62,7 +76,7 @@ QWidget* DashboardView::makeCircles()
         circle->setColor(look.color);
         circle->setTrackColor(faded(look.color));
         circle->setLineWidth(10);
-        circle->setMinimumSize(96, 96);
+        circle->setMinimumSize(72, 72);
         QFont big = circle->font();
         big.setPointSizeF(big.pointSizeF() * 1.8);
         big.setBold(true);
@@ -85,7 +99,7 @@ QWidget* DashboardView::makeChart()
     m_chart->setEmptyText(QStringLiteral("You need to provide data for the chart."));
     m_chart->setAutoFillBackground(true);
     m_chart->setBackgroundRole(QPalette::Base);
-    m_chart->setMinimumHeight(140);
+    m_chart->setMinimumHeight(100);
     return m_chart;
 }
 
@@ -101,6 +115,9 @@ QWidget* DashboardView::makeProjectTable()
     m_projects->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_projects->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     m_projects->header()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
+    m_projects->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_projects->setToolTip(tr("Right-click a project to print it, save it as PDF or mail it."));
+    connect(m_projects, &QWidget::customContextMenuRequested, this, &DashboardView::showExportMenu);
     return m_projects;
 }
 
@@ -138,9 +155,34 @@ void DashboardView::reload()
         item->setText(0, row.title);
         item->setText(1, QString::number(row.count));
         item->setText(2, RowTexts::getStringFromSeconds(int(row.plannedSeconds)));
+        item->setData(0, Qt::UserRole, QVariant::fromValue(static_cast<void*>(row.project)));
         item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
         item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
     }
+}
+
+void DashboardView::showExportMenu(const QPoint& pos)
+{
+    const QTreeWidgetItem* row = m_projects->itemAt(pos);
+    auto* project =
+        row ? static_cast<Project*>(row->data(0, Qt::UserRole).value<void*>()) : nullptr;
+    if (!project)
+        return;
+    const ReportCommands commands(
+        m_services.clock, QDir(m_services.library.dataFolder()).filePath(QStringLiteral("temp")));
+    const Report report = Report::ofProject(*project, m_services.clock, m_services.running);
+    const QString empty = ReportCommands::emptyProjectText();
+    QMenu menu(this);
+    QAction* print = menu.addAction(tr("Print…"));
+    QAction* pdf = menu.addAction(tr("Save as PDF…"));
+    QAction* mail = menu.addAction(tr("Mail…"));
+    const QAction* chosen = menu.exec(m_projects->viewport()->mapToGlobal(pos));
+    if (chosen == print)
+        commands.print(report, this, empty);
+    else if (chosen == pdf)
+        commands.savePdf(report, this, empty);
+    else if (chosen == mail)
+        commands.mail(report, this, empty);
 }
 
 } // namespace lullet

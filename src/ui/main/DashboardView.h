@@ -32,6 +32,8 @@ private:
     QWidget* makeChart();
     QWidget* makeProjectTable();
     void listenToChanges();
+    // Print, PDF and mail of the project of a row; the row of items in no project has none.
+    void showExportMenu(const QPoint& pos);
 
     const Services& m_services;
     std::array<CircularProgress*, 3> m_circles{};

@@ -11,12 +11,14 @@
 #include "core/presentation/RowTexts.h"
 #include "core/presentation/RunningStatus.h"
 #include "core/presentation/TaskStats.h"
+#include "core/reports/Report.h"
 #include "core/settings/Settings.h"
 #include "core/settings/SettingsKeys.h"
 #include "core/text/LocalizedText.h"
 #include "ui/main/ItemListModel.h"
 #include "ui/main/PostponePanel.h"
 #include "ui/main/StartButtonDelegate.h"
+#include "ui/reports/ReportCommands.h"
 #include "ui/widgets/BarChart.h"
 #include "ui/widgets/CircularProgress.h"
 #include "ui/widgets/Dialogs.h"
@@ -25,6 +27,7 @@
 #include "ui/widgets/StyledButton.h"
 
 #include <QCheckBox>
+#include <QDir>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -129,6 +132,7 @@ void ItemListView::buildSwitchRow(QVBoxLayout* texts, Project* project)
     });
     row->addWidget(ask);
     row->addStretch();
+    buildExportButton(row);
     if (project)
         buildProjectButtons(row, project);
     texts->addLayout(row);
@@ -156,6 +160,42 @@ void ItemListView::buildCounts(QVBoxLayout* texts)
     m_runningClock = new ElidedLabel(QString(), this);
     m_runningClock->setObjectName(QStringLiteral("runningClock"));
     texts->addWidget(m_runningClock);
+}
+
+// Print, PDF and mail of the list as it shows.
+void ItemListView::buildExportButton(QHBoxLayout* row)
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("export"));
+    button->setText(tr("Export"));
+    button->setPopupMode(QToolButton::InstantPopup);
+    auto* menu = new QMenu(button);
+    const QString emptyText = m_model->scope().project ? ReportCommands::emptyProjectText()
+                                                       : ReportCommands::emptyListText();
+    const ReportCommands commands(
+        m_services.clock, QDir(m_services.library.dataFolder()).filePath(QStringLiteral("temp")));
+    const std::pair<const char*,
+                    void (ReportCommands::*)(const Report&, QWidget*, const QString&) const>
+        actions[] = {
+            {QT_TR_NOOP("Print…"), &ReportCommands::print},
+            {QT_TR_NOOP("Save as PDF…"), &ReportCommands::savePdf},
+            {QT_TR_NOOP("Mail…"), &ReportCommands::mail},
+        };
+    for (const auto& [title, command] : actions) {
+        connect(menu->addAction(tr(title)), &QAction::triggered, this,
+                [this, commands, command, emptyText] {
+                    (commands.*command)(report(), this, emptyText);
+                });
+    }
+    button->setMenu(menu);
+    row->addWidget(button);
+}
+
+Report ItemListView::report() const
+{
+    const ListBuilder::Scope& scope = m_model->scope();
+    const QString title = scope.project ? scope.project->name().value_or(QString()) : scope.segment;
+    return Report::ofRows(title, m_model->rows(), m_services.clock, m_services.running);
 }
 
 // A project's own actions, in one small menu so that the header fits a narrow window.

@@ -19,6 +19,7 @@ class Item;
 class ItemListModel;
 class Project;
 class StyledButton;
+struct Report;
 struct Services;
 
 // A list of items: "Today", "Anytime", "Upcoming", "Completed" or a project's, with the header
@@ -39,6 +40,8 @@ public:
     QMenu* buildMenu(Item* item);
     // The postpone panel for the item, unless it runs (refused with a message) or is finished.
     void postpone(Item* item);
+    // The list as a report: its rows under its totals.
+    Report report() const;
     // Selects the item's row, if it is listed.
     void select(const Item* item);
     // The item of the current row, if any.
@@ -61,6 +64,7 @@ private:
     void buildCounts(QVBoxLayout* texts);
     void buildSwitchRow(QVBoxLayout* texts, Project* project);
     void buildProjectButtons(QHBoxLayout* row, Project* project);
+    void buildExportButton(QHBoxLayout* row);
     void buildTable(QVBoxLayout* layout);
     void listenToChanges();
     void addMoveAndDuplicate(QMenu* menu, Item* item);

@@ -43,6 +43,7 @@ MainView::MainView(const Services& services, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* splitter = new QSplitter(this);
+    m_splitter = splitter;
     splitter->addWidget(buildSidebar(splitter));
     splitter->addWidget(buildRightSide(splitter));
     // The sidebar keeps its width as the views change; the list takes what the window adds.
@@ -334,7 +335,13 @@ void MainView::dispatch(int index)
     }
     m_project = row.project;
     m_segment = row.project ? QStringLiteral("Project") : row.name;
+    // A new view must not move the sidebar: the splitter would otherwise hand back to it room
+    // that the last view had taken.
+    const QList<int> sizes = m_splitter->sizes();
     m_switcher->showView(Sidebar::viewFor(m_segment));
+    // Before the window is laid out the splitter holds the sizes it was given.
+    if (m_splitter->isVisible())
+        m_splitter->setSizes(sizes);
     // Meant for the list just made, if it was one.
     m_toSelect = nullptr;
 }

@@ -72,6 +72,7 @@ private:
     Sidebar m_sidebarRows;
     QLineEdit* m_searchField = nullptr;
     QListWidget* m_sidebar = nullptr;
+    QSplitter* m_splitter = nullptr;
     QLineEdit* m_newProject = nullptr;
     ViewSwitcher* m_switcher = nullptr;
     QuickAddView* m_quickAdd = nullptr;

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace lullet {
+
+class Clock;
+struct Report;
+
+// What the user can do with a report: save it as a PDF and open it, print it, or hand it to the
+// mail program. Each failure is said; an empty report is refused with the reason.
+class ReportCommands {
+public:
+    // `mailFolder` holds the one file that mail attaches, replaced each time.
+    ReportCommands(const Clock& clock, QString mailFolder);
+
+    // What a list says when it has nothing to report, and what a project says.
+    static QString emptyListText() { return QStringLiteral("There is no task data to export."); }
+    static QString emptyProjectText()
+    {
+        return QStringLiteral("There is no task data to export for this Project.");
+    }
+
+    void savePdf(const Report& report, QWidget* from, const QString& emptyText) const;
+    void print(const Report& report, QWidget* from, const QString& emptyText) const;
+    void mail(const Report& report, QWidget* from, const QString& emptyText) const;
+
+    // A4, or Letter where the locale measures in inches; false when the file can't be written.
+    static bool writePdf(const Report& report, const QString& path);
+
+private:
+    static bool refuseEmpty(const Report& report, QWidget* from, const QString& emptyText);
+
+    const Clock& m_clock;
+    QString m_mailFolder;
+};
+
+} // namespace lullet

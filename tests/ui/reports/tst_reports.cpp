@@ -1,0 +1,122 @@
+#include "core/activity/ProjectActions.h"
+#include "core/model/Project.h"
+#include "core/reports/Report.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+#include "ui/reports/ReportCommands.h"
+#include "ui/widgets/Dialogs.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+// Reports: what they hold, and the PDF read back as a reader would.
+class TestReports : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    static QString pdfText(const QString& path)
+    {
+        QProcess reader;
+        reader.start(QStringLiteral("pdftotext"),
+                     {QStringLiteral("-layout"), path, QStringLiteral("-")});
+        if (!reader.waitForFinished(20000) || reader.exitCode() != 0)
+            return {};
+        return QString::fromUtf8(reader.readAllStandardOutput());
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        useTestCalendar();
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 0));
+        QVERIFY(m_app->open());
+        Dialogs::forgetAsked();
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    // A project's report: its items by day, the undated last, under totals; on paper, page
+    // after page, every heading and row readable.
+    void aProjectReportOnPaper()
+    {
+        QVERIFY2(!QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty(),
+                 "pdftotext (poppler-utils) is needed");
+        const Services& s = m_app->services();
+        Project* garden =
+            s.projectActions.addProject(QStringLiteral("Garden with a rather long name")).project;
+        for (int i = 0; i < 60; ++i) {
+            Item* item = m_app->addItem(QStringLiteral("Weed bed %1").arg(i),
+                                        at(2026, 11, 24 + i / 20, 9, i % 20));
+            item->setToProject(garden);
+            item->setDurationMin(15);
+            if (i < 6)
+                item->setHasFinished(true);
+        }
+        m_app->addItem(QStringLiteral("Buy seeds"), std::nullopt)->setToProject(garden);
+
+        const Report report = Report::ofProject(*garden, s.clock, s.running);
+        QCOMPARE(report.stats.totalCount, 61);
+        QCOMPARE(report.headCounts(),
+                 QStringList({QStringLiteral("Tasks: 61"), QStringLiteral("Complete: 6"),
+                              QStringLiteral("Due: 55"), QStringLiteral("Today: 0")}));
+        QCOMPARE(report.rows.back().title, QStringLiteral("Buy seeds"));
+
+        const QString path = m_dir->filePath(QStringLiteral("garden.pdf"));
+        QVERIFY(ReportCommands::writePdf(report, path));
+        // For review, beside the pictures of the windows.
+        if (const QString shots = qEnvironmentVariable("LULLET_SHOTS"); !shots.isEmpty())
+            QFile::copy(path, shots + QStringLiteral("/report.pdf"));
+        const QString text = pdfText(path);
+        QVERIFY(text.contains(QStringLiteral("Garden with a rather long name")));
+        QVERIFY(text.contains(QStringLiteral("Tasks: 61")));
+        QVERIFY(text.contains(QStringLiteral("Due: 55")));
+        QVERIFY(text.contains(QStringLiteral("Weed bed 59")));
+        QVERIFY(text.contains(QStringLiteral("Anytime")));
+        QVERIFY(text.contains(QStringLiteral("Page 3")));
+        // Every day's heading, in order.
+        const qsizetype first = text.indexOf(QStringLiteral("Tue 24, Nov 2026"));
+        const qsizetype second = text.indexOf(QStringLiteral("Wed 25, Nov 2026"));
+        QVERIFY(first >= 0 && second > first);
+    }
+
+    // Nothing to report is said rather than written; the proposed name suits any file system.
+    void emptyReportsAndFileNames()
+    {
+        ReportCommands commands(m_app->services().clock, m_dir->filePath(QStringLiteral("temp")));
+        const Report empty = Report::ofRows(QStringLiteral("Today"), {}, m_app->services().clock,
+                                            m_app->services().running);
+        Dialogs::answerNext(0);
+        Dialogs::answerNext(0);
+        commands.savePdf(empty, nullptr, ReportCommands::emptyListText());
+        QCOMPARE(Dialogs::asked().size(), 1);
+        QCOMPARE(Dialogs::asked().front().text, QStringLiteral("Oops!"));
+        QCOMPARE(Dialogs::asked().front().information,
+                 QStringLiteral("There is no task data to export."));
+        QCOMPARE(Dialogs::asked().front().buttons, QStringList{QStringLiteral("Ok")});
+        commands.mail(empty, nullptr, ReportCommands::emptyProjectText());
+        QVERIFY(!QFile::exists(m_dir->filePath(QStringLiteral("temp/LulletReport.pdf"))));
+
+        const QString name = Report::proposedFileName(at(2026, 11, 23, 14, 5, 9));
+        QVERIFY(name.startsWith(QStringLiteral("Lullet -")));
+        QVERIFY(name.endsWith(QStringLiteral(".pdf")));
+        for (const QChar bad : {QChar(u':'), QChar(u'/'), QChar(0x202F), QChar(0x00A0)})
+            QVERIFY2(!name.contains(bad), qPrintable(name));
+    }
+};
+
+LULLET_TEST_MAIN_WITH(QApplication, TestReports)
+#include "tst_reports.moc"

@@ -128,37 +128,48 @@ void paintHead(QPainter& painter, Pages& pages, const Report& report)
     pages.advance(84);
 }
 
-void paintHeading(QPainter& painter, Pages& pages, const ListRow& row)
+void paintHeading(QPainter& painter, Pages& pages, const ListRow& row, const QFont& font)
 {
     const QRectF area(pages.left(), pages.y(), ReportPainter::contentWidth, headingHeight - 4);
     painter.fillRect(area, band);
     painter.setPen(ink);
-    painter.setFont(sized(11, true));
+    painter.setFont(font);
     const QString text =
         row.title == QStringLiteral("AnyTime") ? QStringLiteral("Anytime") : row.title;
     painter.drawText(area.adjusted(8, 0, -8, 0), Qt::AlignLeft | Qt::AlignVCenter, text);
     pages.advance(headingHeight);
 }
 
-void paintItem(QPainter& painter, Pages& pages, const ListRow& row)
+// The fonts of the rows, and their measures, made once for the whole report.
+struct RowFonts {
+    QFont heading = sized(11, true);
+    QFont title = sized(11, true);
+    QFont detail = sized(9);
+    QFontMetricsF titleMetrics{title};
+    QFontMetricsF detailMetrics{detail};
+};
+
+void paintItem(QPainter& painter, Pages& pages, const ListRow& row, const RowFonts& fonts)
 {
     const double left = pages.left() + 8;
     const double textWidth = ReportPainter::contentWidth - 8 - 150;
     const double y = pages.y();
     painter.setPen(ink);
-    painter.setFont(sized(11, true));
-    const QFontMetricsF titleMetrics(painter.font());
+    painter.setFont(fonts.title);
     painter.drawText(QRectF(left, y, textWidth, 16), Qt::AlignLeft | Qt::AlignVCenter,
-                     titleMetrics.elidedText(row.title, Qt::ElideRight, textWidth));
-    painter.setFont(sized(9));
+                     fonts.titleMetrics.elidedText(row.title, Qt::ElideRight, textWidth));
+    painter.setFont(fonts.detail);
     painter.setPen(quiet);
     const QString detail =
         row.projectName.isEmpty() ? row.time : row.projectName + QStringLiteral("  ·  ") + row.time;
     painter.drawText(QRectF(left, y + 17, textWidth, 14), Qt::AlignLeft | Qt::AlignVCenter,
-                     QFontMetricsF(painter.font()).elidedText(detail, Qt::ElideRight, textWidth));
+                     fonts.detailMetrics.elidedText(detail, Qt::ElideRight, textWidth));
     const QRectF times(left + textWidth, y, 142, 31);
-    painter.drawText(times, Qt::AlignRight | Qt::AlignTop, row.duration);
-    painter.drawText(times, Qt::AlignRight | Qt::AlignBottom, row.timeUsed);
+    // Text is what a PDF costs most: an empty one is not drawn at all.
+    if (!row.duration.isEmpty())
+        painter.drawText(times, Qt::AlignRight | Qt::AlignTop, row.duration);
+    if (!row.timeUsed.isEmpty())
+        painter.drawText(times, Qt::AlignRight | Qt::AlignBottom, row.timeUsed);
     pages.advance(itemHeight);
 }
 
@@ -171,15 +182,16 @@ bool ReportPainter::paint(const Report& report, QPagedPaintDevice& device)
         return false;
     Pages pages(painter, device);
     paintHead(painter, pages, report);
+    const RowFonts fonts;
     for (const ListRow& row : report.rows) {
         const bool heading = row.type == ListRow::DayHeading;
         // A heading keeps its first row with it.
         if (!pages.makeRoom(heading ? headingHeight + itemHeight : itemHeight))
             return false;
         if (heading)
-            paintHeading(painter, pages, row);
+            paintHeading(painter, pages, row, fonts.heading);
         else
-            paintItem(painter, pages, row);
+            paintItem(painter, pages, row, fonts);
     }
     pages.finish();
     return painter.end();

@@ -24,6 +24,14 @@ ItemListModel::ItemListModel(const Clock& clock, const Library& library, const R
     reload();
 }
 
+void ItemListModel::setShowRunningOnly(bool only)
+{
+    if (m_scope.showRunningOnly == only)
+        return;
+    m_scope.showRunningOnly = only;
+    reload();
+}
+
 void ItemListModel::reload()
 {
     beginResetModel();

@@ -26,6 +26,8 @@ public:
 
     // Builds the rows anew from the shared list.
     void reload();
+    // Keeps only the items that have been started, or lists all again.
+    void setShowRunningOnly(bool only);
     // The texts of every row are out of date, as the minute passes.
     void refreshTexts();
     // The texts of the one item's row are out of date, if it is listed.

@@ -100,6 +100,9 @@ void ItemListView::buildHeader(QVBoxLayout* layout)
     header->addWidget(m_status, 0, Qt::AlignVCenter);
     m_progress = new CircularProgress(this);
     m_progress->setColor(*HexColor::fromHex(ongoingColor));
+    QColor track = *HexColor::fromHex(ongoingColor);
+    track.setAlphaF(0.1f);
+    m_progress->setTrackColor(track);
     m_progress->setLineWidth(8);
     m_progress->setFixedSize(72, 72);
     header->addWidget(m_progress);
@@ -131,6 +134,13 @@ void ItemListView::buildSwitchRow(QVBoxLayout* texts, Project* project)
             m_services.monitor.askWhatNow();
     });
     row->addWidget(ask);
+    if (!m_model->scope().isCustomListing()) {
+        auto* runningOnly = new QCheckBox(tr("Started only"), this);
+        runningOnly->setObjectName(QStringLiteral("showRunningOnly"));
+        runningOnly->setToolTip(tr("List only the items that have been started"));
+        connect(runningOnly, &QCheckBox::toggled, m_model, &ItemListModel::setShowRunningOnly);
+        row->addWidget(runningOnly);
+    }
     row->addStretch();
     buildExportButton(row);
     if (project)

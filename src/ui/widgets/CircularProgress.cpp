@@ -11,7 +11,7 @@ CircularProgress::CircularProgress(QWidget* parent)
     : QWidget(parent)
     , m_animation(new QVariantAnimation(this))
 {
-    m_animation->setDuration(300);
+    m_animation->setDuration(200);
     m_animation->setEasingCurve(QEasingCurve::OutCubic);
     connect(m_animation, &QVariantAnimation::valueChanged, this, [this](const QVariant& v) {
         m_shown = v.toDouble();

@@ -25,6 +25,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -219,6 +220,24 @@ private Q_SLOTS:
         QCOMPARE(list->model().index(selected.front().row(), 1).data().toString(),
                  QStringLiteral("Walk the dog"));
         QCOMPARE(selected.front().row(), 1);
+    }
+
+    // "Started only" keeps the started items, and the header counts what is listed.
+    void theStartedOnlyFilter()
+    {
+        app().addItem(QStringLiteral("Call the vet"), at(2026, 11, 25, 17, 0))->setHasStarted(true);
+        MainView view(app().services());
+        view.show();
+        auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
+        QVERIFY(list);
+        const int all = list->model().rowCount();
+        list->findChild<QCheckBox*>(QStringLiteral("showRunningOnly"))->click();
+        QCOMPARE(list->model().rowCount(), 1);
+        QVERIFY(list->model().rowCount() < all);
+        QCOMPARE(list->findChild<QLabel*>(QStringLiteral("taskCount"))->text(),
+                 QStringLiteral("Tasks: 1"));
+        list->findChild<QCheckBox*>(QStringLiteral("showRunningOnly"))->click();
+        QCOMPARE(list->model().rowCount(), all);
     }
 
     // The dashboard counts what the store holds and follows a change at once.

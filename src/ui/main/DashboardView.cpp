@@ -10,7 +10,6 @@
 #include "ui/widgets/BarChart.h"
 #include "ui/widgets/CircularProgress.h"
 
-#include <QDir>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -168,21 +167,15 @@ void DashboardView::showExportMenu(const QPoint& pos)
         row ? static_cast<Project*>(row->data(0, Qt::UserRole).value<void*>()) : nullptr;
     if (!project)
         return;
-    const ReportCommands commands(
-        m_services.clock, QDir(m_services.library.dataFolder()).filePath(QStringLiteral("temp")));
-    const Report report = Report::ofProject(*project, m_services.clock, m_services.running);
-    const QString empty = ReportCommands::emptyProjectText();
     QMenu menu(this);
-    QAction* print = menu.addAction(tr("Print…"));
-    QAction* pdf = menu.addAction(tr("Save as PDF…"));
-    QAction* mail = menu.addAction(tr("Mail…"));
-    const QAction* chosen = menu.exec(m_projects->viewport()->mapToGlobal(pos));
-    if (chosen == print)
-        commands.print(report, this, empty);
-    else if (chosen == pdf)
-        commands.savePdf(report, this, empty);
-    else if (chosen == mail)
-        commands.mail(report, this, empty);
+    const ReportCommands commands(m_services.clock, m_services.library);
+    commands.addActions(
+        &menu, this,
+        [this, project] {
+            return Report::ofProject(*project, m_services.clock, m_services.running);
+        },
+        ReportCommands::emptyProjectText());
+    menu.exec(m_projects->viewport()->mapToGlobal(pos));
 }
 
 } // namespace lullet

@@ -27,7 +27,6 @@
 #include "ui/widgets/StyledButton.h"
 
 #include <QCheckBox>
-#include <QDir>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -180,23 +179,11 @@ void ItemListView::buildExportButton(QHBoxLayout* row)
     button->setText(tr("Export"));
     button->setPopupMode(QToolButton::InstantPopup);
     auto* menu = new QMenu(button);
-    const QString emptyText = m_model->scope().project ? ReportCommands::emptyProjectText()
-                                                       : ReportCommands::emptyListText();
-    const ReportCommands commands(
-        m_services.clock, QDir(m_services.library.dataFolder()).filePath(QStringLiteral("temp")));
-    const std::pair<const char*,
-                    void (ReportCommands::*)(const Report&, QWidget*, const QString&) const>
-        actions[] = {
-            {QT_TR_NOOP("Print…"), &ReportCommands::print},
-            {QT_TR_NOOP("Save as PDF…"), &ReportCommands::savePdf},
-            {QT_TR_NOOP("Mail…"), &ReportCommands::mail},
-        };
-    for (const auto& [title, command] : actions) {
-        connect(menu->addAction(tr(title)), &QAction::triggered, this,
-                [this, commands, command, emptyText] {
-                    (commands.*command)(report(), this, emptyText);
-                });
-    }
+    const ReportCommands commands(m_services.clock, m_services.library);
+    commands.addActions(
+        menu, this, [this] { return report(); },
+        m_model->scope().project ? ReportCommands::emptyProjectText()
+                                 : ReportCommands::emptyListText());
     button->setMenu(menu);
     row->addWidget(button);
 }

@@ -1,6 +1,7 @@
 #include "ui/reports/ReportCommands.h"
 
 #include "core/dates/Clock.h"
+#include "core/library/Library.h"
 #include "core/reports/Report.h"
 #include "ui/desktop/FileManager.h"
 #include "ui/reports/ReportPainter.h"
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLocale>
+#include <QMenu>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QPointer>
@@ -41,6 +43,28 @@ ReportCommands::ReportCommands(const Clock& clock, QString mailFolder)
     : m_clock(clock)
     , m_mailFolder(std::move(mailFolder))
 {
+}
+
+ReportCommands::ReportCommands(const Clock& clock, const Library& library)
+    : ReportCommands(clock, QDir(library.dataFolder()).filePath(QStringLiteral("temp")))
+{
+}
+
+void ReportCommands::addActions(QMenu* menu, QWidget* from, std::function<Report()> make,
+                                const QString& emptyText) const
+{
+    using Command = void (ReportCommands::*)(const Report&, QWidget*, const QString&) const;
+    const std::pair<QString, Command> actions[] = {
+        {QObject::tr("Print…"), &ReportCommands::print},
+        {QObject::tr("Save as PDF…"), &ReportCommands::savePdf},
+        {QObject::tr("Mail…"), &ReportCommands::mail},
+    };
+    for (const auto& [title, command] : actions) {
+        QObject::connect(menu->addAction(title), &QAction::triggered, from,
+                         [commands = *this, command, from, make, emptyText] {
+                             (commands.*command)(make(), from, emptyText);
+                         });
+    }
 }
 
 bool ReportCommands::refuseEmpty(const Report& report, QWidget* from, const QString& emptyText)

@@ -31,6 +31,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
@@ -238,6 +239,18 @@ private Q_SLOTS:
                  QStringLiteral("Tasks: 1"));
         list->findChild<QCheckBox*>(QStringLiteral("showRunningOnly"))->click();
         QCOMPARE(list->model().rowCount(), all);
+
+        // An empty list has nothing to export, and says so.
+        view.selectSegment(QStringLiteral("Anytime"));
+        auto* anytime = qobject_cast<ItemListView*>(view.switcher().currentWidget());
+        QMenu* exportMenu = anytime->findChild<QToolButton*>(QStringLiteral("export"))->menu();
+        QCOMPARE(exportMenu->actions().size(), 3);
+        Dialogs::forgetAsked();
+        Dialogs::answerNext(0);
+        exportMenu->actions().at(1)->trigger();
+        QCOMPARE(Dialogs::asked().size(), 1);
+        QCOMPARE(Dialogs::asked().front().information,
+                 QStringLiteral("There is no task data to export."));
     }
 
     // The dashboard counts what the store holds and follows a change at once.

@@ -11,6 +11,7 @@ packages=(
   openbox xdotool x11-utils
   qtkeychain-qt6-dev libsecret-1-0 gnome-keyring
   desktop-file-utils poppler-utils xdg-utils
+  appstream librsvg2-bin dpkg-dev libxcb1-dev
 )
 
 missing=()

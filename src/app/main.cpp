@@ -1,3 +1,4 @@
+#include "app/CommandLine.h"
 #include "core/activity/RunningItem.h"
 #include "core/app/AppController.h"
 #include "core/dates/Clock.h"
@@ -6,23 +7,27 @@
 #include "core/scheduling/WorkingSchedule.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
+#include "ui/desktop/AppId.h"
 #include "ui/desktop/Autostart.h"
+#include "ui/desktop/DesktopNotifier.h"
 #include "ui/desktop/DesktopPresence.h"
 #include "ui/desktop/KeyringSecretStore.h"
+#include "ui/desktop/PlatformChoice.h"
 #include "ui/desktop/ScreenSaverInhibitor.h"
 #include "ui/desktop/SingleInstance.h"
 #include "ui/desktop/TerminationSignals.h"
+#include "ui/desktop/TrayIconPainter.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/Shell.h"
 #include "ui/widgets/Dialogs.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QSystemTrayIcon>
 #include <QTimer>
 
 #include <chrono>
 #include <cstdio>
-#include <cstring>
 #include <malloc.h>
 #include <memory>
 #include <sys/stat.h>
@@ -30,33 +35,6 @@
 using namespace lullet;
 
 namespace {
-
-struct Options {
-    // A desktop shortcut's request to add a task from anywhere.
-    bool quickAdd = false;
-    // A launch at login: the program starts in the tray, its window made when first asked for.
-    bool inTray = false;
-    // Started by the instance before it, which is ending: its lock is waited for.
-    bool relaunch = false;
-};
-
-// Read before any window system is touched, so a wrong option is told even without a display.
-int parseOptions(int argc, char* argv[], Options& options)
-{
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--quick-add") == 0) {
-            options.quickAdd = true;
-        } else if (std::strcmp(argv[i], "--in-tray") == 0) {
-            options.inTray = true;
-        } else if (std::strcmp(argv[i], "--relaunch") == 0) {
-            options.relaunch = true;
-        } else {
-            std::fprintf(stderr, "Usage: lullet [--quick-add] [--in-tray] [--relaunch]\n");
-            return 2;
-        }
-    }
-    return 0;
-}
 
 // A launch that can't go on says why: on the terminal, and in a panel where there is a screen.
 int endLaunch(const QString& why)
@@ -148,14 +126,17 @@ int main(int argc, char* argv[])
     // and every file the program makes is the user's alone.
     TerminationSignals::install();
     ::umask(077);
-    Options options;
-    if (const int status = parseOptions(argc, argv, options))
+    CommandLine options;
+    if (const int status = CommandLine::parse(argc, argv, options); status >= 0)
         return status;
 
+    PlatformChoice::apply();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lullet"));
     QApplication::setApplicationVersion(QStringLiteral(PROJECT_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("lullet"));
+    QApplication::setDesktopFileName(QLatin1String(appId));
+    // The installed icon; run from the build tree, the tray's drawing stands in.
+    QApplication::setWindowIcon(QIcon::fromTheme(QLatin1String(appId), TrayIconPainter::make()));
     // The program lives in the tray; closing the window only hides it.
     app.setQuitOnLastWindowClosed(false);
     TerminationSignals termination;
@@ -186,7 +167,12 @@ int main(int argc, char* argv[])
     DesktopPresence presence(settings, autostart, QSystemTrayIcon::isSystemTrayAvailable(),
                              program);
     MainWindow window;
-    Shell shell(core.services(), window, presence);
+    // Qt tells of no tray coming or going; each minute's pass looks again.
+    QObject::connect(&core.services().monitor, &Monitor::minutePassed, &presence, [&presence] {
+        presence.setTrayAvailable(QSystemTrayIcon::isSystemTrayAvailable());
+    });
+    DesktopNotifier notifier;
+    Shell shell(core.services(), window, presence, notifier);
     shell.showTray();
     QObject::connect(&instance, &SingleInstance::requestReceived, &app, [&](const QString& r) {
         if (r == QLatin1String(SingleInstance::quickAddRequest))

@@ -154,8 +154,27 @@ private Q_SLOTS:
                  QFileDevice::Permissions(owner | QFileDevice::ExeOwner));
     }
 
-    void aWrongOptionNeedsNoDisplay()
+    // Help, the version and a wrong option are answered without a display.
+    void theCommandLineNeedsNoDisplay_data()
     {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("out");
+        QTest::addColumn<QByteArray>("error");
+        QTest::newRow("help") << "--help" << 0 << QByteArray("--quick-add  open the quick-add")
+                              << QByteArray();
+        QTest::newRow("version") << "--version" << 0 << QByteArray("lullet " PROJECT_VERSION "\n")
+                                 << QByteArray();
+        QTest::newRow("wrong") << "--bogus" << 2 << QByteArray()
+                               << QByteArray("unknown option '--bogus'\nUsage: lullet");
+    }
+
+    void theCommandLineNeedsNoDisplay()
+    {
+        QFETCH(QString, option);
+        QFETCH(int, status);
+        QFETCH(QByteArray, out);
+        QFETCH(QByteArray, error);
         QTemporaryDir home;
         QProcessEnvironment env = environmentFor(home.path());
         env.remove(QStringLiteral("DISPLAY"));
@@ -163,11 +182,17 @@ private Q_SLOTS:
         env.remove(QStringLiteral("QT_QPA_PLATFORM"));
         QProcess lullet;
         lullet.setProcessEnvironment(env);
-        lullet.start(QStringLiteral(LULLET_BINARY), {QStringLiteral("--bogus")});
+        lullet.start(QStringLiteral(LULLET_BINARY), {option});
         QVERIFY(lullet.waitForFinished(10000));
         QCOMPARE(lullet.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(lullet.exitCode(), 2);
-        QVERIFY(lullet.readAllStandardError().contains("Usage: lullet"));
+        QCOMPARE(lullet.exitCode(), status);
+        const QByteArray printed = lullet.readAllStandardOutput();
+        const QByteArray complained = lullet.readAllStandardError();
+        QVERIFY2(printed.contains(out), printed.constData());
+        QVERIFY2(complained.contains(error), complained.constData());
+        // Nothing was made in the home folder besides the test's runtime folder.
+        QCOMPARE(QDir(home.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 QStringList{QStringLiteral("runtime")});
     }
 
     void aFileInPlaceOfTheDataFolderEndsAtOnce()

@@ -1,5 +1,7 @@
 #include "ui/desktop/Autostart.h"
 
+#include "ui/desktop/AppId.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -12,7 +14,7 @@ QString Autostart::defaultPath()
     QString config = qEnvironmentVariable("XDG_CONFIG_HOME");
     if (config.isEmpty() || QDir::isRelativePath(config))
         config = QDir::home().filePath(QStringLiteral(".config"));
-    return QDir(config).filePath(QStringLiteral("autostart/lullet.desktop"));
+    return QDir(config).filePath(QStringLiteral("autostart/%1.desktop").arg(QLatin1String(appId)));
 }
 
 Autostart::Autostart(QString entryPath, QString program)
@@ -62,10 +64,10 @@ bool Autostart::write()
                                         "Name=Lullet\n"
                                         "Comment=Start Lullet in the tray when you log in\n"
                                         "Exec=%1 --in-tray\n"
-                                        "Icon=lullet\n"
+                                        "Icon=%2\n"
                                         "Terminal=false\n"
                                         "X-GNOME-Autostart-enabled=true\n")
-                             .arg(quotedProgram(m_program));
+                             .arg(quotedProgram(m_program), QLatin1String(appId));
     QSaveFile file(m_path);
     if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0 || !file.commit()) {
         m_error = QStringLiteral("Cannot write %1: %2").arg(m_path, file.errorString());

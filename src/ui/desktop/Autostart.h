@@ -8,8 +8,8 @@ namespace lullet {
 // presence is the truth: the desktop's own startup settings may remove it behind our back.
 class Autostart {
 public:
-    // "lullet.desktop" in "autostart" below $XDG_CONFIG_HOME, or below ~/.config when that is
-    // unset or not an absolute path.
+    // The entry named after the program's id in "autostart" below $XDG_CONFIG_HOME, or below
+    // ~/.config when that is unset or not an absolute path.
     static QString defaultPath();
 
     // `program` is the executable the entry starts.

@@ -70,6 +70,14 @@ void DesktopPresence::setTrayIconShown(bool shown)
         Q_EMIT trayIconShownChanged(trayIconUsable());
 }
 
+void DesktopPresence::setTrayAvailable(bool available)
+{
+    const bool wasUsable = trayIconUsable();
+    m_trayAvailable = available;
+    if (trayIconUsable() != wasUsable)
+        Q_EMIT trayIconShownChanged(trayIconUsable());
+}
+
 bool DesktopPresence::windowAtLaunch(bool trayOnlyAsked) const
 {
     if (!trayIconUsable())

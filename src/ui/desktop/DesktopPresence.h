@@ -36,6 +36,9 @@ public:
     // Off is refused, and the choice set back on, while the window stays out of the taskbar.
     void setTrayIconShown(bool shown);
 
+    // The desktop's tray came or went: a panel restarted, an extension switched on or off.
+    void setTrayAvailable(bool available);
+
     // Whether a launch shows the window: asked to start in the tray, it still does when the
     // user keeps it in the taskbar or when the icon can't be seen.
     bool windowAtLaunch(bool trayOnlyAsked) const;

@@ -40,12 +40,20 @@ void ReminderPromptView::buildDueSection(QVBoxLayout* layout)
     actions->addWidget(later10);
     actions->addWidget(later30);
     layout->addLayout(actions);
-    connect(start, &QPushButton::clicked, this,
-            [this] { respond([this] { return m_prompt.start(); }); });
-    connect(later10, &QPushButton::clicked, this,
-            [this] { respond([this] { return m_prompt.postpone10(); }); });
+    connect(start, &QPushButton::clicked, this, &ReminderPromptView::start);
+    connect(later10, &QPushButton::clicked, this, &ReminderPromptView::postpone10);
     connect(later30, &QPushButton::clicked, this,
             [this] { respond([this] { return m_prompt.postpone30(); }); });
+}
+
+void ReminderPromptView::start()
+{
+    respond([this] { return m_prompt.start(); });
+}
+
+void ReminderPromptView::postpone10()
+{
+    respond([this] { return m_prompt.postpone10(); });
 }
 
 // The question on the item still running, shown only when there is one.

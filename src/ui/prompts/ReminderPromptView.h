@@ -18,6 +18,10 @@ public:
 
     const ReminderPrompt& prompt() const { return m_prompt; }
 
+    // The answers of the "Start" and "In 10 min" buttons, also given from a notification.
+    void start();
+    void postpone10();
+
 private:
     void buildDueSection(QVBoxLayout* layout);
     void buildPreviousSection(QVBoxLayout* layout);

@@ -11,6 +11,7 @@
 #include "core/settings/Settings.h"
 #include "core/settings/SettingsKeys.h"
 #include "ui/authoring/QuickAddView.h"
+#include "ui/desktop/ActiveWindow.h"
 #include "ui/desktop/DesktopPresence.h"
 #include "ui/desktop/FileManager.h"
 #include "ui/help/ContactWindow.h"
@@ -23,6 +24,7 @@
 #include "ui/prompts/TimeOverPromptView.h"
 #include "ui/prompts/TodoPromptView.h"
 #include "ui/shell/MainWindow.h"
+#include "ui/shell/ReminderNotice.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/Tray.h"
 #include "ui/shell/WindowContent.h"
@@ -58,13 +60,23 @@ void bringForward(QWidget* window)
 } // namespace
 
 Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& presence,
-             QObject* parent)
+             DesktopNotifier& notifier, QObject* parent)
     : QObject(parent)
     , m_services(services)
     , m_window(window)
     , m_presence(presence)
     , m_tray(new Tray(window, this))
+    , m_reminderNotice(new ReminderNotice(
+          notifier,
+          [this] {
+              return !m_presence.trayIconUsable() || ActiveWindow::isOtherProgramFullScreen();
+          },
+          this))
 {
+    connect(m_reminderNotice, &ReminderNotice::promptWanted, this, [this] {
+        if (Popover* open = m_tray->popover())
+            open->activate();
+    });
     connect(m_tray, &Tray::clicked, this, &Shell::onTrayClicked);
     connect(m_tray, &Tray::dismissRequested, this, &Shell::dismissPopover);
     connect(m_tray, &Tray::retiring, this, &Shell::onRetiring);
@@ -348,6 +360,7 @@ void Shell::onAnswered(PromptOutcome outcome)
 
 void Shell::onRetiring(QWidget* content)
 {
+    m_reminderNotice->retire(content);
     // An idle question that goes unanswered hands its gap to the next question, before that one
     // is made.
     if (auto* idle = qobject_cast<IdlePromptView*>(content))
@@ -358,7 +371,11 @@ void Shell::showReminder(Item* due, Item* previous)
 {
     if (gone(due) || gone(previous))
         return;
-    showPrompt([this, due, previous] { return new ReminderPromptView(m_services, due, previous); });
+    showPrompt([this, due, previous] {
+        auto* view = new ReminderPromptView(m_services, due, previous);
+        m_reminderNotice->announce(view);
+        return view;
+    });
 }
 
 void Shell::askIdleQuestion(Date since, bool askNow)

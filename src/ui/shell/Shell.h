@@ -14,6 +14,7 @@ namespace lullet {
 
 class BackupCommands;
 class ContactWindow;
+class DesktopNotifier;
 class DesktopPresence;
 class HelpWindow;
 class Item;
@@ -21,6 +22,7 @@ class MainWindow;
 class PreferencesWindow;
 class Project;
 class QuickAddView;
+class ReminderNotice;
 class Tray;
 class WindowContent;
 struct Services;
@@ -31,7 +33,7 @@ class Shell final : public QObject {
     Q_OBJECT
 public:
     Shell(const Services& services, MainWindow& window, DesktopPresence& presence,
-          QObject* parent = nullptr);
+          DesktopNotifier& notifier, QObject* parent = nullptr);
     ~Shell() override;
 
     Tray& tray() { return *m_tray; }
@@ -96,6 +98,7 @@ private:
     MainWindow& m_window;
     DesktopPresence& m_presence;
     Tray* m_tray;
+    ReminderNotice* m_reminderNotice;
     WindowContent* m_content = nullptr;
     QPointer<QuickAddView> m_quickAddWindow;
     QPointer<PreferencesWindow> m_preferences;

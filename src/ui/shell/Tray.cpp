@@ -59,6 +59,9 @@ void Tray::showIcon(QMenu* menu, bool visible)
 
 void Tray::setIconVisible(bool visible)
 {
+    // Without the icon, prompts open near the top right of the screen, not where it once was.
+    if (!visible)
+        m_lastClick = QPoint();
     if (m_icon)
         m_icon->setVisible(visible);
 }

@@ -2,6 +2,7 @@
 #include "support/TestMain.h"
 #include "ui/desktop/Autostart.h"
 #include "ui/desktop/DesktopPresence.h"
+#include "ui/desktop/PlatformChoice.h"
 
 #include <QDir>
 #include <QFile>
@@ -58,13 +59,14 @@ private Q_SLOTS:
     void theEntryFollowsTheConfigurationFolder()
     {
         ::setenv("XDG_CONFIG_HOME", qPrintable(path(QStringLiteral("config"))), 1);
-        QCOMPARE(Autostart::defaultPath(), path(QStringLiteral("config/autostart/lullet.desktop")));
+        QCOMPARE(Autostart::defaultPath(),
+                 path(QStringLiteral("config/autostart/org.lullet.Lullet.desktop")));
         ::setenv("XDG_CONFIG_HOME", "relative/config", 1);
-        QCOMPARE(Autostart::defaultPath(),
-                 QDir::home().filePath(QStringLiteral(".config/autostart/lullet.desktop")));
+        QCOMPARE(Autostart::defaultPath(), QDir::home().filePath(QStringLiteral(
+                                               ".config/autostart/org.lullet.Lullet.desktop")));
         ::unsetenv("XDG_CONFIG_HOME");
-        QCOMPARE(Autostart::defaultPath(),
-                 QDir::home().filePath(QStringLiteral(".config/autostart/lullet.desktop")));
+        QCOMPARE(Autostart::defaultPath(), QDir::home().filePath(QStringLiteral(
+                                               ".config/autostart/org.lullet.Lullet.desktop")));
     }
 
     // Written valid, with a program path that needs every kind of quoting, and removed again.
@@ -147,7 +149,8 @@ private Q_SLOTS:
         QCOMPARE(windowWanted.count(), 1);
     }
 
-    // A desktop with no tray shows the window whatever the settings say.
+    // A desktop with no tray shows the window whatever the settings say; a tray that comes
+    // later is used, and one that goes is told.
     void withoutATrayTheWindowShows()
     {
         Settings settings(path(QStringLiteral("Lullet.conf")));
@@ -155,8 +158,52 @@ private Q_SLOTS:
         Autostart autostart(path(QStringLiteral("autostart/lullet.desktop")),
                             QStringLiteral("/usr/bin/lullet"));
         DesktopPresence presence(settings, autostart, false, QStringLiteral("/bin/true"));
+        QSignalSpy trayChanged(&presence, &DesktopPresence::trayIconShownChanged);
         QVERIFY(!presence.trayIconUsable());
         QVERIFY(presence.windowAtLaunch(true));
+        presence.setTrayAvailable(false);
+        QCOMPARE(trayChanged.count(), 0);
+        presence.setTrayAvailable(true);
+        QCOMPARE(trayChanged.count(), 1);
+        QCOMPARE(trayChanged.last().at(0).toBool(), true);
+        QVERIFY(!presence.windowAtLaunch(true));
+        presence.setTrayAvailable(false);
+        QCOMPARE(trayChanged.last().at(0).toBool(), false);
+        QVERIFY(presence.windowAtLaunch(true));
+    }
+
+    // XWayland is chosen on a Wayland session that has it, unless the user chose a platform.
+    void theSessionChoosesThePlatform_data()
+    {
+        QTest::addColumn<QString>("wayland");
+        QTest::addColumn<QString>("display");
+        QTest::addColumn<QString>("platform");
+        QTest::addColumn<QByteArray>("chosen");
+        QTest::newRow("X11") << ""
+                             << ":0"
+                             << "" << QByteArray();
+        QTest::newRow("Wayland with XWayland") << "wayland-0"
+                                               << ":0"
+                                               << "" << QByteArray("xcb");
+        QTest::newRow("Wayland alone") << "wayland-0"
+                                       << ""
+                                       << "" << QByteArray();
+        QTest::newRow("the user's choice") << "wayland-0"
+                                           << ":0"
+                                           << "wayland" << QByteArray();
+    }
+
+    void theSessionChoosesThePlatform()
+    {
+        QFETCH(QString, wayland);
+        QFETCH(QString, display);
+        QFETCH(QString, platform);
+        QFETCH(QByteArray, chosen);
+        QProcessEnvironment environment;
+        environment.insert(QStringLiteral("WAYLAND_DISPLAY"), wayland);
+        environment.insert(QStringLiteral("DISPLAY"), display);
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
+        QCOMPARE(PlatformChoice::forSession(environment), chosen);
     }
 };
 

@@ -96,7 +96,7 @@ private Q_SLOTS:
     void theHelpWindowChangesNoSetting()
     {
         MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence);
+        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         const QByteArray before = settingsFile();
         shell.showHelp();

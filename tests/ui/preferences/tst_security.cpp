@@ -211,7 +211,7 @@ private Q_SLOTS:
         launch(true, QStringLiteral("Kestrel9"));
         m_app->addItem(QStringLiteral("Secret plan"), at(2026, 11, 23, 11));
         MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence);
+        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
         shell.showTray();
         shell.setLoaded();
         shell.bringMainWindowForward();

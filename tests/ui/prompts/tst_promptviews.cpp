@@ -2,6 +2,7 @@
 #include "core/model/RepeatCodes.h"
 #include "core/monitor/IdlePrompt.h"
 #include "support/DatePrinting.h"
+#include "support/FakeNotifications.h"
 #include "support/LaunchedDesktop.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
@@ -199,7 +200,7 @@ private Q_SLOTS:
     void laterAndEscapePutAQuestionOff()
     {
         MainWindow window;
-        Shell shell(services(), window, m_app->presence);
+        Shell shell(services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         m_app->clock.set(at(2026, 11, 23, 10, 20));
         shell.askIdleQuestion(at(2026, 11, 23, 10, 0), false);
@@ -220,6 +221,66 @@ private Q_SLOTS:
         QVERIFY(!due->isStarted());
     }
 
+    // A reminder that may go unseen is also a notification: its buttons answer as the prompt's
+    // own, a click calls the prompt forward, and it goes with the prompt. A prompt under a
+    // usable tray icon sends none.
+    void anUnseenReminderIsAlsoANotification()
+    {
+        FakeNotifications server;
+        QVERIFY(server.registerOnBus());
+        MainWindow window;
+        Shell shell(services(), window, m_app->presence, m_app->notifier);
+        shell.setLoaded();
+        const auto reminderShown = [&shell] {
+            const Popover* popover = shell.tray().popover();
+            return popover && popover->isShown() &&
+                   qobject_cast<ReminderPromptView*>(popover->content());
+        };
+        shell.showReminder(item(QStringLiteral("Seen"), at(2026, 11, 23, 10, 15)), nullptr);
+        QTRY_VERIFY(reminderShown());
+        shell.tray().closePopoverImmediate();
+
+        m_app->presence.setTrayAvailable(false);
+        Item* tea = item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15));
+        shell.showReminder(tea, nullptr);
+        QTRY_COMPARE(server.shown.size(), std::size_t(1));
+        QTRY_VERIFY(m_app->notifier.isShown());
+        QTRY_VERIFY(reminderShown());
+        const FakeNotifications::Shown first = server.shown.front();
+        QCOMPARE(first.summary, QStringLiteral("Reminder"));
+        QCOMPARE(first.body, qobject_cast<ReminderPromptView*>(shell.tray().popover()->content())
+                                 ->prompt()
+                                 .reminderText());
+        QCOMPARE(first.actions,
+                 (QStringList{QStringLiteral("default"), QStringLiteral("Show"),
+                              QStringLiteral("start"), QStringLiteral("Start"),
+                              QStringLiteral("postpone10"), QStringLiteral("In 10 min")}));
+        QCOMPARE(first.hints.value(QStringLiteral("desktop-entry")).toString(),
+                 QStringLiteral("org.lullet.Lullet"));
+        Q_EMIT server.ActionInvoked(first.id, QStringLiteral("start"));
+        QTRY_COMPARE(app().running().item(), tea);
+        QTRY_VERIFY(!reminderShown());
+        QTRY_COMPARE(server.closed, std::vector<uint>{first.id});
+        QVERIFY(!m_app->notifier.isShown());
+
+        Item* walk = item(QStringLiteral("Walk"), at(2026, 11, 23, 10, 15));
+        shell.showReminder(walk, nullptr);
+        QTRY_COMPARE(server.shown.size(), std::size_t(2));
+        QTRY_VERIFY(m_app->notifier.isShown());
+        QTRY_VERIFY(reminderShown());
+        const uint second = server.shown.back().id;
+        // Another program's notification, and a click on this one, answer nothing.
+        Q_EMIT server.ActionInvoked(second + 1, QStringLiteral("postpone10"));
+        Q_EMIT server.ActionInvoked(second, QStringLiteral("default"));
+        QTRY_VERIFY(shell.tray().popover()->isActiveWindow());
+        QVERIFY(!walk->dtReminderPostponed());
+        Q_EMIT server.ActionInvoked(second, QStringLiteral("postpone10"));
+        QTRY_COMPARE(walk->dtReminderPostponed(), std::optional(at(2026, 11, 23, 10, 25)));
+        QTRY_VERIFY(!reminderShown());
+        QTRY_COMPARE(server.closed.size(), std::size_t(2));
+        QCOMPARE(server.shown.size(), std::size_t(2));
+    }
+
     void aBalloonClosesByItself()
     {
         QLineEdit field;
@@ -232,7 +293,7 @@ private Q_SLOTS:
     void oneQuestionAtATimeInThePopover()
     {
         MainWindow window;
-        Shell shell(services(), window, m_app->presence);
+        Shell shell(services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         Item* first = item(QStringLiteral("First"), at(2026, 11, 23, 10, 15));
         Item* second = item(QStringLiteral("Second"), at(2026, 11, 23, 10, 15));
@@ -266,7 +327,7 @@ private Q_SLOTS:
     void anUnansweredGapGoesToTheNextQuestion()
     {
         MainWindow window;
-        Shell shell(services(), window, m_app->presence);
+        Shell shell(services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         m_app->clock.set(at(2026, 11, 23, 10, 15));
         shell.askIdleQuestion(at(2026, 11, 23, 10, 0), false);

@@ -115,7 +115,8 @@ private Q_SLOTS:
         m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
         QVERIFY(m_app->open());
         m_window = std::make_unique<MainWindow>();
-        m_shell = std::make_unique<Shell>(m_app->services(), *m_window, m_app->presence);
+        m_shell =
+            std::make_unique<Shell>(m_app->services(), *m_window, m_app->presence, m_app->notifier);
         m_shell->setLoaded();
         m_editor = std::make_unique<QLineEdit>();
         m_editor->setWindowTitle(QStringLiteral("An essay"));

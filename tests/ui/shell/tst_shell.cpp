@@ -56,7 +56,7 @@ private Q_SLOTS:
     void theTrayComesBeforeTheStore()
     {
         MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence);
+        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
         shell.showTray();
         Q_EMIT shell.tray().clicked();
         QVERIFY(shell.tray().popover());
@@ -83,7 +83,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_app->open(false));
         MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence);
+        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         shell.prepareMainWindow(false);
         QCOMPARE(window.maximumSize(), QSize(800, 600));
@@ -96,7 +96,7 @@ private Q_SLOTS:
         QVERIFY(m_app->open());
         MainWindow window;
         window.resize(700, 600);
-        Shell shell(m_app->services(), window, m_app->presence);
+        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         shell.prepareMainWindow(true);
         QCOMPARE(window.minimumSize(), QSize(600, 600));
@@ -110,7 +110,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_app->open());
         MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence);
+        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         window.showMinimized();
         QVERIFY(window.isMinimized());
@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_app->open());
         MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence);
+        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         shell.showTray();
         bool quit = false;
@@ -168,7 +168,7 @@ private Q_SLOTS:
         QVERIFY(m_app->open());
         {
             MainWindow window;
-            Shell shell(m_app->services(), window, m_app->presence);
+            Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
             shell.setLoaded();
             shell.bringMainWindowForward();
             window.setGeometry(QRect(120, 90, 700, 640));
@@ -176,7 +176,7 @@ private Q_SLOTS:
         }
         QVERIFY(!m_app->settings.value(SettingsKeys::mainWindowGeometry).toByteArray().isEmpty());
         MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence);
+        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         shell.bringMainWindowForward();
         QCOMPARE(window.size(), QSize(700, 640));
@@ -188,7 +188,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_app->open());
         MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence);
+        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         shell.showTray();
         int withShortcut = 0;
@@ -233,7 +233,7 @@ private Q_SLOTS:
             QVERIFY(Dialogs::asked().front().information.endsWith(QStringLiteral(".sqlite")));
         }
 
-        Shell shell(m_app->services(), window, m_app->presence);
+        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         shell.bringMainWindowForward();
         MainView* view = shell.content()->mainView();

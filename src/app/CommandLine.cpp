@@ -1,0 +1,54 @@
+#include "app/CommandLine.h"
+
+#include <cstdio>
+#include <cstring>
+
+namespace lullet {
+
+namespace {
+
+constexpr const char* usage = "Usage: lullet [--quick-add] [--in-tray] [--help] [--version]\n";
+
+void printHelp()
+{
+    std::fputs(usage, stdout);
+    std::fputs("\n"
+               "Schedules short health pauses and your tasks, from the tray.\n"
+               "\n"
+               "  --quick-add  open the quick-add window of the running Lullet\n"
+               "  --in-tray    start in the tray without opening the window\n"
+               "  --help       show this help and exit\n"
+               "  --version    show the version and exit\n"
+               "\n"
+               "A second launch brings the running Lullet forward.\n",
+               stdout);
+}
+
+} // namespace
+
+int CommandLine::parse(int argc, char* argv[], CommandLine& into)
+{
+    for (int i = 1; i < argc; ++i) {
+        const char* option = argv[i];
+        if (std::strcmp(option, "--quick-add") == 0) {
+            into.quickAdd = true;
+        } else if (std::strcmp(option, "--in-tray") == 0) {
+            into.inTray = true;
+        } else if (std::strcmp(option, "--relaunch") == 0) {
+            // Only the program gives this to itself; help keeps quiet about it.
+            into.relaunch = true;
+        } else if (std::strcmp(option, "--help") == 0 || std::strcmp(option, "-h") == 0) {
+            printHelp();
+            return 0;
+        } else if (std::strcmp(option, "--version") == 0) {
+            std::printf("lullet %s\n", PROJECT_VERSION);
+            return 0;
+        } else {
+            std::fprintf(stderr, "lullet: unknown option '%s'\n%s", option, usage);
+            return 2;
+        }
+    }
+    return -1;
+}
+
+} // namespace lullet

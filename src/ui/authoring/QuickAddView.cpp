@@ -31,6 +31,7 @@ QuickAddView::QuickAddView(const Services& services, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     m_name->setObjectName(QStringLiteral("nameField"));
     m_name->setPlaceholderText(tr("Task name"));
+    m_name->setAccessibleName(tr("Task name"));
     m_name->setMinimumWidth(360);
     layout->addWidget(m_name);
     buildOptions(layout);
@@ -56,6 +57,8 @@ void QuickAddView::buildOptions(QVBoxLayout* layout)
     m_projects->setObjectName(QStringLiteral("projects"));
     m_duration->addItems(QuickAddForm::durationChoices());
     m_dateButton->setObjectName(QStringLiteral("chooseDate"));
+    // The button shows the date in labels of its own, which a screen reader doesn't read.
+    m_dateButton->setAccessibleName(tr("Due date"));
     m_dateButton->setFlat(true);
     auto* dateLayout = new QHBoxLayout(m_dateButton);
     dateLayout->setContentsMargins(6, 0, 6, 0);
@@ -88,6 +91,8 @@ void QuickAddView::showDate()
 {
     m_dateLabel->setText(m_form.dateLabel());
     m_timeLabel->setText(m_form.timeLabel());
+    m_dateButton->setAccessibleDescription(
+        (m_form.dateLabel() + u' ' + m_form.timeLabel()).trimmed());
 }
 
 void QuickAddView::chooseDate()

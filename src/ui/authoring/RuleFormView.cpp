@@ -125,10 +125,13 @@ void RuleFormView::buildDuration(QFormLayout* form)
     row->setContentsMargins(0, 0, 0, 0);
     m_hours = new QSpinBox(m_duration);
     m_hours->setObjectName(QStringLiteral("hours"));
+    // Fields that share a row have no label of their own to be read by.
+    m_hours->setAccessibleName(tr("Duration in hours"));
     m_hours->setRange(0, 23);
     m_hours->setSuffix(tr(" hr"));
     m_minutes = new QSpinBox(m_duration);
     m_minutes->setObjectName(QStringLiteral("minutes"));
+    m_minutes->setAccessibleName(tr("Duration in minutes"));
     m_minutes->setRange(0, 59);
     m_minutes->setSuffix(tr(" min"));
     row->addWidget(m_hours);
@@ -153,9 +156,11 @@ void RuleFormView::buildSchedule(QFormLayout* form)
     firstRow->setContentsMargins(0, 0, 0, 0);
     m_firstDate = new QDateEdit(first);
     m_firstDate->setObjectName(QStringLiteral("firstDate"));
+    m_firstDate->setAccessibleName(tr("Date"));
     m_firstDate->setCalendarPopup(true);
     m_time = new QTimeEdit(first);
     m_time->setObjectName(QStringLiteral("time"));
+    m_time->setAccessibleName(tr("Time of day"));
     m_time->setDisplayFormat(QLocale().timeFormat(QLocale::ShortFormat));
     firstRow->addWidget(m_firstDate);
     firstRow->addWidget(m_time);
@@ -167,6 +172,7 @@ void RuleFormView::buildSchedule(QFormLayout* form)
     everyRow->setContentsMargins(0, 0, 0, 0);
     m_repeatCount = new QLineEdit(every);
     m_repeatCount->setObjectName(QStringLiteral("repeatCount"));
+    m_repeatCount->setAccessibleName(tr("Repeat every"));
     // Digits only, as a count is typed.
     m_repeatCount->setValidator(new QRegularExpressionValidator(
         QRegularExpression(QStringLiteral("\\d{0,4}")), m_repeatCount));

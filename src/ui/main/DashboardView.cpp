@@ -72,6 +72,7 @@ QWidget* DashboardView::makeCircles()
         const CircleLook& look = circleLooks[i];
         auto* circle = new CircularProgress(row);
         circle->setObjectName(QLatin1String(look.name));
+        circle->setAccessibleName(tr(look.caption));
         circle->setColor(look.color);
         circle->setTrackColor(faded(look.color));
         circle->setLineWidth(10);
@@ -106,6 +107,7 @@ QWidget* DashboardView::makeProjectTable()
 {
     m_projects = new QTreeWidget(this);
     m_projects->setObjectName(QStringLiteral("projects"));
+    m_projects->setAccessibleName(tr("Projects"));
     m_projects->setColumnCount(3);
     m_projects->setHeaderLabels({tr("Project"), tr("Tasks"), tr("Planned")});
     m_projects->setRootIsDecorated(false);

@@ -7,6 +7,7 @@
 #include "core/app/Services.h"
 #include "core/dates/Clock.h"
 #include "core/library/Library.h"
+#include "core/model/Project.h"
 #include "core/monitor/Monitor.h"
 #include "core/presentation/RowTexts.h"
 #include "core/presentation/RunningStatus.h"
@@ -30,6 +31,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QScrollBar>
@@ -98,6 +100,7 @@ void ItemListView::buildHeader(QVBoxLayout* layout)
     m_status->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     header->addWidget(m_status, 0, Qt::AlignVCenter);
     m_progress = new CircularProgress(this);
+    m_progress->setAccessibleName(tr("Completed"));
     m_progress->setColor(*HexColor::fromHex(ongoingColor));
     QColor track = *HexColor::fromHex(ongoingColor);
     track.setAlphaF(0.1f);
@@ -230,6 +233,10 @@ void ItemListView::buildTable(QVBoxLayout* layout)
     m_table = new QTableView(this);
     m_table->setModel(m_model);
     m_table->setObjectName(QStringLiteral("items"));
+    const ListBuilder::Scope& scope = m_model->scope();
+    const QString listName =
+        scope.project ? scope.project->name().value_or(QString()) : scope.segment;
+    m_table->setAccessibleName(listName.isEmpty() ? tr("Items") : listName);
     m_table->setShowGrid(false);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -246,7 +253,10 @@ void ItemListView::buildTable(QVBoxLayout* layout)
     m_table->setColumnWidth(ItemListModel::UsedColumn, 72);
     columns->setMinimumSectionSize(36);
     m_table->setWordWrap(false);
-    m_table->setFocusPolicy(Qt::NoFocus);
+    // Reached with Tab: Space or Return starts or stops the current row, the menu key opens its
+    // menu.
+    m_table->setFocusPolicy(Qt::StrongFocus);
+    m_table->installEventFilter(this);
     m_table->setColumnWidth(ItemListModel::StartColumn, 36);
     auto* startButtons = new StartButtonDelegate(m_table);
     m_table->setItemDelegateForColumn(ItemListModel::StartColumn, startButtons);
@@ -262,22 +272,55 @@ void ItemListView::buildTable(QVBoxLayout* layout)
         m_table->setMinimumSize(380, 260);
     }
     m_table->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(m_table, &QWidget::customContextMenuRequested, this, [this](const QPoint& pos) {
-        const QModelIndex index = m_table->indexAt(pos);
-        auto* item = m_model->data(index, ItemListModel::ItemRole).value<Item*>();
-        // A click beside the rows or on a heading opens nothing.
-        if (!item)
-            return;
-        m_table->selectRow(index.row());
-        QMenu* menu = buildMenu(item);
-        menu->setAttribute(Qt::WA_DeleteOnClose);
-        menu->popup(m_table->viewport()->mapToGlobal(pos));
-    });
+    connect(m_table, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& pos) { showMenu(m_table->indexAt(pos), pos); });
     layout->addWidget(m_table, 1);
     m_noData = new QLabel(tr("Nothing here. Enjoy the calm."), this);
     m_noData->setAlignment(Qt::AlignCenter);
     m_noData->setForegroundRole(QPalette::PlaceholderText);
     layout->addWidget(m_noData, 1);
+}
+
+void ItemListView::showMenu(const QModelIndex& index, const QPoint& where)
+{
+    auto* item = m_model->data(index, ItemListModel::ItemRole).value<Item*>();
+    // A click beside the rows or on a heading opens nothing.
+    if (!item)
+        return;
+    m_table->selectRow(index.row());
+    QMenu* menu = buildMenu(item);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(m_table->viewport()->mapToGlobal(where));
+}
+
+bool ItemListView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_table || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const QModelIndex current = m_table->currentIndex();
+    auto* item = m_model->data(current, ItemListModel::ItemRole).value<Item*>();
+    if (!item)
+        return false;
+    switch (key->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // As the row's button, which a finished item doesn't have.
+        if (!item->isFinished())
+            startOrStop(item);
+        return true;
+    case Qt::Key_Menu:
+        showMenu(current, m_table->visualRect(current).center());
+        return true;
+    case Qt::Key_F10:
+        if (key->modifiers() != Qt::ShiftModifier)
+            return false;
+        showMenu(current, m_table->visualRect(current).center());
+        return true;
+    default:
+        return false;
+    }
 }
 
 void ItemListView::listenToChanges()
@@ -395,7 +438,11 @@ void ItemListView::onRunningChanged(Item* item)
         Q_EMIT segmentRequested(QStringLiteral("Today"));
         return;
     }
+    // The row started or stopped from the keyboard stays the current one, to be stopped the
+    // same way.
+    const Item* current = selectedItem();
     reload();
+    select(current);
 }
 
 void ItemListView::spanHeadings()

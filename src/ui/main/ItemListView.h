@@ -58,6 +58,7 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildHeader(QVBoxLayout* layout);
@@ -67,6 +68,8 @@ private:
     void buildExportButton(QHBoxLayout* row);
     void buildTable(QVBoxLayout* layout);
     void listenToChanges();
+    // The row's menu, at a point of the table's viewport.
+    void showMenu(const QModelIndex& index, const QPoint& where);
     void addMoveAndDuplicate(QMenu* menu, Item* item);
     void addPostponeChoices(QMenu* menu, Item* item);
     void finish(Item* item);

@@ -89,6 +89,7 @@ QWidget* MainView::buildSidebar(QSplitter* splitter)
     m_searchField = new QLineEdit(sidebar);
     m_searchField->setObjectName(QStringLiteral("searchField"));
     m_searchField->setPlaceholderText(tr("Search"));
+    m_searchField->setAccessibleName(tr("Search"));
     m_searchField->setClearButtonEnabled(true);
     // Escape clears it.
     m_searchField->installEventFilter(this);
@@ -105,6 +106,7 @@ QWidget* MainView::buildSidebar(QSplitter* splitter)
     side->addLayout(top);
     m_sidebar = new QListWidget(sidebar);
     m_sidebar->setObjectName(QStringLiteral("sidebar"));
+    m_sidebar->setAccessibleName(tr("Lists and projects"));
     m_sidebar->setFrameShape(QFrame::NoFrame);
     // A long project name gives way in its middle, keeping its count and percentage.
     m_sidebar->setTextElideMode(Qt::ElideMiddle);
@@ -113,6 +115,7 @@ QWidget* MainView::buildSidebar(QSplitter* splitter)
     m_newProject = new QLineEdit(sidebar);
     m_newProject->setObjectName(QStringLiteral("newProject"));
     m_newProject->setPlaceholderText(tr("New project"));
+    m_newProject->setAccessibleName(tr("New project"));
     side->addWidget(m_newProject);
     sidebar->setMinimumWidth(sidebarWidth - 30);
     sidebar->setMaximumWidth(280);

@@ -65,6 +65,7 @@ void RepeatListView::buildTable()
 {
     m_table = new QTableView(this);
     m_table->setObjectName(QStringLiteral("rules"));
+    m_table->setAccessibleName(tr("Lullets"));
     m_table->setModel(m_model);
     m_table->setShowGrid(false);
     m_table->setWordWrap(false);

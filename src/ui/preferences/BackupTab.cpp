@@ -88,6 +88,7 @@ QWidget* BackupTab::makeList()
 {
     m_list = new QTreeWidget(this);
     m_list->setObjectName(QStringLiteral("backups"));
+    m_list->setAccessibleName(tr("Backups"));
     m_list->setRootIsDecorated(false);
     m_list->setHeaderLabels({tr("Type"), tr("Date"), tr("Size")});
     m_list->header()->setSectionResizeMode(1, QHeaderView::Stretch);

@@ -50,6 +50,7 @@ ScheduleTab::ScheduleTab(const Services& services, QWidget* parent)
     auto* model =
         new ScheduleTableModel(services.clock, services.schedule, services.catalogue, this);
     m_table->setObjectName(QStringLiteral("schedule"));
+    m_table->setAccessibleName(tr("Working hours"));
     m_table->setModel(model);
     m_table->setItemDelegate(new TimeDelegate(m_table));
     m_table->verticalHeader()->hide();

@@ -44,6 +44,7 @@ void IdlePromptView::buildQuestion(QVBoxLayout* layout)
     layout->addLayout(top);
     m_answer = new QLineEdit(this);
     m_answer->setObjectName(QStringLiteral("answerField"));
+    m_answer->setAccessibleName(tr("What you have been doing"));
     m_answer->setMinimumWidth(300);
     layout->addWidget(m_answer);
     // The return key answers from the field, which leaves the item running.

@@ -17,6 +17,7 @@ CircularProgress::CircularProgress(QWidget* parent)
         m_shown = v.toDouble();
         update();
     });
+    describe();
 }
 
 void CircularProgress::setColor(const QColor& color)
@@ -37,6 +38,7 @@ void CircularProgress::setProgress(double progress, bool animated)
     if (target == m_target && !animated)
         return;
     m_target = target;
+    describe();
     m_animation->stop();
     if (!animated || !isVisible()) {
         m_shown = target;
@@ -57,7 +59,15 @@ void CircularProgress::setTrackColor(const QColor& color)
 void CircularProgress::setCentreText(const QString& text)
 {
     m_centreText = text;
+    describe();
     update();
+}
+
+void CircularProgress::describe()
+{
+    // A screen reader reads what the ring shows: its centre text, or the percentage.
+    setAccessibleDescription(
+        m_centreText.isEmpty() ? tr("%1 % complete").arg(qRound(m_target * 100)) : m_centreText);
 }
 
 void CircularProgress::paintEvent(QPaintEvent*)

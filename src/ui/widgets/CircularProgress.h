@@ -31,6 +31,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void describe();
+
     QColor m_color = QColor(0xFC, 0x72, 0x74);
     QColor m_track;
     QString m_centreText;

@@ -21,8 +21,12 @@ void StyledButton::setColor(const QColor& color)
 
 void StyledButton::paintWith(const QColor& background)
 {
+    // Keyboard focus shows as a frame in the desktop's highlight colour, taken from the padding
+    // so that the button keeps its size.
     setStyleSheet(QStringLiteral("QPushButton { background: #%1; color: #%2; border: none; "
-                                 "border-radius: %3px; padding: 4px 12px; }")
+                                 "border-radius: %3px; padding: 4px 12px; } "
+                                 "QPushButton:focus { border: 2px solid palette(highlight); "
+                                 "padding: 2px 10px; }")
                       .arg(HexColor::hexString(background), HexColor::hexString(m_text))
                       .arg(m_radius));
 }

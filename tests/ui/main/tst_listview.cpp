@@ -121,6 +121,31 @@ private Q_SLOTS:
         QCOMPARE(view.model().rowCount(), 1);
     }
 
+    // Without a mouse: Space starts and stops the current row as its button does, and the menu
+    // key opens the row's menu.
+    void rowsAnswerTheKeyboard()
+    {
+        Item* write = item(QStringLiteral("Write"), at(2026, 11, 25, 11, 0));
+        item(QStringLiteral("Read"), at(2026, 11, 25, 14, 0));
+        ItemListView view(app().services(), {}, true);
+        view.show();
+        QTableView* table = view.table();
+        QVERIFY(table->focusPolicy() & Qt::TabFocus);
+        table->setFocus();
+        table->setCurrentIndex(view.model().index(view.model().rowOf(write), 0));
+        QTest::keyClick(table, Qt::Key_Space);
+        QCOMPARE(app().running().item(), write);
+        QTest::keyClick(table, Qt::Key_Return);
+        QVERIFY(*write->hasFinished());
+        // The finished row has no button to press.
+        QCOMPARE(view.selectedItem(), write);
+        QTest::keyClick(table, Qt::Key_Space);
+        QVERIFY(!app().running().item());
+        QTest::keyClick(table, Qt::Key_Menu);
+        QTRY_VERIFY(qobject_cast<QMenu*>(QApplication::activePopupWidget()));
+        QApplication::activePopupWidget()->close();
+    }
+
     // A launch that makes an occurrence of every rule over years of history reloads the list
     // once, not once for each occurrence.
     void manyOccurrencesReloadTheListOnce()

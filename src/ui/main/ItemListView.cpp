@@ -123,7 +123,10 @@ void ItemListView::buildHeader(QVBoxLayout* layout)
 // The idle question's switch ("disableAutoPrompt"), and a project's own buttons beside it.
 void ItemListView::buildSwitchRow(QVBoxLayout* texts, Project* project)
 {
+    // The switches one above the other, so that they and the buttons fit the narrowest window.
     auto* row = new QHBoxLayout;
+    auto* switches = new QVBoxLayout;
+    switches->setSpacing(2);
     Settings& settings = m_services.settings;
     auto* ask = new QCheckBox(tr("Ask when idle"), this);
     ask->setObjectName(QStringLiteral("askWhenIdle"));
@@ -135,14 +138,15 @@ void ItemListView::buildSwitchRow(QVBoxLayout* texts, Project* project)
         if (on && !m_services.running.item())
             m_services.monitor.askWhatNow();
     });
-    row->addWidget(ask);
+    switches->addWidget(ask);
     if (!m_model->scope().isCustomListing()) {
         auto* runningOnly = new QCheckBox(tr("Started only"), this);
         runningOnly->setObjectName(QStringLiteral("showRunningOnly"));
         runningOnly->setToolTip(tr("List only the items that have been started"));
         connect(runningOnly, &QCheckBox::toggled, m_model, &ItemListModel::setShowRunningOnly);
-        row->addWidget(runningOnly);
+        switches->addWidget(runningOnly);
     }
+    row->addLayout(switches);
     row->addStretch();
     buildExportButton(row);
     if (project)

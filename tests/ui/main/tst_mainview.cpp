@@ -354,7 +354,8 @@ private Q_SLOTS:
         QVERIFY(list && list->isVisible());
         const QRect inside = list->rect();
         for (const char* name :
-             {"taskCount", "completedCount", "dueCount", "todayCount", "timeUsed", "status"}) {
+             {"taskCount", "completedCount", "dueCount", "todayCount", "timeUsed", "status",
+              "askWhenIdle", "showRunningOnly", "export"}) {
             auto* widget = list->findChild<QWidget*>(QLatin1String(name));
             QVERIFY2(widget && widget->isVisible(), name);
             QVERIFY2(widget->width() >= widget->sizeHint().width(), name);

@@ -1,9 +1,14 @@
 #include "core/reports/Report.h"
 
 #include "core/backup/BackupList.h"
+#include "core/model/Item.h"
 #include "core/model/Project.h"
+#include "core/presentation/DashboardSummary.h"
 #include "core/presentation/ListBuilder.h"
 #include "core/presentation/RowTexts.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace lullet {
 
@@ -21,6 +26,16 @@ Report Report::ofProject(Project& project, const Clock& clock, const RunningItem
 {
     return ofRows(project.name().value_or(QString()),
                   ListBuilder::groupByDay(project.toReminders(), clock, true), clock, running);
+}
+
+Report Report::ofNoProject(const std::vector<Item*>& items, const Clock& clock,
+                           const RunningItem& running)
+{
+    std::vector<Item*> loose;
+    std::copy_if(items.begin(), items.end(), std::back_inserter(loose),
+                 [](const Item* item) { return !item->toProject(); });
+    return ofRows(DashboardSummary::notInProjectTitle(),
+                  ListBuilder::groupByDay(loose, clock, true), clock, running);
 }
 
 QStringList Report::headCounts() const

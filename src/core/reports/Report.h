@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/dates/Date.h"
+#include "core/presentation/ChartBar.h"
 #include "core/presentation/ListRow.h"
 #include "core/presentation/TaskStats.h"
 
@@ -12,6 +13,7 @@
 namespace lullet {
 
 class Clock;
+class Item;
 class Library;
 class Project;
 class RunningItem;
@@ -23,10 +25,16 @@ struct Report {
     QString title;
     std::vector<ListRow> rows;
     TaskStats stats;
+    // Hours used by day, drawn under the head as the list's chart shows them; Upcoming and
+    // Completed have one, other reports none.
+    std::vector<ChartBar> hoursByDay;
 
     static Report ofRows(const QString& title, std::vector<ListRow> rows, const Clock& clock,
                          const RunningItem& running);
     static Report ofProject(Project& project, const Clock& clock, const RunningItem& running);
+    // The items of `items` that are in no project, grouped as a project's list groups them.
+    static Report ofNoProject(const std::vector<Item*>& items, const Clock& clock,
+                              const RunningItem& running);
 
     bool hasItems() const { return stats.totalCount > 0; }
     // "Tasks: 4", "Complete: 1", "Due: 3", "Today: 2": the head's counts, due being what is not

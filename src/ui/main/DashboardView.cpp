@@ -12,11 +12,15 @@
 
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QScrollArea>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace lullet {
 
@@ -108,18 +112,38 @@ QWidget* DashboardView::makeProjectTable()
     m_projects = new QTreeWidget(this);
     m_projects->setObjectName(QStringLiteral("projects"));
     m_projects->setAccessibleName(tr("Projects"));
-    m_projects->setColumnCount(3);
-    m_projects->setHeaderLabels({tr("Project"), tr("Tasks"), tr("Planned")});
+    m_projects->setColumnCount(4);
+    m_projects->setHeaderLabels({tr("Project"), tr("Tasks"), tr("Planned"), QString()});
     m_projects->setRootIsDecorated(false);
     m_projects->setUniformRowHeights(true);
     m_projects->setAlternatingRowColors(true);
+    m_projects->header()->setStretchLastSection(false);
     m_projects->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_projects->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-    m_projects->header()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
+    for (const int column : {1, 2, 3})
+        m_projects->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     m_projects->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_projects->setToolTip(tr("Right-click a project to print it, save it as PDF or mail it."));
-    connect(m_projects, &QWidget::customContextMenuRequested, this, &DashboardView::showExportMenu);
+    connect(m_projects, &QWidget::customContextMenuRequested, this, [this](const QPoint& pos) {
+        if (const QTreeWidgetItem* row = m_projects->itemAt(pos))
+            showExportMenu(*row, m_projects->viewport()->mapToGlobal(pos));
+    });
+    // The menu key and Shift+F10 open the current row's menu, as the lists' rows do.
+    m_projects->installEventFilter(this);
     return m_projects;
+}
+
+bool DashboardView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_projects || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool menuKey = key->key() == Qt::Key_Menu ||
+                         (key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier);
+    const QTreeWidgetItem* row = m_projects->currentItem();
+    if (!menuKey || !row)
+        return false;
+    showExportMenu(*row,
+                   m_projects->viewport()->mapToGlobal(m_projects->visualItemRect(row).center()));
+    return true;
 }
 
 void DashboardView::listenToChanges()
@@ -159,25 +183,44 @@ void DashboardView::reload()
         item->setData(0, Qt::UserRole, QVariant::fromValue(static_cast<void*>(row.project)));
         item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
         item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
+        m_projects->setItemWidget(item, 3, makeExportButton(item, row.title));
     }
 }
 
-void DashboardView::showExportMenu(const QPoint& pos)
+QToolButton* DashboardView::makeExportButton(const QTreeWidgetItem* row, const QString& title)
 {
-    const QTreeWidgetItem* row = m_projects->itemAt(pos);
-    auto* project =
-        row ? static_cast<Project*>(row->data(0, Qt::UserRole).value<void*>()) : nullptr;
-    if (!project)
-        return;
-    QMenu menu(this);
+    auto* button = new QToolButton(m_projects);
+    button->setText(tr("Export"));
+    button->setAutoRaise(true);
+    button->setAccessibleName(tr("Export %1").arg(title));
+    button->setToolTip(tr("Print, save as PDF or mail"));
+    connect(button, &QToolButton::clicked, this, [this, row, button] {
+        showExportMenu(*row, button->mapToGlobal(QPoint(0, button->height())));
+    });
+    return button;
+}
+
+void DashboardView::showExportMenu(const QTreeWidgetItem& row, const QPoint& where)
+{
+    auto* project = static_cast<Project*>(row.data(0, Qt::UserRole).value<void*>());
+    auto* menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("exportMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
     const ReportCommands commands(m_services.clock, m_services.library);
     commands.addActions(
-        &menu, this,
+        menu, this,
         [this, project] {
-            return Report::ofProject(*project, m_services.clock, m_services.running);
+            const Library& library = m_services.library;
+            // A project deleted while the menu was open reports as no project would.
+            const bool stillThere = project && std::ranges::find(library.projects(), project) !=
+                                                   library.projects().end();
+            return stillThere ? Report::ofProject(*project, m_services.clock, m_services.running)
+                   : project
+                       ? Report::ofRows({}, {}, m_services.clock, m_services.running)
+                       : Report::ofNoProject(library.items(), m_services.clock, m_services.running);
         },
         ReportCommands::emptyProjectText());
-    menu.exec(m_projects->viewport()->mapToGlobal(pos));
+    menu->popup(where);
 }
 
 } // namespace lullet

@@ -5,7 +5,9 @@
 #include <array>
 
 class QLabel;
+class QToolButton;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace lullet {
 
@@ -27,13 +29,17 @@ public:
 
     void reload();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QWidget* makeCircles();
     QWidget* makeChart();
     QWidget* makeProjectTable();
     void listenToChanges();
-    // Print, PDF and mail of the project of a row; the row of items in no project has none.
-    void showExportMenu(const QPoint& pos);
+    // Print, PDF and mail of a row: its project, or the items in no project.
+    void showExportMenu(const QTreeWidgetItem& row, const QPoint& where);
+    QToolButton* makeExportButton(const QTreeWidgetItem* row, const QString& title);
 
     const Services& m_services;
     std::array<CircularProgress*, 3> m_circles{};

@@ -199,7 +199,10 @@ Report ItemListView::report() const
 {
     const ListBuilder::Scope& scope = m_model->scope();
     const QString title = scope.project ? scope.project->name().value_or(QString()) : scope.segment;
-    return Report::ofRows(title, m_model->rows(), m_services.clock, m_services.running);
+    Report report = Report::ofRows(title, m_model->rows(), m_services.clock, m_services.running);
+    if (m_chart)
+        report.hoursByDay = m_chart->bars();
+    return report;
 }
 
 // A project's own actions, in one small menu so that the header fits a narrow window.

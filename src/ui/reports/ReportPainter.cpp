@@ -1,6 +1,8 @@
 #include "ui/reports/ReportPainter.h"
 
 #include "core/reports/Report.h"
+#include "ui/reports/ShapedTexts.h"
+#include "ui/widgets/BarChart.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -21,6 +23,7 @@ const QColor band(0xF2, 0xF2, 0xF2);
 constexpr double headingHeight = 26;
 constexpr double itemHeight = 36;
 constexpr double footerHeight = 18;
+constexpr double chartHeight = 160;
 
 QFont sized(double points, bool bold = false)
 {
@@ -31,12 +34,39 @@ QFont sized(double points, bool bold = false)
     return font;
 }
 
-// One page after another, in points, the content centred.
+// The rows' texts in their three styles, gathered a page at a time.
+class RowTexts {
+public:
+    static constexpr double textWidth = ReportPainter::contentWidth - 8 - 150;
+    static constexpr double timesWidth = 142;
+
+    explicit RowTexts(const QPaintDevice& device)
+        : title(sized(11, true), ink, textWidth, &device)
+        , detail(sized(9), quiet, textWidth, &device)
+        , times(sized(9), quiet, timesWidth, &device)
+    {
+    }
+
+    void flush(QPainter& painter)
+    {
+        title.flush(painter);
+        detail.flush(painter);
+        times.flush(painter);
+    }
+
+    ShapedTexts title;
+    ShapedTexts detail;
+    ShapedTexts times;
+};
+
+// One page after another, in points, the content centred. The rows' texts are drawn as a page
+// is left.
 class Pages {
 public:
-    Pages(QPainter& painter, QPagedPaintDevice& device)
+    Pages(QPainter& painter, QPagedPaintDevice& device, RowTexts& texts)
         : m_painter(painter)
         , m_device(device)
+        , m_texts(texts)
     {
         const QRectF paper = device.pageLayout().paintRect(QPageLayout::Point);
         m_height = paper.height() - footerHeight;
@@ -78,6 +108,7 @@ private:
 
     void footer()
     {
+        m_texts.flush(m_painter);
         m_painter.setFont(sized(8));
         m_painter.setPen(quiet);
         m_painter.drawText(QRectF(m_left, m_height, ReportPainter::contentWidth, footerHeight),
@@ -86,6 +117,7 @@ private:
 
     QPainter& m_painter;
     QPagedPaintDevice& m_device;
+    RowTexts& m_texts;
     double m_scale = 1;
     double m_left = 0;
     double m_height = 0;
@@ -140,37 +172,42 @@ void paintHeading(QPainter& painter, Pages& pages, const ListRow& row, const QFo
     pages.advance(headingHeight);
 }
 
-// The fonts of the rows, and their measures, made once for the whole report.
-struct RowFonts {
-    QFont heading = sized(11, true);
-    QFont title = sized(11, true);
-    QFont detail = sized(9);
-    QFontMetricsF titleMetrics{title};
-    QFontMetricsF detailMetrics{detail};
-};
-
-void paintItem(QPainter& painter, Pages& pages, const ListRow& row, const RowFonts& fonts)
+void paintItem(Pages& pages, const ListRow& row, RowTexts& texts)
 {
     const double left = pages.left() + 8;
-    const double textWidth = ReportPainter::contentWidth - 8 - 150;
     const double y = pages.y();
-    painter.setPen(ink);
-    painter.setFont(fonts.title);
-    painter.drawText(QRectF(left, y, textWidth, 16), Qt::AlignLeft | Qt::AlignVCenter,
-                     fonts.titleMetrics.elidedText(row.title, Qt::ElideRight, textWidth));
-    painter.setFont(fonts.detail);
-    painter.setPen(quiet);
+    texts.title.add(QRectF(left, y, RowTexts::textWidth, 16), Qt::AlignLeft | Qt::AlignVCenter,
+                    row.title);
     const QString detail =
         row.projectName.isEmpty() ? row.time : row.projectName + QStringLiteral("  ·  ") + row.time;
-    painter.drawText(QRectF(left, y + 17, textWidth, 14), Qt::AlignLeft | Qt::AlignVCenter,
-                     fonts.detailMetrics.elidedText(detail, Qt::ElideRight, textWidth));
-    const QRectF times(left + textWidth, y, 142, 31);
-    // Text is what a PDF costs most: an empty one is not drawn at all.
-    if (!row.duration.isEmpty())
-        painter.drawText(times, Qt::AlignRight | Qt::AlignTop, row.duration);
-    if (!row.timeUsed.isEmpty())
-        painter.drawText(times, Qt::AlignRight | Qt::AlignBottom, row.timeUsed);
+    texts.detail.add(QRectF(left, y + 17, RowTexts::textWidth, 14),
+                     Qt::AlignLeft | Qt::AlignVCenter, detail);
+    const QRectF times(left + RowTexts::textWidth, y, RowTexts::timesWidth, 31);
+    texts.times.add(times, Qt::AlignRight | Qt::AlignTop, row.duration);
+    texts.times.add(times, Qt::AlignRight | Qt::AlignBottom, row.timeUsed);
     pages.advance(itemHeight);
+}
+
+// The hours by day, drawn by the list's own chart so that paper shows what the window does; in
+// dark ink whatever the desktop's colours, as paper is white.
+void paintChart(QPainter& painter, Pages& pages, const Report& report)
+{
+    if (report.hoursByDay.empty())
+        return;
+    BarChart chart;
+    QPalette paper;
+    paper.setColor(QPalette::WindowText, ink);
+    paper.setColor(QPalette::Mid, band);
+    paper.setColor(QPalette::PlaceholderText, quiet);
+    chart.setPalette(paper);
+    chart.setFont(sized(8));
+    chart.setColor(accent);
+    chart.setUnit(QStringLiteral("h"));
+    chart.setBars(report.hoursByDay);
+    chart.resize(int(ReportPainter::contentWidth), int(chartHeight));
+    chart.render(&painter, QPoint(int(pages.left()), int(pages.y())), QRegion(),
+                 QWidget::DrawChildren);
+    pages.advance(chartHeight + 12);
 }
 
 } // namespace
@@ -180,18 +217,20 @@ bool ReportPainter::paint(const Report& report, QPagedPaintDevice& device)
     QPainter painter;
     if (!painter.begin(&device))
         return false;
-    Pages pages(painter, device);
+    RowTexts texts(device);
+    Pages pages(painter, device, texts);
     paintHead(painter, pages, report);
-    const RowFonts fonts;
+    paintChart(painter, pages, report);
+    const QFont headingFont = sized(11, true);
     for (const ListRow& row : report.rows) {
         const bool heading = row.type == ListRow::DayHeading;
         // A heading keeps its first row with it.
         if (!pages.makeRoom(heading ? headingHeight + itemHeight : itemHeight))
             return false;
         if (heading)
-            paintHeading(painter, pages, row, fonts.heading);
+            paintHeading(painter, pages, row, headingFont);
         else
-            paintItem(painter, pages, row, fonts);
+            paintItem(pages, row, texts);
     }
     pages.finish();
     return painter.end();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/presentation/ChartBar.h"
+
 #include <QColor>
 #include <QString>
 #include <QWidget>
@@ -13,10 +15,7 @@ namespace lullet {
 class BarChart final : public QWidget {
     Q_OBJECT
 public:
-    struct Bar {
-        QString label;
-        double value = 0;
-    };
+    using Bar = ChartBar;
 
     explicit BarChart(QWidget* parent = nullptr);
 

@@ -4,18 +4,33 @@
 #include "support/Launched.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
+#include "ui/main/DashboardView.h"
 #include "ui/reports/ReportCommands.h"
 #include "ui/widgets/Dialogs.h"
 
 #include <QApplication>
+#include <QDesktopServices>
+#include <QMenu>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeWidget>
 
 #include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
+
+// Stands in for the desktop's PDF viewer.
+class OpenedFiles : public QObject {
+    Q_OBJECT
+public:
+    QList<QUrl> urls;
+public Q_SLOTS:
+    void open(const QUrl& url) { urls.append(url); }
+};
 
 // Reports: what they hold, and the PDF read back as a reader would.
 class TestReports : public QObject {
@@ -68,7 +83,9 @@ private Q_SLOTS:
         }
         m_app->addItem(QStringLiteral("Buy seeds"), std::nullopt)->setToProject(garden);
 
-        const Report report = Report::ofProject(*garden, s.clock, s.running);
+        Report report = Report::ofProject(*garden, s.clock, s.running);
+        // Upcoming and Completed print their chart under the head.
+        report.hoursByDay = {{QStringLiteral("24 Nov"), 1.5}, {QStringLiteral("25 Nov"), 0.25}};
         QCOMPARE(report.stats.totalCount, 61);
         QCOMPARE(report.headCounts(),
                  QStringList({QStringLiteral("Tasks: 61"), QStringLiteral("Complete: 6"),
@@ -87,10 +104,52 @@ private Q_SLOTS:
         QVERIFY(text.contains(QStringLiteral("Weed bed 59")));
         QVERIFY(text.contains(QStringLiteral("Anytime")));
         QVERIFY(text.contains(QStringLiteral("Page 3")));
+        QVERIFY(text.contains(QStringLiteral("25 Nov")));
+        QVERIFY(text.contains(QStringLiteral("1.5 h")));
         // Every day's heading, in order.
         const qsizetype first = text.indexOf(QStringLiteral("Tue 24, Nov 2026"));
         const qsizetype second = text.indexOf(QStringLiteral("Wed 25, Nov 2026"));
         QVERIFY(first >= 0 && second > first);
+    }
+
+    // Every dashboard row exports, by its button or from the keyboard: "Not in Project" reports
+    // the items in no project, and only those.
+    void theDashboardExportsEachRow()
+    {
+        const Services& s = m_app->services();
+        Project* errands = s.projectActions.addProject(QStringLiteral("Errands")).project;
+        m_app->addItem(QStringLiteral("Post a letter"), at(2026, 11, 23, 15, 0))
+            ->setToProject(errands);
+        m_app->addItem(QStringLiteral("Water the plants"), at(2026, 11, 23, 17, 0));
+        DashboardView dashboard(s);
+        dashboard.show();
+        QTreeWidget* table = dashboard.projects();
+        QCOMPARE(table->topLevelItemCount(), 2);
+        for (int row = 0; row < 2; ++row) {
+            auto* button =
+                qobject_cast<QToolButton*>(table->itemWidget(table->topLevelItem(row), 3));
+            QVERIFY(button);
+            QVERIFY(button->accessibleName().endsWith(table->topLevelItem(row)->text(0)));
+        }
+
+        OpenedFiles viewer;
+        QDesktopServices::setUrlHandler(QStringLiteral("file"), &viewer, "open");
+        const QString path = m_dir->filePath(QStringLiteral("loose.pdf"));
+        Dialogs::chooseFileNext(path);
+        table->setFocus();
+        table->setCurrentItem(table->topLevelItem(0));
+        QTest::keyClick(table, Qt::Key_F10, Qt::ShiftModifier);
+        auto* menu = dashboard.findChild<QMenu*>(QStringLiteral("exportMenu"));
+        QVERIFY(menu);
+        QCOMPARE(menu->actions().size(), 3);
+        menu->actions().at(1)->trigger();
+        menu->close();
+        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+        QCOMPARE(viewer.urls, QList<QUrl>{QUrl::fromLocalFile(path)});
+        const QString text = pdfText(path);
+        QVERIFY(text.contains(QStringLiteral("Not in Project")));
+        QVERIFY(text.contains(QStringLiteral("Water the plants")));
+        QVERIFY(!text.contains(QStringLiteral("Post a letter")));
     }
 
     // Nothing to report is said rather than written; the proposed name suits any file system.

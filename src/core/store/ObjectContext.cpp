@@ -232,7 +232,7 @@ Item* ObjectContext::insertItem()
     load();
     Item* r = adopt(m_reminders);
     r->m_inserted = true;
-    r->m_hasFinished = false;
+    r->loadFlag(Item::HasFinished, false);
     m_inserted.push_back(r);
     return r;
 }

@@ -27,6 +27,11 @@ public:
     static const std::vector<Column<Project>>& project();
     static const std::vector<Column<Rule>>& rule();
     static const std::vector<Column<Item>>& item();
+
+private:
+    // An item's field kept beside its presence bit, and a flag kept as two bits.
+    template <class V> static Column<Item> packed(const char* name, int field, V Item::*member);
+    static Column<Item> packedFlag(const char* name, int field);
 };
 
 } // namespace lullet

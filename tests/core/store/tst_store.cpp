@@ -136,17 +136,32 @@ private Q_SLOTS:
         Item* item = ctx.items()[0]->title() ? ctx.items()[0] : ctx.items()[1];
         QCOMPARE(*item->title(), QStringLiteral("Write report — ünïcode"));
         QCOMPARE(item->notes(), std::optional<QString>(QString()));
+        QCOMPARE(item->uniqueId(), std::optional<QString>(QStringLiteral("<to make>")));
+        QCOMPARE(item->durationHr(), std::optional<int>(1));
         QCOMPARE(*item->durationMin(), 30);
+        QCOMPARE(item->shouldRemind(), std::optional<bool>(true));
+        QCOMPARE(item->remindBefore(), std::optional<int>(3));
+        QCOMPARE(item->dtReminder(), std::optional<Date>(Date(1'795'340'100)));
         QCOMPARE(*item->repeatOption(), -5);
         QCOMPARE(*item->effectiveDate(), Date(1'795'340'700));
+        // Flags keep "false" apart from "not set".
+        QCOMPARE(item->hasStarted(), std::optional<bool>(false));
+        QCOMPARE(item->hasFinished(), std::optional<bool>(false));
+        QCOMPARE(item->timeLimit(), std::optional<int>(5400));
+        QCOMPARE(item->elapsedTime(), std::optional<int>(12));
+        QCOMPARE(item->timeLimitExtendedBy(), std::optional<int>(600));
         QCOMPARE(*item->runningTimeCovered(), 7);
         QVERIFY(!item->repeatInterval());
+        QVERIFY(!item->repeatIntervalType());
+        QVERIFY(!item->dtRepeatUpto());
         QCOMPARE(item->toProject(), home);
         QCOMPARE(home->toReminders().size(), std::size_t(1));
         QCOMPARE(home->toReminders().front(), item);
         const Item* bare = item == ctx.items()[0] ? ctx.items()[1] : ctx.items()[0];
         QVERIFY(!bare->hasFinished());
         QVERIFY(!bare->toProject());
+        QVERIFY(!bare->title() && !bare->notes() && !bare->shouldRemind() && !bare->hasStarted());
+        QVERIFY(!bare->dtReminder() && !bare->effectiveDate() && !bare->runningTimeCovered());
     }
 
     void onlyRealChangesCount()

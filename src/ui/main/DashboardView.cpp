@@ -16,7 +16,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QScrollArea>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -37,6 +36,8 @@ const CircleLook circleLooks[] = {
     {"current", QT_TRANSLATE_NOOP("DashboardView", "Current"), QColor(0x00, 0x80, 0x80)},
     {"upcoming", QT_TRANSLATE_NOOP("DashboardView", "Upcoming"), QColor(0x00, 0x80, 0xFF)},
 };
+
+constexpr int exportColumn = 3;
 
 QColor faded(QColor color)
 {
@@ -119,13 +120,22 @@ QWidget* DashboardView::makeProjectTable()
     m_projects->setAlternatingRowColors(true);
     m_projects->header()->setStretchLastSection(false);
     m_projects->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    for (const int column : {1, 2, 3})
+    for (const int column : {1, 2, exportColumn})
         m_projects->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     m_projects->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_projects, &QWidget::customContextMenuRequested, this, [this](const QPoint& pos) {
         if (const QTreeWidgetItem* row = m_projects->itemAt(pos))
             showExportMenu(*row, m_projects->viewport()->mapToGlobal(pos));
     });
+    connect(m_projects, &QTreeWidget::itemClicked, this,
+            [this](const QTreeWidgetItem* row, int column) {
+                if (column != exportColumn)
+                    return;
+                const QRect cell = m_projects->visualItemRect(row);
+                showExportMenu(*row, m_projects->viewport()->mapToGlobal(QPoint(
+                                         m_projects->header()->sectionViewportPosition(column),
+                                         cell.bottom())));
+            });
     // The menu key and Shift+F10 open the current row's menu, as the lists' rows do.
     m_projects->installEventFilter(this);
     return m_projects;
@@ -183,21 +193,12 @@ void DashboardView::reload()
         item->setData(0, Qt::UserRole, QVariant::fromValue(static_cast<void*>(row.project)));
         item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
         item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
-        m_projects->setItemWidget(item, 3, makeExportButton(item, row.title));
+        // A cell, not a button: the table is rebuilt on every change, and a widget per row
+        // would be made again each time.
+        item->setText(exportColumn, tr("Export…"));
+        item->setForeground(exportColumn, m_projects->palette().brush(QPalette::Link));
+        item->setToolTip(exportColumn, tr("Print, save as PDF or mail"));
     }
-}
-
-QToolButton* DashboardView::makeExportButton(const QTreeWidgetItem* row, const QString& title)
-{
-    auto* button = new QToolButton(m_projects);
-    button->setText(tr("Export"));
-    button->setAutoRaise(true);
-    button->setAccessibleName(tr("Export %1").arg(title));
-    button->setToolTip(tr("Print, save as PDF or mail"));
-    connect(button, &QToolButton::clicked, this, [this, row, button] {
-        showExportMenu(*row, button->mapToGlobal(QPoint(0, button->height())));
-    });
-    return button;
 }
 
 void DashboardView::showExportMenu(const QTreeWidgetItem& row, const QPoint& where)

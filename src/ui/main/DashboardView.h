@@ -5,7 +5,6 @@
 #include <array>
 
 class QLabel;
-class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -39,7 +38,6 @@ private:
     void listenToChanges();
     // Print, PDF and mail of a row: its project, or the items in no project.
     void showExportMenu(const QTreeWidgetItem& row, const QPoint& where);
-    QToolButton* makeExportButton(const QTreeWidgetItem* row, const QString& title);
 
     const Services& m_services;
     std::array<CircularProgress*, 3> m_circles{};

@@ -65,6 +65,8 @@ bool ProjectActions::renameProject(Project& project, const QString& text)
 
 void ProjectActions::deleteProject(Project& project)
 {
+    // Its items go with it, the history on disk too.
+    m_library.loadHistory(project);
     const std::vector<Item*> items = project.toReminders();
     m_library.removeProject(&project);
     for (Item* item : items)
@@ -79,6 +81,7 @@ Project* ProjectActions::duplicateAsNew(const Project& project)
     copy->setName(project.name().value_or(QString()) + QStringLiteral(" Copy"));
     copy->setCreatedDate(m_clock.now());
     copy->setUniqueId(placeholderId());
+    m_library.loadHistory(project);
     for (const Item* item : std::vector<Item*>(project.toReminders())) {
         Item* twin = m_library.newItem();
         twin->setUniqueId(item->uniqueId());

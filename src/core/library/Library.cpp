@@ -62,6 +62,48 @@ void Library::loadItems()
     ItemOrder::sortShared(m_items);
 }
 
+const std::vector<Item*>& Library::allItems()
+{
+    loadHistory();
+    return m_items;
+}
+
+void Library::loadHistory()
+{
+    addLoaded(context().loadHistory());
+}
+
+void Library::loadHistory(const Project& project)
+{
+    addLoaded(context().loadHistory(&project));
+}
+
+void Library::addLoaded(const std::vector<Item*>& loaded)
+{
+    if (loaded.empty())
+        return;
+    m_items.insert(m_items.end(), loaded.begin(), loaded.end());
+    if (m_batchDepth > 0)
+        m_sortPending = true;
+    else
+        ItemOrder::sortShared(m_items);
+}
+
+bool Library::holdsHistory() const
+{
+    return m_store.context().holdsHistory();
+}
+
+quint32 Library::historyVersion() const
+{
+    return m_store.context().historyVersion();
+}
+
+bool Library::scanHistory(const std::function<void(const Item&)>& visit) const
+{
+    return m_store.context().scanHistory(visit);
+}
+
 void Library::loadRules()
 {
     m_rules = context().rules();

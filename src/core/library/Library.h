@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 namespace lullet {
@@ -31,9 +32,24 @@ public:
     void loadItems();
     void loadRules();
 
+    // The items in memory: every open one and the recent history. Older history stays on disk
+    // until loadHistory() or allItems().
     const std::vector<Item*>& items() const { return m_items; }
+    // Every item, the whole history read in first.
+    const std::vector<Item*>& allItems();
     const std::vector<Project*>& projects() const { return m_projects; }
     const std::vector<Rule*>& rules() const { return m_rules; }
+
+    // Reads the history still on disk into the list: all of it, or one project's.
+    void loadHistory();
+    void loadHistory(const Project& project);
+    // Whether some history is still on disk, and a number that changes whenever that does.
+    bool holdsHistory() const;
+    quint32 historyVersion() const;
+    // Shows each item of the history on disk to `visit` without keeping it: for totals that
+    // must count it before anyone lists it.
+    // False on a read error.
+    bool scanHistory(const std::function<void(const Item&)>& visit) const;
 
     // The folder of the store, where the program keeps its files.
     QString dataFolder() const;
@@ -109,6 +125,7 @@ Q_SIGNALS:
 
 private:
     void later(std::function<void()> emitter);
+    void addLoaded(const std::vector<Item*>& loaded);
 
     Store& m_store;
     std::vector<Item*> m_items;

@@ -110,10 +110,12 @@ std::vector<ListRow> ListBuilder::groupByDay(const std::vector<Item*>& items, co
     return rows;
 }
 
-std::vector<ListRow> ListBuilder::customListing(const QString& segment, const Library& library,
+std::vector<ListRow> ListBuilder::customListing(const QString& segment, Library& library,
                                                 const Clock& clock)
 {
     const bool upcoming = segment == QStringLiteral("Upcoming");
+    if (!upcoming)
+        library.loadHistory();
     const Date now = clock.now();
     std::vector<Item*> items;
     for (Item* item : library.items()) {
@@ -175,9 +177,13 @@ std::vector<std::pair<Date, int>> ListBuilder::timeUsedByDay(const std::vector<L
     return days;
 }
 
-std::vector<Item*> ListBuilder::itemsFor(const Scope& scope, const Library& library, Date now)
+std::vector<Item*> ListBuilder::itemsFor(const Scope& scope, Library& library, Date now)
 {
     const Filter filter(scope, now);
+    if (scope.project)
+        library.loadHistory(*scope.project);
+    else if (filter.wantsHistory())
+        library.loadHistory();
     std::vector<Item*> items;
     for (Item* item : library.items()) {
         if (filter.accepts(*item))

@@ -49,6 +49,8 @@ public:
     public:
         Filter(const Scope& scope, Date now);
         bool accepts(const Item& item) const;
+        // Whether the scope takes in items finished before today, which may still be on disk.
+        bool wantsHistory() const { return !m_anytime && !m_todayWithoutProject && !m_runningOnly; }
 
     private:
         Today m_today;
@@ -60,8 +62,8 @@ public:
     // Whether the item belongs in the list of the scope now.
     static bool belongs(const Item& item, const Scope& scope, Date now);
 
-    // The items of the scope, in the lists' order.
-    static std::vector<Item*> itemsFor(const Scope& scope, const Library& library, Date now);
+    // The items of the scope, in the lists' order; the history the scope needs is read in first.
+    static std::vector<Item*> itemsFor(const Scope& scope, Library& library, Date now);
 
     // "Wed 25, Nov 2026": the heading of a day's group.
     static QString dayHeading(Date day);
@@ -72,8 +74,9 @@ public:
 
     // "Upcoming" (unfinished items dated after now, the nearest day first) or "Completed"
     // (finished dated items, the newest day first), by day; within a day the later first. A
-    // heading carries the day's count and the time used on it.
-    static std::vector<ListRow> customListing(const QString& segment, const Library& library,
+    // heading carries the day's count and the time used on it. "Completed" reads the whole
+    // history in first.
+    static std::vector<ListRow> customListing(const QString& segment, Library& library,
                                               const Clock& clock);
     // Seconds used by day, the days in time order, for the chart.
     static std::vector<std::pair<Date, int>> timeUsedByDay(const std::vector<ListRow>& rows);

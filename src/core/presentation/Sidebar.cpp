@@ -13,7 +13,7 @@
 
 namespace lullet {
 
-Sidebar::Sidebar(const Clock& clock, const Library& library, const Catalogue& catalogue,
+Sidebar::Sidebar(const Clock& clock, Library& library, const Catalogue& catalogue,
                  const RunningItem& running)
     : m_clock(clock)
     , m_library(library)
@@ -59,15 +59,24 @@ Sidebar::Counts Sidebar::counts() const
         c.upcoming += !finished && due && *due > now ? 1 : 0;
         c.today += today.accepts(*item) ? 1 : 0;
     }
+    // The history on disk is finished and dated long before today: it is only completed.
+    c.completed += history().finishedCount();
     for (const CatalogueRowPtr& row : m_catalogue.rows())
         c.lullets += row->type == CatalogueRow::ItemRow ? 1 : 0;
     return c;
 }
 
-std::optional<int> Sidebar::countFor(const SidebarRow& row, const Counts& counts)
+const HistoryTotals& Sidebar::history() const
+{
+    m_history.update(m_library, m_clock, m_running);
+    return m_history;
+}
+
+std::optional<int> Sidebar::countFor(const SidebarRow& row, const Counts& counts) const
 {
     if (row.type == SidebarRow::ProjectRow)
-        return row.project ? std::optional<int>(int(row.project->toReminders().size()))
+        return row.project ? std::optional<int>(int(row.project->toReminders().size()) +
+                                                history().countIn(*row.project))
                            : std::nullopt;
     if (row.type != SidebarRow::Segment)
         return std::nullopt;
@@ -112,7 +121,11 @@ std::vector<SidebarRow> Sidebar::rows() const
 
 double Sidebar::projectProgress(const Project& project) const
 {
-    const TaskStats stats = TaskStats::of(project.toReminders(), m_clock, m_running);
+    TaskStats::Tally tally(m_clock, m_running);
+    for (const Item* item : project.toReminders())
+        tally.add(*item);
+    tally.add(history().sumsOf(project));
+    const TaskStats stats = tally.stats();
     return stats.totalTimeAllotted > 0
                ? double(stats.timeCompletedRunning) / double(stats.totalTimeAllotted)
                : 0.0;
@@ -135,6 +148,7 @@ QString Sidebar::segmentFor(const Item& item) const
 std::vector<SidebarRow> Sidebar::search(const QString& text,
                                         const std::vector<SidebarRow>& rows) const
 {
+    m_library.loadHistory();
     std::vector<SidebarRow> found;
     QStringList terms;
     bool today = false;

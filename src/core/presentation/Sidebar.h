@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/presentation/HistoryTotals.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -31,7 +33,7 @@ struct SidebarRow {
 
 class Sidebar {
 public:
-    Sidebar(const Clock& clock, const Library& library, const Catalogue& catalogue,
+    Sidebar(const Clock& clock, Library& library, const Catalogue& catalogue,
             const RunningItem& running);
 
     // "Dashboard", "Lullets", "Today", "Upcoming", "Anytime", "Completed".
@@ -42,7 +44,7 @@ public:
 
     // The six segments with their counts, the separator, and a row for each project.
     std::vector<SidebarRow> rows() const;
-    // The segments' counts, from one pass over every item.
+    // The segments' counts, from one pass over the items in memory and the history's totals.
     struct Counts {
         int today = 0;
         int upcoming = 0;
@@ -52,7 +54,7 @@ public:
     };
     Counts counts() const;
     // The count of a row, as the sidebar shows it; none for the dashboard.
-    static std::optional<int> countFor(const SidebarRow& row, const Counts& counts);
+    std::optional<int> countFor(const SidebarRow& row, const Counts& counts) const;
 
     // A project's progress, as its header's statistics reckon it.
     double projectProgress(const Project& project) const;
@@ -62,13 +64,18 @@ public:
 
     // Comma-separated terms; "today" and "anytime" stand for those items. Matching ignores case
     // and diacritics: rows by name, projects also by the titles of their items, items by title.
+    // The whole history is read in first.
     std::vector<SidebarRow> search(const QString& text, const std::vector<SidebarRow>& rows) const;
 
 private:
+    const HistoryTotals& history() const;
+
     const Clock& m_clock;
-    const Library& m_library;
+    Library& m_library;
     const Catalogue& m_catalogue;
     const RunningItem& m_running;
+    // A cache, brought up to date when read.
+    mutable HistoryTotals m_history;
 };
 
 } // namespace lullet

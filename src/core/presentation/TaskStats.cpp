@@ -12,71 +12,98 @@ namespace lullet {
 TaskStats TaskStats::of(const std::vector<ListRow>& rows, const Clock& clock,
                         const RunningItem& running)
 {
-    std::vector<Item*> items;
-    items.reserve(rows.size());
+    Tally tally(clock, running);
     for (const ListRow& row : rows) {
         if (row.representedObject)
-            items.push_back(row.representedObject);
+            tally.add(*row.representedObject);
     }
-    return of(items, clock, running);
+    return tally.stats();
 }
 
 TaskStats TaskStats::of(const std::vector<Item*>& items, const Clock& clock,
                         const RunningItem& running)
 {
-    TaskStats s;
+    Tally tally(clock, running);
+    for (const Item* item : items)
+        tally.add(*item);
+    return tally.stats();
+}
+
+TaskStats::Tally::Tally(const Clock& clock, const RunningItem& running)
+    : m_running(running)
+{
     const Date now = clock.now();
     const std::optional<Date> lastPrompt = running.lastPromptAt();
-    const qint64 secondsNow = lastPrompt ? now.secondsAfterDate(*lastPrompt) : 0;
+    m_secondsSincePrompt = lastPrompt ? now.secondsAfterDate(*lastPrompt) : 0;
     // Today's bounds once, rather than a calendar's answer for every item.
     const ListBuilder::Today today(now);
-    for (const Item* item : items) {
-        s.totalCount += 1;
-        const bool isToDo = item->isToDo();
-        const bool started = item->isStarted();
-        const bool finished = item->isFinished();
+    m_todayStart = today.start;
+    m_todayEnd = today.end;
+}
 
-        qint64 limit = item->timeLimit().value_or(0);
-        bool limitSet = true;
-        if (limit <= 0) {
-            const qint64 planned = item->plannedSeconds();
-            limitSet = planned > 0;
-            limit = std::max<qint64>(0, started ? planned - secondsNow : planned);
-        }
-        const qint64 elapsed = item->elapsedTime().value_or(0);
-        if (!limitSet) {
-            const int extendedBy = item->timeLimitExtendedBy().value_or(0);
-            const qint64 extended =
-                extendedBy > 0 ? extendedBy : qint64(running.promptPeriod()) * 60;
-            const qint64 covered = item->runningTimeCovered().value_or(0);
-            limit = started ? extended + covered : covered;
-        }
-        const std::optional<Date> date = item->effectiveDate();
-        const bool inToday = date && today.contains(*date);
+void TaskStats::Tally::add(const Item& item)
+{
+    TaskStats& s = m_sums;
+    s.totalCount += 1;
+    const bool isToDo = item.isToDo();
+    const bool started = item.isStarted();
+    const bool finished = item.isFinished();
 
-        if (finished) {
-            s.completedCount += 1;
-            if (!isToDo) {
-                s.timeCompleted += elapsed;
-                if (!limitSet)
-                    limit = 0;
-                limit = std::min(limit, elapsed);
-                if (inToday) {
-                    s.countInToday += 1;
-                    s.timeCompletedToday += elapsed;
-                }
-                s.timeCompletedRunning += elapsed;
+    qint64 limit = item.timeLimit().value_or(0);
+    bool limitSet = true;
+    if (limit <= 0) {
+        const qint64 planned = item.plannedSeconds();
+        limitSet = planned > 0;
+        limit = std::max<qint64>(0, started ? planned - m_secondsSincePrompt : planned);
+    }
+    const qint64 elapsed = item.elapsedTime().value_or(0);
+    if (!limitSet) {
+        const int extendedBy = item.timeLimitExtendedBy().value_or(0);
+        const qint64 extended = extendedBy > 0 ? extendedBy : qint64(m_running.promptPeriod()) * 60;
+        const qint64 covered = item.runningTimeCovered().value_or(0);
+        limit = started ? extended + covered : covered;
+    }
+    const std::optional<Date> date = item.effectiveDate();
+    const bool inToday = date && *date >= m_todayStart && *date < m_todayEnd;
+
+    if (finished) {
+        s.completedCount += 1;
+        if (!isToDo) {
+            s.timeCompleted += elapsed;
+            if (!limitSet)
+                limit = 0;
+            limit = std::min(limit, elapsed);
+            if (inToday) {
+                s.countInToday += 1;
+                s.timeCompletedToday += elapsed;
             }
-        }
-        if (isToDo)
-            continue;
-        // Running time counts as today's, whatever the item's date.
-        if (!finished && started) {
-            s.timeCompletedToday += elapsed;
             s.timeCompletedRunning += elapsed;
         }
-        s.totalTimeAllotted += limit > 0 ? limit : elapsed;
     }
+    if (isToDo)
+        return;
+    // Running time counts as today's, whatever the item's date.
+    if (!finished && started) {
+        s.timeCompletedToday += elapsed;
+        s.timeCompletedRunning += elapsed;
+    }
+    s.totalTimeAllotted += limit > 0 ? limit : elapsed;
+}
+
+void TaskStats::Tally::add(const TaskStats& sums)
+{
+    m_sums.totalCount += sums.totalCount;
+    m_sums.totalTimeAllotted += sums.totalTimeAllotted;
+    m_sums.completedCount += sums.completedCount;
+    m_sums.timeCompleted += sums.timeCompleted;
+    m_sums.timeCompletedRunning += sums.timeCompletedRunning;
+    m_sums.countInToday += sums.countInToday;
+    m_sums.timeCompletedToday += sums.timeCompletedToday;
+}
+
+TaskStats TaskStats::Tally::stats() const
+{
+    TaskStats s = m_sums;
     s.totalTimeAllotted = std::max(s.totalTimeAllotted, s.timeCompletedRunning);
     return s;
 }

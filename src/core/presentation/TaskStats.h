@@ -1,7 +1,9 @@
 #pragma once
 
+#include "core/dates/Date.h"
 #include "core/presentation/ListRow.h"
 
+#include <optional>
 #include <vector>
 
 namespace lullet {
@@ -26,6 +28,27 @@ struct TaskStats {
                         const RunningItem& running);
     static TaskStats of(const std::vector<Item*>& items, const Clock& clock,
                         const RunningItem& running);
+
+    // Adds items one by one, for totals gathered from more than one place.
+    class Tally;
+};
+
+class TaskStats::Tally {
+public:
+    Tally(const Clock& clock, const RunningItem& running);
+    void add(const Item& item);
+    // Sums gathered elsewhere by another tally.
+    void add(const TaskStats& sums);
+    // The sums as they stand, the planned total not yet raised to the time spent.
+    const TaskStats& sums() const { return m_sums; }
+    TaskStats stats() const;
+
+private:
+    const RunningItem& m_running;
+    Date m_todayStart;
+    Date m_todayEnd;
+    qint64 m_secondsSincePrompt;
+    TaskStats m_sums;
 };
 
 } // namespace lullet

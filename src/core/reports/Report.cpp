@@ -1,6 +1,7 @@
 #include "core/reports/Report.h"
 
 #include "core/backup/BackupList.h"
+#include "core/library/Library.h"
 #include "core/model/Item.h"
 #include "core/model/Project.h"
 #include "core/presentation/DashboardSummary.h"
@@ -22,15 +23,17 @@ Report Report::ofRows(const QString& title, std::vector<ListRow> rows, const Clo
     return report;
 }
 
-Report Report::ofProject(Project& project, const Clock& clock, const RunningItem& running)
+Report Report::ofProject(Library& library, Project& project, const Clock& clock,
+                         const RunningItem& running)
 {
+    library.loadHistory(project);
     return ofRows(project.name().value_or(QString()),
                   ListBuilder::groupByDay(project.toReminders(), clock, true), clock, running);
 }
 
-Report Report::ofNoProject(const std::vector<Item*>& items, const Clock& clock,
-                           const RunningItem& running)
+Report Report::ofNoProject(Library& library, const Clock& clock, const RunningItem& running)
 {
+    const std::vector<Item*>& items = library.allItems();
     std::vector<Item*> loose;
     std::copy_if(items.begin(), items.end(), std::back_inserter(loose),
                  [](const Item* item) { return !item->toProject(); });

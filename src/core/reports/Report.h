@@ -31,10 +31,11 @@ struct Report {
 
     static Report ofRows(const QString& title, std::vector<ListRow> rows, const Clock& clock,
                          const RunningItem& running);
-    static Report ofProject(Project& project, const Clock& clock, const RunningItem& running);
-    // The items of `items` that are in no project, grouped as a project's list groups them.
-    static Report ofNoProject(const std::vector<Item*>& items, const Clock& clock,
-                              const RunningItem& running);
+    // Every item of the project, its history read in first.
+    static Report ofProject(Library& library, Project& project, const Clock& clock,
+                            const RunningItem& running);
+    // Every item in no project, grouped as a project's list groups them.
+    static Report ofNoProject(Library& library, const Clock& clock, const RunningItem& running);
 
     bool hasItems() const { return stats.totalCount > 0; }
     // "Tasks: 4", "Complete: 1", "Due: 3", "Today: 2": the head's counts, due being what is not

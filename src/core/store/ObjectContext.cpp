@@ -78,6 +78,29 @@ template <class T> QByteArray updateSql(const char* table)
     return QByteArray("UPDATE ") + table + " SET " + set + " WHERE id = ?";
 }
 
+// Reads a record's attributes from column 1 on; answers the next column, for an item its
+// project link.
+template <class T> int readColumns(const Stmt& stmt, T& record, StringPool& pool)
+{
+    int i = 1;
+    for (const auto& c : columnsOf<T>())
+        c.read(stmt, i++, record, pool);
+    return i;
+}
+
+// The items of the history: finished, not started, dated before ?2 (and no earlier than any
+// plausible date, ?1). It holds exactly for the rows the program reads as such; a value that
+// reads otherwise (text in a number column, a date out of range) keeps its item in memory.
+constexpr const char* historyCondition =
+    "hasFinished = 1 AND coalesce(hasStarted, 0) = 0 AND "
+    "coalesce(dtReminderPostponed, dtReminder) BETWEEN ?1 AND ?2";
+
+void bindHistoryBounds(Stmt& stmt, Date before)
+{
+    stmt.bind(0, std::optional<Date>(Date(-Stmt::maxPlausibleSeconds)));
+    stmt.bind(1, std::optional<Date>(before));
+}
+
 // Binds every attribute and, for an item, its project link; answers the next free index.
 template <class T> int bindAll(Stmt& stmt, const T& record)
 {
@@ -145,73 +168,169 @@ template <class T> T* ObjectContext::adopt(std::vector<T*>& live)
     return record;
 }
 
-bool ObjectContext::load()
+bool ObjectContext::load(std::optional<Date> historyBefore)
 {
     if (m_loaded)
         return true;
-    QHash<qint64, Project*> projectsById;
+    m_historyBefore = historyBefore;
     StringPool pool;
 
-    const auto loadTable = [this, &pool](auto& live, const char* table, auto&& extra) {
+    const auto loadTable = [this, &pool](auto& live, const QByteArray& sql, auto&& extra) {
         using T = std::remove_pointer_t<typename std::decay_t<decltype(live)>::value_type>;
-        const QByteArray sql = QByteArray("SELECT id, ") + columnList<T>() + " FROM " + table;
         Stmt stmt(m_db, sql.constData());
         if (!stmt.isValid())
             return false;
-        const auto& columns = columnsOf<T>();
+        if constexpr (std::is_same_v<T, Item>) {
+            if (m_historyBefore)
+                bindHistoryBounds(stmt, *m_historyBefore);
+        }
         while (stmt.step()) {
             T* record = adopt(live);
             record->m_rowId = stmt.columnInt64(0);
-            int i = 1;
-            for (const auto& c : columns)
-                c.read(stmt, i++, *record, pool);
-            extra(record, stmt, i);
+            extra(record, stmt, readColumns(stmt, *record, pool));
         }
         return !stmt.failed();
     };
+    const auto nothingMore = [](auto*, const Stmt&, int) {};
 
-    const bool ok =
-        loadTable(m_projects, "Project",
-                  [&](Project* p, const Stmt&, int) { projectsById.insert(p->rowId(), p); }) &&
-        loadTable(m_rules, "RepeatReminderInfo", [](Rule*, const Stmt&, int) {}) &&
-        loadTable(m_reminders, "ReminderInfo", [&](Item* r, const Stmt& s, int i) {
-            if (s.isNull(i))
-                return;
-            if (Project* p = projectsById.value(s.columnInt64(i))) {
-                r->m_toProject = p;
-                p->m_toReminders.push_back(r);
-            }
+    bool ok = loadTable(m_projects, "SELECT id, " + columnList<Project>() + " FROM Project",
+                        nothingMore) &&
+              loadTable(m_rules, "SELECT id, " + columnList<Rule>() + " FROM RepeatReminderInfo",
+                        nothingMore);
+    if (ok) {
+        QByteArray items = "SELECT id, " + columnList<Item>() + " FROM ReminderInfo";
+        if (m_historyBefore)
+            items += QByteArray(" WHERE NOT coalesce(") + historyCondition + ", 0)";
+        const QHash<qint64, Project*> projects = projectsByRowId();
+        ok = loadTable(m_reminders, items, [&](Item* item, const Stmt& stmt, int link) {
+            linkToProject(*item, stmt, link, projects);
         });
+    }
     if (!ok) {
         fail();
         reset();
         return false;
     }
     m_loaded = true;
+    m_historyHeld = m_historyBefore.has_value();
     return true;
+}
+
+QHash<qint64, Project*> ObjectContext::projectsByRowId() const
+{
+    QHash<qint64, Project*> byRowId;
+    for (Project* project : m_projects)
+        byRowId.insert(project->rowId(), project);
+    return byRowId;
+}
+
+void ObjectContext::linkToProject(Item& item, const Stmt& stmt, int column,
+                                  const QHash<qint64, Project*>& projects)
+{
+    if (stmt.isNull(column))
+        return;
+    if (Project* project = projects.value(stmt.columnInt64(column))) {
+        item.m_toProject = project;
+        project->m_toReminders.push_back(&item);
+    }
+}
+
+QSet<qint64> ObjectContext::itemRowIds() const
+{
+    // Records of a store read before a reset are no longer ours, and their rows are another
+    // file's; deleted ones not yet saved still are.
+    QSet<qint64> ids;
+    for (const auto& record : m_owned) {
+        if (record->m_context == this && record->entity() == Record::Entity::Item &&
+            record->m_rowId)
+            ids.insert(record->m_rowId);
+    }
+    return ids;
+}
+
+bool ObjectContext::readHistory(const Project* project, const std::function<void(const Stmt&)>& row)
+{
+    QByteArray sql =
+        "SELECT id, " + columnList<Item>() + " FROM ReminderInfo WHERE " + historyCondition;
+    if (project)
+        sql += " AND toProject = ?3";
+    Stmt stmt(m_db, sql.constData());
+    if (!stmt.isValid())
+        return fail();
+    bindHistoryBounds(stmt, *m_historyBefore);
+    if (project)
+        stmt.bind(2, std::optional<qint64>(project->rowId()));
+    const QSet<qint64> known = itemRowIds();
+    while (stmt.step()) {
+        if (!known.contains(stmt.columnInt64(0)))
+            row(stmt);
+    }
+    return !stmt.failed() || fail();
+}
+
+std::vector<Item*> ObjectContext::loadHistory(const Project* project)
+{
+    std::vector<Item*> read;
+    if (!m_historyHeld)
+        return read;
+    // A project never saved has no rows on disk.
+    if (project && (!project->rowId() || m_historyReadFor.contains(project->rowId())))
+        return read;
+    StringPool pool;
+    const QHash<qint64, Project*> projects = projectsByRowId();
+    const bool ok = readHistory(project, [&](const Stmt& stmt) {
+        Item* item = adopt(m_reminders);
+        item->m_rowId = stmt.columnInt64(0);
+        linkToProject(*item, stmt, readColumns(stmt, *item, pool), projects);
+        read.push_back(item);
+    });
+    // After a failed read, what was read stays and the next call reads the rest.
+    if (ok && project) {
+        m_historyReadFor.insert(project->rowId());
+    } else if (ok) {
+        m_historyHeld = false;
+        m_historyReadFor.clear();
+    }
+    ++m_historyVersion;
+    return read;
+}
+
+bool ObjectContext::scanHistory(const std::function<void(const Item&)>& visit)
+{
+    if (!m_historyHeld)
+        return true;
+    Item scratch;
+    // Texts read once and dropped are not worth sharing.
+    StringPool pool(StringPool::Share::None);
+    const QHash<qint64, Project*> projects = projectsByRowId();
+    return readHistory(nullptr, [&](const Stmt& stmt) {
+        const int link = readColumns(stmt, scratch, pool);
+        scratch.m_toProject = stmt.isNull(link) ? nullptr : projects.value(stmt.columnInt64(link));
+        visit(scratch);
+    });
 }
 
 const std::vector<Project*>& ObjectContext::projects()
 {
-    load();
+    load(m_historyBefore);
     return m_projects;
 }
 
 const std::vector<Rule*>& ObjectContext::rules()
 {
-    load();
+    load(m_historyBefore);
     return m_rules;
 }
 
 const std::vector<Item*>& ObjectContext::items()
 {
-    load();
+    load(m_historyBefore);
     return m_reminders;
 }
 
 Project* ObjectContext::insertProject()
 {
-    load();
+    load(m_historyBefore);
     Project* p = adopt(m_projects);
     p->m_inserted = true;
     m_inserted.push_back(p);
@@ -220,7 +339,7 @@ Project* ObjectContext::insertProject()
 
 Rule* ObjectContext::insertRule()
 {
-    load();
+    load(m_historyBefore);
     Rule* r = adopt(m_rules);
     r->m_inserted = true;
     m_inserted.push_back(r);
@@ -229,7 +348,7 @@ Rule* ObjectContext::insertRule()
 
 Item* ObjectContext::insertItem()
 {
-    load();
+    load(m_historyBefore);
     Item* r = adopt(m_reminders);
     r->m_inserted = true;
     r->loadFlag(Item::HasFinished, false);
@@ -385,6 +504,9 @@ void ObjectContext::reset()
     m_updated.clear();
     m_deleted.clear();
     m_loaded = false;
+    m_historyHeld = false;
+    m_historyReadFor.clear();
+    ++m_historyVersion;
 }
 
 } // namespace lullet

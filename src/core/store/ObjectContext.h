@@ -4,14 +4,20 @@
 #include "core/model/Project.h"
 #include "core/model/Rule.h"
 
+#include <QHash>
+#include <QSet>
 #include <QString>
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace lullet {
 
 class Db;
+class Stmt;
+class StringPool;
 
 // The one object context of the application: an identity map over the store that owns every
 // record for the whole run, tracks inserts, changes and deletes, and writes them all in one
@@ -24,9 +30,24 @@ public:
     ObjectContext(const ObjectContext&) = delete;
     ObjectContext& operator=(const ObjectContext&) = delete;
 
-    // Reads every record of the store. False on a read error; errorCode() tells which.
-    bool load();
+    // Reads the records of the store. False on a read error; errorCode() tells which.
+    // With `historyBefore`, the history stays on disk until asked for: items finished, not
+    // started, and dated before it. A store of years holds tens of thousands of them, and the
+    // day's work needs none.
+    bool load(std::optional<Date> historyBefore = std::nullopt);
     bool isLoaded() const { return m_loaded; }
+
+    // Whether some history is still on disk, not among items().
+    bool holdsHistory() const { return m_historyHeld; }
+    // Reads the history on disk into items(), all of it or one project's, and answers the items
+    // read. An item already here, deleted ones included, is never read twice.
+    std::vector<Item*> loadHistory(const Project* project = nullptr);
+    // Calls `visit` for every item of the history still on disk, each read into one scratch
+    // record that lives only for the call and is linked to its project one way. False on a
+    // read error.
+    bool scanHistory(const std::function<void(const Item&)>& visit);
+    // Changes whenever the history on disk does: at a load, a reset, or history read in.
+    quint32 historyVersion() const { return m_historyVersion; }
 
     // Every live record of one entity, in store order; loads the store on first use.
     const std::vector<Project*>& projects();
@@ -55,6 +76,13 @@ private:
     friend class Record;
     void recordChanged(Record* record);
     template <class T> T* adopt(std::vector<T*>& live);
+    // Runs `select` (the item columns, then the project link) bound to the history's bounds
+    // and, if given, a project; calls `row` with each item that is not here yet.
+    bool readHistory(const Project* project, const std::function<void(const Stmt&)>& row);
+    QSet<qint64> itemRowIds() const;
+    QHash<qint64, Project*> projectsByRowId() const;
+    static void linkToProject(Item& item, const Stmt& stmt, int column,
+                              const QHash<qint64, Project*>& projects);
     bool fail();
     bool writeInserts();
     bool writeUpdates();
@@ -62,6 +90,11 @@ private:
 
     Db& m_db;
     bool m_loaded = false;
+    std::optional<Date> m_historyBefore;
+    bool m_historyHeld = false;
+    // Projects whose history was read while the rest stays on disk.
+    QSet<qint64> m_historyReadFor;
+    quint32 m_historyVersion = 0;
     std::vector<std::unique_ptr<Record>> m_owned;
     std::vector<Project*> m_projects;
     std::vector<Rule*> m_rules;

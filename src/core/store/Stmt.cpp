@@ -9,11 +9,6 @@
 
 namespace lullet {
 
-namespace {
-// About ±10,000 years around 1970: anything beyond is damage, not a date.
-constexpr double maxPlausibleSeconds = 3.2e11;
-} // namespace
-
 void Stmt::Finalizer::operator()(sqlite3_stmt* stmt) const
 {
     sqlite3_finalize(stmt);

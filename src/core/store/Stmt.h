@@ -17,6 +17,9 @@ class Db;
 // an empty optional binds or reads NULL.
 class Stmt {
 public:
+    // About ±10,000 years around 1970: a stored date beyond is damage, not a date.
+    static constexpr double maxPlausibleSeconds = 3.2e11;
+
     Stmt(Db& db, const char* sql);
 
     bool isValid() const { return m_stmt != nullptr; }

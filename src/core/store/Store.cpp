@@ -149,7 +149,11 @@ Store::Result Store::openFile()
 
     if (!m_context)
         m_context = std::make_unique<ObjectContext>(m_db);
-    if (!m_context->load()) {
+    // The day's work needs the open items and the recent past; older history is read when a
+    // list asks for it.
+    const Date historyBefore =
+        m_clock.now().dateAtStartOfDay().dateByAddingDays(-residentHistoryDays);
+    if (!m_context->load(historyBefore)) {
         if (isDamage(m_context->errorCode()))
             return moveAside(m_context->errorMessage());
         return fail(Outcome::Unreadable, QStringLiteral("The store %1 cannot be loaded."));

@@ -43,6 +43,8 @@ public:
     // The application-data folder: "Lullet" below the user's data location.
     static QString defaultFolder();
     static constexpr const char* storeFileName = "Lullet.sqlite";
+    // Finished items of these last days are read at the opening with the open ones.
+    static constexpr int residentHistoryDays = 14;
 
     // `patienceMs`: how long a busy file is waited for before the launch gives up.
     Store(QString folder, const Clock& clock, int patienceMs = 3000);

@@ -10,8 +10,18 @@ namespace lullet {
 // memory. Lives only for one load.
 class StringPool {
 public:
+    // Records read only to be looked at and dropped share nothing: their pool would only grow.
+    enum class Share { Texts, None };
+
+    explicit StringPool(Share share = Share::Texts)
+        : m_share(share == Share::Texts)
+    {
+    }
+
     QString intern(const QString& text)
     {
+        if (!m_share)
+            return text;
         const auto it = m_texts.constFind(text);
         if (it != m_texts.constEnd())
             return *it;
@@ -20,6 +30,7 @@ public:
     }
 
 private:
+    bool m_share;
     QSet<QString> m_texts;
 };
 

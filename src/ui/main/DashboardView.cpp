@@ -171,7 +171,7 @@ void DashboardView::listenToChanges()
 void DashboardView::reload()
 {
     const DashboardSummary summary =
-        DashboardSummary::of(m_services.library.items(), m_services.library.projects(),
+        DashboardSummary::of(m_services.library.allItems(), m_services.library.projects(),
                              m_services.clock, m_services.running);
     const int counts[] = {summary.overdue, summary.current, summary.upcoming};
     const int sum = counts[0] + counts[1] + counts[2];
@@ -211,14 +211,14 @@ void DashboardView::showExportMenu(const QTreeWidgetItem& row, const QPoint& whe
     commands.addActions(
         menu, this,
         [this, project] {
-            const Library& library = m_services.library;
+            Library& library = m_services.library;
             // A project deleted while the menu was open reports as no project would.
             const bool stillThere = project && std::ranges::find(library.projects(), project) !=
                                                    library.projects().end();
-            return stillThere ? Report::ofProject(*project, m_services.clock, m_services.running)
-                   : project
-                       ? Report::ofRows({}, {}, m_services.clock, m_services.running)
-                       : Report::ofNoProject(library.items(), m_services.clock, m_services.running);
+            return stillThere
+                       ? Report::ofProject(library, *project, m_services.clock, m_services.running)
+                   : project ? Report::ofRows({}, {}, m_services.clock, m_services.running)
+                             : Report::ofNoProject(library, m_services.clock, m_services.running);
         },
         ReportCommands::emptyProjectText());
     menu->popup(where);

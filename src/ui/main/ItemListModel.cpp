@@ -12,7 +12,7 @@
 
 namespace lullet {
 
-ItemListModel::ItemListModel(const Clock& clock, const Library& library, const RunningItem& running,
+ItemListModel::ItemListModel(const Clock& clock, Library& library, const RunningItem& running,
                              ListBuilder::Scope scope, bool withProjectName, QObject* parent)
     : QAbstractTableModel(parent)
     , m_clock(clock)

@@ -21,7 +21,7 @@ public:
     enum Column { StartColumn, TitleColumn, TimeColumn, DurationColumn, UsedColumn, ColumnCount };
     enum Role { ItemRole = Qt::UserRole + 1, DueRole, ProjectRole, RunningRole, FinishedRole };
 
-    ItemListModel(const Clock& clock, const Library& library, const RunningItem& running,
+    ItemListModel(const Clock& clock, Library& library, const RunningItem& running,
                   ListBuilder::Scope scope, bool withProjectName, QObject* parent = nullptr);
 
     // Builds the rows anew from the shared list.
@@ -52,7 +52,7 @@ private:
     const ListRow& freshRow(std::size_t row) const;
 
     const Clock& m_clock;
-    const Library& m_library;
+    Library& m_library;
     const RunningItem& m_running;
     ListBuilder::Scope m_scope;
     bool m_withProjectName;

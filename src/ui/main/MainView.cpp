@@ -303,7 +303,7 @@ void MainView::updateCounts()
     const Item* running = m_services.running.item();
     for (std::size_t i = 0; i < m_rows.size() && i < std::size_t(m_sidebar->count()); ++i) {
         SidebarRow& row = m_rows[i];
-        row.count = Sidebar::countFor(row, counts);
+        row.count = m_sidebarRows.countFor(row, counts);
         // Each second only the running item's project moves on.
         if (row.project && (!running || running->toProject() == row.project))
             row.progress = m_sidebarRows.projectProgress(*row.project);

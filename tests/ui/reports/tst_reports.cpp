@@ -83,7 +83,7 @@ private Q_SLOTS:
         }
         m_app->addItem(QStringLiteral("Buy seeds"), std::nullopt)->setToProject(garden);
 
-        Report report = Report::ofProject(*garden, s.clock, s.running);
+        Report report = Report::ofProject(s.library, *garden, s.clock, s.running);
         // Upcoming and Completed print their chart under the head.
         report.hoursByDay = {{QStringLiteral("24 Nov"), 1.5}, {QStringLiteral("25 Nov"), 0.25}};
         QCOMPARE(report.stats.totalCount, 61);

@@ -1,0 +1,272 @@
+// A store of months: the history stays on disk at launch, and every list and count must read
+// as it would with every item in memory.
+#include "core/activity/ProjectActions.h"
+#include "core/model/RepeatCodes.h"
+#include "core/presentation/ListBuilder.h"
+#include "core/presentation/Sidebar.h"
+#include "core/reports/Report.h"
+#include "core/store/Db.h"
+#include "support/Launched.h"
+#include "support/TestCalendar.h"
+#include "support/TestMain.h"
+
+#include <QSet>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace lullet;
+using namespace lullet::test;
+
+namespace {
+
+// What the sidebar shows: segment counts, then each project's count and progress.
+struct SidebarNumbers {
+    QList<int> counts;
+    QList<double> progress;
+    bool operator==(const SidebarNumbers&) const = default;
+};
+
+} // namespace
+
+class TestHistory : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Launched> m_app;
+
+    const Date m_made = at(2026, 10, 1, 12, 0);
+    const Date m_now = at(2026, 11, 25, 12, 0);
+
+    bool launch(Date now)
+    {
+        m_app.reset();
+        m_app = std::make_unique<Launched>(m_dir->path(), now);
+        return m_app->open();
+    }
+
+    Library& library() { return m_app->library(); }
+
+    Sidebar sidebar()
+    {
+        const Services& s = m_app->services();
+        return Sidebar(s.clock, s.library, s.catalogue, s.running);
+    }
+
+    SidebarNumbers sidebarNumbers()
+    {
+        const Sidebar bar = sidebar();
+        SidebarNumbers numbers;
+        const Sidebar::Counts c = bar.counts();
+        numbers.counts = {c.today, c.upcoming, c.anytime, c.completed};
+        for (const SidebarRow& row : bar.rows()) {
+            if (row.project) {
+                numbers.counts << row.count.value_or(-1);
+                numbers.progress << row.progress.value_or(-1);
+            }
+        }
+        return numbers;
+    }
+
+    Project* project(const QString& name) { return library().projectNamed(name); }
+
+    static QStringList titles(const std::vector<Item*>& items)
+    {
+        QStringList list;
+        for (const Item* item : items)
+            list << item->title().value_or(QString());
+        return list;
+    }
+
+    static QStringList rowTitles(const std::vector<ListRow>& rows)
+    {
+        QStringList list;
+        for (const ListRow& row : rows)
+            list << row.title;
+        return list;
+    }
+
+    Item* finished(const QString& title, Date when, Project* in, int elapsed)
+    {
+        Item* item = m_app->addItem(title, when);
+        item->setToProject(in);
+        item->setHasFinished(true);
+        item->setElapsedTime(elapsed);
+        return item;
+    }
+
+    // Two projects with months of finished work, loose history, and the items that stay in
+    // memory whatever their age: open, undated, started, or finished lately.
+    void makeStore()
+    {
+        QVERIFY(launch(m_made));
+        ProjectActions& actions = m_app->services().projectActions;
+        Project* garden = actions.addProject(QStringLiteral("Garden")).project;
+        Project* kitchen = actions.addProject(QStringLiteral("Kitchen")).project;
+        for (int i = 0; i < 30; ++i) {
+            Item* item = finished(QStringLiteral("Weed %1").arg(i), at(2026, 9, 1 + i, 9, 0),
+                                  garden, 600 + 60 * i);
+            item->setDurationMin(i % 3 == 0 ? 0 : 20);
+            item->setTimeLimit(i % 5 == 0 ? 900 : 0);
+            if (i % 7 == 0)
+                item->setRepeatOption(RepeatEnd::toDoMarker);
+        }
+        for (int i = 0; i < 5; ++i)
+            finished(QStringLiteral("Bake %1").arg(i), at(2026, 9, 10 + i, 15, 0), kitchen, 1200);
+        for (int i = 0; i < 20; ++i)
+            finished(QStringLiteral("Loose %1").arg(i), at(2026, 8, 1 + i, 8, 0), nullptr, 300);
+        // Open and planned: the project's progress is short of whole by its hour.
+        Item* plan = m_app->addItem(QStringLiteral("Plan beds"), std::nullopt);
+        plan->setToProject(garden);
+        plan->setDurationHr(1);
+        finished(QStringLiteral("Undated done"), at(2026, 9, 2), nullptr, 60)
+            ->setDtReminder(std::nullopt);
+        finished(QStringLiteral("Still started"), at(2026, 9, 3, 10, 0), garden, 120)
+            ->setHasStarted(true);
+        // Finished at launch time's recent past: within the last two weeks of the relaunch.
+        finished(QStringLiteral("Recent done"), at(2026, 11, 20, 9, 0), kitchen, 400);
+        finished(QStringLiteral("Recent two"), at(2026, 11, 21, 9, 0), nullptr, 400);
+        m_app->addItem(QStringLiteral("Overdue"), at(2026, 9, 20, 9, 0));
+        QVERIFY(library().save());
+        m_app.reset();
+    }
+
+private Q_SLOTS:
+    void initTestCase() { useTestCalendar(); }
+
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        makeStore();
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_dir.reset();
+    }
+
+    void theHistoryStaysOnDiskAndTheCountsStayTheSame()
+    {
+        QVERIFY(launch(m_now));
+        QVERIFY(library().holdsHistory());
+        QCOMPARE(library().items().size(), std::size_t(6));
+        const SidebarNumbers held = sidebarNumbers();
+        QVERIFY(library().holdsHistory());
+        QCOMPARE(held.counts[3], 59);
+
+        // One project read in: its totals now come from memory, the other's still from disk.
+        (void)ListBuilder::itemsFor({QStringLiteral("Project"), project(QStringLiteral("Garden"))},
+                                    library(), m_now);
+        QVERIFY(library().holdsHistory());
+        QCOMPARE(sidebarNumbers(), held);
+
+        library().loadHistory();
+        QVERIFY(!library().holdsHistory());
+        QCOMPARE(sidebarNumbers(), held);
+        // Each row read once, whatever was read before.
+        const std::vector<Item*>& all = library().items();
+        QCOMPARE(all.size(), std::size_t(61));
+        QSet<qint64> rows;
+        for (const Item* item : all)
+            rows.insert(item->rowId());
+        QCOMPARE(rows.size(), 61);
+    }
+
+    void everyListReadsTheHistoryItNeeds()
+    {
+        QVERIFY(launch(m_now));
+        library().loadHistory();
+        const QStringList completed = rowTitles(
+            ListBuilder::customListing(QStringLiteral("Completed"), library(), m_app->clock));
+        const QStringList garden = titles(ListBuilder::itemsFor(
+            {QStringLiteral("Project"), project(QStringLiteral("Garden"))}, library(), m_now));
+        const int loose =
+            Report::ofNoProject(library(), m_app->clock, m_app->running()).stats.totalCount;
+        QCOMPARE(garden.size(), 32);
+        QCOMPARE(loose, 23);
+
+        QVERIFY(launch(m_now));
+        QCOMPARE(rowTitles(ListBuilder::customListing(QStringLiteral("Completed"), library(),
+                                                      m_app->clock)),
+                 completed);
+        QVERIFY(launch(m_now));
+        QCOMPARE(
+            titles(ListBuilder::itemsFor(
+                {QStringLiteral("Project"), project(QStringLiteral("Garden"))}, library(), m_now)),
+            garden);
+        QVERIFY(!titles(library().items()).contains(QStringLiteral("Loose 3")));
+        QVERIFY(launch(m_now));
+        QCOMPARE(Report::ofNoProject(library(), m_app->clock, m_app->running()).stats.totalCount,
+                 loose);
+        QVERIFY(launch(m_now));
+        QStringList found;
+        for (const SidebarRow& row : sidebar().search(QStringLiteral("loose 1"), {}))
+            found << row.name;
+        QCOMPARE(found.size(), 11);
+        QVERIFY(found.contains(QStringLiteral("Loose 19")));
+    }
+
+    void editsBeforeTheHistoryIsReadAreKept()
+    {
+        QVERIFY(launch(m_now));
+        // Saved as history, and one of them deleted before the history is read: neither may come
+        // back as a second record.
+        Item* kept = nullptr;
+        Item* gone = nullptr;
+        for (Item* item : library().items()) {
+            if (item->title() == QStringLiteral("Recent done"))
+                kept = item;
+            if (item->title() == QStringLiteral("Recent two"))
+                gone = item;
+        }
+        QVERIFY(kept && gone);
+        kept->setDtReminder(at(2026, 9, 1, 9, 0));
+        gone->setDtReminder(at(2026, 9, 1, 9, 0));
+        QVERIFY(library().save());
+        library().deleteItem(gone);
+        library().loadHistory();
+        QCOMPARE(titles(library().items()).count(QStringLiteral("Recent done")), 1);
+        QVERIFY(!titles(library().items()).contains(QStringLiteral("Recent two")));
+        QVERIFY(library().save());
+
+        // A project deleted takes its history on disk along.
+        QVERIFY(launch(m_now));
+        m_app->services().projectActions.deleteProject(*project(QStringLiteral("Kitchen")));
+        QVERIFY(library().save());
+        QVERIFY(launch(m_now));
+        const QStringList all = titles(library().allItems());
+        QVERIFY(!all.contains(QStringLiteral("Bake 2")));
+        QVERIFY(!all.contains(QStringLiteral("Recent two")));
+        QCOMPARE(all.size(), 54);
+    }
+
+    void aProjectCopiedTakesItsHistory()
+    {
+        QVERIFY(launch(m_now));
+        Project* copy =
+            m_app->services().projectActions.duplicateAsNew(*project(QStringLiteral("Kitchen")));
+        QCOMPARE(copy->toReminders().size(), std::size_t(6));
+    }
+
+    void valuesReadOtherwiseKeepTheirItemInMemory()
+    {
+        {
+            Db db(QDir(m_dir->path()).filePath(QStringLiteral("data/Lullet.sqlite")));
+            QVERIFY(db.exec("INSERT INTO ReminderInfo (title, hasFinished, dtReminder) "
+                            "VALUES ('Text flag', 'yes', 0)"));
+            QVERIFY(db.exec("INSERT INTO ReminderInfo (title, hasFinished, dtReminder, "
+                            "dtReminderPostponed) VALUES ('Far date', 1, 0, 1e300)"));
+        }
+        QVERIFY(launch(m_now));
+        const QStringList held = titles(library().items());
+        // One reads as unfinished, the other as finished in 1970 by its plain date: the store's
+        // query takes neither for history, so both are read at the launch.
+        QVERIFY(held.contains(QStringLiteral("Text flag")));
+        QVERIFY(held.contains(QStringLiteral("Far date")));
+        library().loadHistory();
+        QCOMPARE(titles(library().items()).count(QStringLiteral("Far date")), 1);
+    }
+};
+
+LULLET_TEST_MAIN(TestHistory)
+#include "tst_history.moc"

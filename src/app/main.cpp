@@ -51,6 +51,13 @@ void showWindows(const Services& services, Shell& shell, MainWindow& window, boo
 {
     QObject::connect(&services.library, &Library::saveFailed, &window,
                      [&window](const QString& message) { Dialogs::inform(&window, message); });
+    QObject::connect(&services.library, &Library::readFailed, &window,
+                     [&window](const QString& message) {
+                         Dialogs::inform(&window,
+                                         QStringLiteral("Some of your older history could not be "
+                                                        "read: lists and counts may be short."),
+                                         message);
+                     });
     shell.setLoaded();
     // The idle question meets the user right after the window appears, or at once in the tray.
     const auto greet = [&services, &window] {

@@ -70,12 +70,25 @@ const std::vector<Item*>& Library::allItems()
 
 void Library::loadHistory()
 {
-    addLoaded(context().loadHistory());
+    std::vector<Item*> loaded;
+    const bool ok = context().loadHistory(loaded);
+    addLoaded(loaded);
+    tellRead(ok);
 }
 
 void Library::loadHistory(const Project& project)
 {
-    addLoaded(context().loadHistory(&project));
+    std::vector<Item*> loaded;
+    const bool ok = context().loadHistory(loaded, &project);
+    addLoaded(loaded);
+    tellRead(ok);
+}
+
+void Library::tellRead(bool ok)
+{
+    if (!ok && !m_readFailing)
+        Q_EMIT readFailed(context().errorMessage());
+    m_readFailing = !ok;
 }
 
 void Library::addLoaded(const std::vector<Item*>& loaded)
@@ -99,9 +112,9 @@ quint32 Library::historyVersion() const
     return m_store.context().historyVersion();
 }
 
-bool Library::scanHistory(const std::function<void(const Item&)>& visit) const
+void Library::scanHistory(const std::function<void(const Item&)>& visit)
 {
-    return m_store.context().scanHistory(visit);
+    tellRead(context().scanHistory(visit));
 }
 
 void Library::loadRules()

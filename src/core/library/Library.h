@@ -40,16 +40,16 @@ public:
     const std::vector<Project*>& projects() const { return m_projects; }
     const std::vector<Rule*>& rules() const { return m_rules; }
 
-    // Reads the history still on disk into the list: all of it, or one project's.
+    // Reads the history still on disk into the list: all of it, or one project's. A read error
+    // is told by readFailed(), and the next call tries the rest again.
     void loadHistory();
     void loadHistory(const Project& project);
     // Whether some history is still on disk, and a number that changes whenever that does.
     bool holdsHistory() const;
     quint32 historyVersion() const;
     // Shows each item of the history on disk to `visit` without keeping it: for totals that
-    // must count it before anyone lists it.
-    // False on a read error.
-    bool scanHistory(const std::function<void(const Item&)>& visit) const;
+    // must count it before anyone lists it. A read error is told by readFailed().
+    void scanHistory(const std::function<void(const Item&)>& visit);
 
     // The folder of the store, where the program keeps its files.
     QString dataFolder() const;
@@ -122,10 +122,13 @@ Q_SIGNALS:
     void projectContentChanged(lullet::Project* project);
     void rulesChanged();
     void saveFailed(const QString& message);
+    // The history on disk could not be read; told once for a run of failures.
+    void readFailed(const QString& message);
 
 private:
     void later(std::function<void()> emitter);
     void addLoaded(const std::vector<Item*>& loaded);
+    void tellRead(bool ok);
 
     Store& m_store;
     std::vector<Item*> m_items;
@@ -133,6 +136,7 @@ private:
     std::vector<Rule*> m_rules;
     int m_batchDepth = 0;
     bool m_saveFailing = false;
+    bool m_readFailing = false;
     bool m_batchChanged = false;
     bool m_sortPending = false;
 };

@@ -7,7 +7,7 @@
 
 namespace lullet {
 
-void HistoryTotals::update(const Library& library, const Clock& clock, const RunningItem& running)
+void HistoryTotals::update(Library& library, const Clock& clock, const RunningItem& running)
 {
     if (m_version == library.historyVersion())
         return;

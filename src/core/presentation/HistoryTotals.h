@@ -19,7 +19,7 @@ class RunningItem;
 class HistoryTotals {
 public:
     // Brings the totals up to date with the history on disk.
-    void update(const Library& library, const Clock& clock, const RunningItem& running);
+    void update(Library& library, const Clock& clock, const RunningItem& running);
 
     int finishedCount() const { return m_finished; }
     int countIn(const Project& project) const { return sumsOf(project).totalCount; }

@@ -268,14 +268,13 @@ bool ObjectContext::readHistory(const Project* project, const std::function<void
     return !stmt.failed() || fail();
 }
 
-std::vector<Item*> ObjectContext::loadHistory(const Project* project)
+bool ObjectContext::loadHistory(std::vector<Item*>& read, const Project* project)
 {
-    std::vector<Item*> read;
     if (!m_historyHeld)
-        return read;
+        return true;
     // A project never saved has no rows on disk.
     if (project && (!project->rowId() || m_historyReadFor.contains(project->rowId())))
-        return read;
+        return true;
     StringPool pool;
     const QHash<qint64, Project*> projects = projectsByRowId();
     const bool ok = readHistory(project, [&](const Stmt& stmt) {
@@ -284,7 +283,6 @@ std::vector<Item*> ObjectContext::loadHistory(const Project* project)
         linkToProject(*item, stmt, readColumns(stmt, *item, pool), projects);
         read.push_back(item);
     });
-    // After a failed read, what was read stays and the next call reads the rest.
     if (ok && project) {
         m_historyReadFor.insert(project->rowId());
     } else if (ok) {
@@ -292,7 +290,7 @@ std::vector<Item*> ObjectContext::loadHistory(const Project* project)
         m_historyReadFor.clear();
     }
     ++m_historyVersion;
-    return read;
+    return ok;
 }
 
 bool ObjectContext::scanHistory(const std::function<void(const Item&)>& visit)

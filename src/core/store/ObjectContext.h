@@ -39,9 +39,10 @@ public:
 
     // Whether some history is still on disk, not among items().
     bool holdsHistory() const { return m_historyHeld; }
-    // Reads the history on disk into items(), all of it or one project's, and answers the items
-    // read. An item already here, deleted ones included, is never read twice.
-    std::vector<Item*> loadHistory(const Project* project = nullptr);
+    // Reads the history on disk into items(), all of it or one project's, and adds the items read
+    // to `read`. An item already here, deleted ones included, is never read twice. False on a
+    // read error: what was read stays, and the next call reads the rest.
+    bool loadHistory(std::vector<Item*>& read, const Project* project = nullptr);
     // Calls `visit` for every item of the history still on disk, each read into one scratch
     // record that lives only for the call and is linked to its project one way. False on a
     // read error.

@@ -11,6 +11,7 @@
 #include "support/TestMain.h"
 
 #include <QSet>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -45,6 +46,10 @@ class TestHistory : public QObject {
     }
 
     Library& library() { return m_app->library(); }
+    QString storePath() const
+    {
+        return QDir(m_dir->path()).filePath(QStringLiteral("data/Lullet.sqlite"));
+    }
 
     Sidebar sidebar()
     {
@@ -248,10 +253,25 @@ private Q_SLOTS:
         QCOMPARE(copy->toReminders().size(), std::size_t(6));
     }
 
+    void aHistoryThatCannotBeReadIsToldOnceAndReadLater()
+    {
+        QVERIFY(launch(m_now));
+        QSignalSpy told(&library(), &Library::readFailed);
+        QVERIFY(Db(storePath()).exec("ALTER TABLE ReminderInfo RENAME TO Elsewhere"));
+        library().loadHistory();
+        (void)sidebar().counts();
+        QCOMPARE(told.count(), 1);
+        QVERIFY(library().holdsHistory());
+        QVERIFY(Db(storePath()).exec("ALTER TABLE Elsewhere RENAME TO ReminderInfo"));
+        library().loadHistory();
+        QVERIFY(!library().holdsHistory());
+        QCOMPARE(library().items().size(), std::size_t(61));
+    }
+
     void valuesReadOtherwiseKeepTheirItemInMemory()
     {
         {
-            Db db(QDir(m_dir->path()).filePath(QStringLiteral("data/Lullet.sqlite")));
+            Db db(storePath());
             QVERIFY(db.exec("INSERT INTO ReminderInfo (title, hasFinished, dtReminder) "
                             "VALUES ('Text flag', 'yes', 0)"));
             QVERIFY(db.exec("INSERT INTO ReminderInfo (title, hasFinished, dtReminder, "

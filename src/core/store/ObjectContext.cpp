@@ -277,6 +277,7 @@ bool ObjectContext::loadHistory(std::vector<Item*>& read, const Project* project
         return true;
     StringPool pool;
     const QHash<qint64, Project*> projects = projectsByRowId();
+    const std::size_t before = read.size();
     const bool ok = readHistory(project, [&](const Stmt& stmt) {
         Item* item = adopt(m_reminders);
         item->m_rowId = stmt.columnInt64(0);
@@ -289,7 +290,9 @@ bool ObjectContext::loadHistory(std::vector<Item*>& read, const Project* project
         m_historyHeld = false;
         m_historyReadFor.clear();
     }
-    ++m_historyVersion;
+    // Totals over the history on disk are worked out again only when it changed.
+    if (read.size() > before || !m_historyHeld)
+        ++m_historyVersion;
     return ok;
 }
 

@@ -70,17 +70,22 @@ const std::vector<Item*>& Library::allItems()
 
 void Library::loadHistory()
 {
-    std::vector<Item*> loaded;
-    const bool ok = context().loadHistory(loaded);
-    addLoaded(loaded);
-    tellRead(ok);
+    readHistoryIn(nullptr);
 }
 
 void Library::loadHistory(const Project& project)
 {
+    readHistoryIn(&project);
+}
+
+void Library::readHistoryIn(const Project* project)
+{
     std::vector<Item*> loaded;
-    const bool ok = context().loadHistory(loaded, &project);
-    addLoaded(loaded);
+    const bool ok = context().loadHistory(loaded, project);
+    if (!loaded.empty()) {
+        m_items.insert(m_items.end(), loaded.begin(), loaded.end());
+        sortItemsSoon();
+    }
     tellRead(ok);
 }
 
@@ -89,17 +94,6 @@ void Library::tellRead(bool ok)
     if (!ok && !m_readFailing)
         Q_EMIT readFailed(context().errorMessage());
     m_readFailing = !ok;
-}
-
-void Library::addLoaded(const std::vector<Item*>& loaded)
-{
-    if (loaded.empty())
-        return;
-    m_items.insert(m_items.end(), loaded.begin(), loaded.end());
-    if (m_batchDepth > 0)
-        m_sortPending = true;
-    else
-        ItemOrder::sortShared(m_items);
 }
 
 bool Library::holdsHistory() const
@@ -146,6 +140,11 @@ void Library::addItem(Item* item)
 {
     if (!contains(m_items, item))
         m_items.push_back(item);
+    sortItemsSoon();
+}
+
+void Library::sortItemsSoon()
+{
     // A batch adds many items (a launch makes an occurrence of every rule): it sorts once, at its
     // end, rather than the whole list for each of them.
     if (m_batchDepth > 0)

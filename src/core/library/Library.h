@@ -127,7 +127,10 @@ Q_SIGNALS:
 
 private:
     void later(std::function<void()> emitter);
-    void addLoaded(const std::vector<Item*>& loaded);
+    // All of the history on disk, or the project's.
+    void readHistoryIn(const Project* project);
+    // Now, or once at the end of the batch.
+    void sortItemsSoon();
     void tellRead(bool ok);
 
     Store& m_store;

@@ -133,4 +133,15 @@ void Postponing::postponeTo(Item* item, Date date)
     announce(item, true);
 }
 
+void Postponing::postponeBy(Item& item, int minutes, bool save)
+{
+    const std::optional<Date> date = item.effectiveDate();
+    if (!date)
+        return;
+    item.setDtReminderPostponed(date->dateByAddingMinutes(minutes));
+    if (save)
+        m_library.save();
+    m_library.announcePostponed(&item);
+}
+
 } // namespace lullet

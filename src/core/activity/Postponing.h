@@ -51,6 +51,9 @@ public:
     void chooseInMenu(Item* item, int choice);
     // The panel's free choice; the panel stays open.
     void postponeTo(Item* item, Date date);
+    // The effective date that many minutes later, for an item that has one. Without `save` the
+    // change reaches the disk with the next save.
+    void postponeBy(Item& item, int minutes, bool save = true);
 
 private:
     void announce(Item* item, bool resort);

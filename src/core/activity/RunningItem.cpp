@@ -4,6 +4,8 @@
 #include "core/library/Library.h"
 #include "core/model/Item.h"
 
+#include <utility>
+
 namespace lullet {
 
 RunningItem::RunningItem(const Clock& clock, Library& library, QObject* parent)
@@ -24,24 +26,41 @@ void RunningItem::onItemRemoved(Item* item)
     // A running item taken out of the list stops running, and that counts as an event.
     if (item != m_item)
         return;
-    m_item = nullptr;
     stampPromptNow();
+    forget();
 }
 
 void RunningItem::start(Item& item, Start how)
 {
     item.setHasStarted(true);
     m_item = &item;
-    if (how == Start::AsRecorded)
-        return;
-    const Date now = m_clock.now();
-    // Deliberately the scheduled date first here, unlike the display: the item keeps its own day.
-    const Date day = item.dtReminder().value_or(item.dtReminderPostponed().value_or(now));
-    const qint64 intoToday = now.secondsAfterDate(now.dateAtStartOfDay());
-    item.setDtReminderPostponed(day.dateAtStartOfDay().dateByAddingSeconds(int(intoToday)));
-    item.setTimeLimit(item.plannedSeconds());
-    item.setElapsedTime(0);
+    if (how == Start::Now) {
+        const Date now = m_clock.now();
+        // Deliberately the scheduled date first here, unlike the display: the item keeps its own
+        // day.
+        const Date day = item.dtReminder().value_or(item.dtReminderPostponed().value_or(now));
+        const qint64 intoToday = now.secondsAfterDate(now.dateAtStartOfDay());
+        item.setDtReminderPostponed(day.dateAtStartOfDay().dateByAddingSeconds(int(intoToday)));
+        item.setTimeLimit(item.plannedSeconds());
+        item.setElapsedTime(0);
+    }
     Q_EMIT started(&item);
+}
+
+int RunningItem::countSecond()
+{
+    if (!m_item)
+        return 0;
+    const int elapsed = m_item->elapsedTime().value_or(0) + 1;
+    m_item->setElapsedTime(elapsed);
+    return elapsed;
+}
+
+void RunningItem::forget()
+{
+    Item* was = std::exchange(m_item, nullptr);
+    if (was)
+        Q_EMIT finished(was);
 }
 
 void RunningItem::finish(Item& item, Finish how)
@@ -50,8 +69,10 @@ void RunningItem::finish(Item& item, Finish how)
     item.setHasFinished(true);
     if (m_item == &item)
         m_item = nullptr;
-    if (how == Finish::Quietly)
+    if (how == Finish::Quietly) {
+        Q_EMIT finished(&item);
         return;
+    }
     const Date now = m_clock.now();
     if (how != Finish::ToDoDone)
         m_lastPromptAt = now;
@@ -72,6 +93,7 @@ void RunningItem::extend(Item& item, int minutes)
         item.setTimeLimitExtendedBy(minutes * 60);
         item.setRunningTimeCovered(item.elapsedTime());
         m_library.save();
+        Q_EMIT extended(&item);
         return;
     }
     const int newLimit = limit + minutes * 60;

@@ -13,10 +13,12 @@ class Item;
 class Library;
 
 // The one item that runs, and the idle clock. At most one item runs at a time; it counts its
-// seconds with the monitor's ticks. The idle clock is the moment of the last prompt, or of the
-// last event that counts as one: the time with nothing running is simply now minus that moment.
-// The prompt period, in minutes, is both the idle question's and the running prompt's period of
-// an item without a limit. Main thread only.
+// seconds with the monitor's ticks. Every change of the running state is told here, once, by
+// started, extended or finished, whoever made it: nobody announces it a second time.
+// The idle clock is the moment of the last prompt, or of the last event that counts as one: the
+// time with nothing running is simply now minus that moment. The prompt period, in minutes, is
+// both the idle question's and the running prompt's period of an item without a limit. Main
+// thread only.
 class RunningItem final : public QObject {
     Q_OBJECT
 public:
@@ -44,6 +46,8 @@ public:
     };
     // Makes the item the running one. Nothing is saved.
     void start(Item& item, Start how = Start::Now);
+    // One more second for the running item; answers its seconds run so far (0 when none runs).
+    int countSecond();
 
     enum class Finish {
         // Stopping is finishing: the item keeps its dates; the idle clock starts again.
@@ -62,8 +66,9 @@ public:
     // minutes. Saved.
     void extend(Item& item, int minutes);
 
-    // The store was replaced: the record is gone, and nothing runs.
-    void forget() { m_item = nullptr; }
+    // The record is gone (the store was replaced, or the item left the list): nothing runs, and
+    // nothing is written to it.
+    void forget();
 
 Q_SIGNALS:
     void started(lullet::Item* item);

@@ -68,7 +68,7 @@ void IdlePrompt::putOff()
     if (m_answered)
         return;
     leaveUnanswered();
-    m_running.stampPrompt(m_clock.now());
+    m_running.stampPromptNow();
 }
 
 PromptOutcome IdlePrompt::answer(const QString& text, Project* project, bool alreadyDone)
@@ -93,11 +93,8 @@ PromptOutcome IdlePrompt::answer(const QString& text, Project* project, bool alr
     item->setRepeatOption(0);
     item->setDtRepeatUpto(now);
     item->setNotes(QString());
+    item->setToProject(project);
     m_library.addItem(item);
-    if (project) {
-        item->setToProject(project);
-        m_library.announceProjectContent(project);
-    }
 
     // An answer in the "now" mode counts from the moment of asking, any other from the start of
     // the gap.
@@ -106,15 +103,14 @@ PromptOutcome IdlePrompt::answer(const QString& text, Project* project, bool alr
     const int period = m_running.promptPeriod();
     const int sinceAsked = int(now.minutesAfterDate(m_askedAt));
     item->setTimeLimitExtendedBy(period > sinceAsked ? 60 * period : 60 * (period + sinceAsked));
-    m_running.start(*item, RunningItem::Start::AsRecorded);
-    m_library.save();
-    m_library.announceItemChanged(item);
-    m_running.stampPrompt(m_askedAt);
-
+    // Either way the running item tells the views: the new item is one change, not two.
     if (alreadyDone) {
         m_running.finish(*item);
         return PromptOutcome::CloseAtOnceAndAsk;
     }
+    m_running.start(*item, RunningItem::Start::AsRecorded);
+    m_library.save();
+    m_running.stampPrompt(m_askedAt);
     return PromptOutcome::Close;
 }
 

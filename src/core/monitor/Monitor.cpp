@@ -40,8 +40,7 @@ void Monitor::tick()
     if (Item* item = running.item()) {
         const Date now = m_services.clock.now();
         const int limit = item->timeLimit().value_or(0);
-        const int elapsed = item->elapsedTime().value_or(0) + 1;
-        item->setElapsedTime(elapsed);
+        const int elapsed = running.countSecond();
 
         if (limit <= 0) {
             // An unlimited item asks again every period, counted from the last prompt. The

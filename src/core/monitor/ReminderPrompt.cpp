@@ -1,17 +1,15 @@
 #include "core/monitor/ReminderPrompt.h"
 
+#include "core/activity/Postponing.h"
 #include "core/activity/RunningItem.h"
-#include "core/dates/Clock.h"
-#include "core/library/Library.h"
 #include "core/model/Item.h"
 #include "core/monitor/TimeOverPrompt.h"
 
 namespace lullet {
 
-ReminderPrompt::ReminderPrompt(const Clock& clock, Library& library, RunningItem& running,
-                               Item* due, Item* previous)
-    : m_clock(clock)
-    , m_library(library)
+ReminderPrompt::ReminderPrompt(Postponing& postponing, RunningItem& running, Item* due,
+                               Item* previous)
+    : m_postponing(postponing)
     , m_running(running)
     , m_due(due)
     , m_previous(previous)
@@ -36,34 +34,23 @@ QString ReminderPrompt::previousText() const
 
 PromptOutcome ReminderPrompt::start()
 {
-    if (m_due) {
+    if (m_due)
         m_running.start(*m_due);
-        m_library.announceItemChanged();
-    }
-    return PromptOutcome::Close;
-}
-
-PromptOutcome ReminderPrompt::postpone(int minutes, bool save)
-{
-    if (m_due) {
-        if (const std::optional<Date> date = m_due->effectiveDate()) {
-            m_due->setDtReminderPostponed(date->dateByAddingMinutes(minutes));
-            if (save)
-                m_library.save();
-            m_library.announcePostponed(m_due);
-        }
-    }
     return PromptOutcome::Close;
 }
 
 PromptOutcome ReminderPrompt::postpone10()
 {
-    return postpone(10, false);
+    if (m_due)
+        m_postponing.postponeBy(*m_due, 10, false);
+    return PromptOutcome::Close;
 }
 
 PromptOutcome ReminderPrompt::postpone30()
 {
-    return postpone(30, true);
+    if (m_due)
+        m_postponing.postponeBy(*m_due, 30);
+    return PromptOutcome::Close;
 }
 
 PromptOutcome ReminderPrompt::finishPrevious()
@@ -78,14 +65,9 @@ PromptOutcome ReminderPrompt::moreTime(int minutes)
 {
     if (m_previous)
         m_running.extend(*m_previous, minutes);
-    if (m_due) {
-        if (const std::optional<Date> date = m_due->effectiveDate()) {
-            m_due->setDtReminderPostponed(date->dateByAddingMinutes(minutes));
-            m_library.save();
-            m_library.announcePostponed(m_due);
-        }
-    }
-    m_running.stampPrompt(m_clock.now());
+    if (m_due)
+        m_postponing.postponeBy(*m_due, minutes);
+    m_running.stampPromptNow();
     return PromptOutcome::Close;
 }
 

@@ -6,17 +6,15 @@
 
 namespace lullet {
 
-class Clock;
 class Item;
-class Library;
+class Postponing;
 class RunningItem;
 
 // A scheduled item is due: start it, delay it, or, where another item still runs, say that the
 // other one is finished or needs more time. This is where an item becomes the running one.
 class ReminderPrompt {
 public:
-    ReminderPrompt(const Clock& clock, Library& library, RunningItem& running, Item* due,
-                   Item* previous);
+    ReminderPrompt(Postponing& postponing, RunningItem& running, Item* due, Item* previous);
 
     Item* due() const { return m_due; }
     Item* previous() const { return m_previous; }
@@ -38,10 +36,7 @@ public:
     PromptOutcome moreTime(int minutes);
 
 private:
-    PromptOutcome postpone(int minutes, bool save);
-
-    const Clock& m_clock;
-    Library& m_library;
+    Postponing& m_postponing;
     RunningItem& m_running;
     Item* m_due;
     Item* m_previous;

@@ -6,15 +6,13 @@
 
 namespace lullet {
 
-class Clock;
 class Item;
-class Library;
 class RunningItem;
 
 // The running item's time is over: is it finished, or does it need more time?
 class TimeOverPrompt {
 public:
-    TimeOverPrompt(const Clock& clock, Library& library, RunningItem& running, Item* item);
+    TimeOverPrompt(RunningItem& running, Item* item);
 
     Item* item() const { return m_item; }
 
@@ -27,8 +25,6 @@ public:
     PromptOutcome moreTime(int minutes);
 
 private:
-    const Clock& m_clock;
-    Library& m_library;
     RunningItem& m_running;
     Item* m_item;
 };

@@ -1,6 +1,7 @@
 #include "ui/main/AddTaskView.h"
 
 #include "core/activity/ItemActions.h"
+#include "core/activity/RunningItem.h"
 #include "core/app/Services.h"
 #include "core/library/Library.h"
 #include "core/model/Item.h"
@@ -114,6 +115,10 @@ void AddTaskView::listenToChanges()
         reload();
     });
     connect(&library, &Library::projectContentChanged, this, &AddTaskView::reload);
+    const RunningItem& running = m_services.running;
+    connect(&running, &RunningItem::started, this, &AddTaskView::reload);
+    connect(&running, &RunningItem::finished, this, &AddTaskView::reload);
+    connect(&running, &RunningItem::extended, this, &AddTaskView::reload);
     connect(&library, &Library::projectRemoved, this, [this](Project* project) {
         if (project == m_project)
             m_project = nullptr;

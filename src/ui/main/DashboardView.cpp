@@ -1,5 +1,6 @@
 #include "ui/main/DashboardView.h"
 
+#include "core/activity/RunningItem.h"
 #include "core/app/Services.h"
 #include "core/library/Library.h"
 #include "core/monitor/Monitor.h"
@@ -164,6 +165,8 @@ void DashboardView::listenToChanges()
     connect(&library, &Library::itemPostponed, this, &DashboardView::reload);
     connect(&library, &Library::projectsChanged, this, &DashboardView::reload);
     connect(&library, &Library::projectContentChanged, this, &DashboardView::reload);
+    connect(&m_services.running, &RunningItem::started, this, &DashboardView::reload);
+    connect(&m_services.running, &RunningItem::finished, this, &DashboardView::reload);
     // Items cross now and midnight while nothing else changes.
     connect(&m_services.monitor, &Monitor::minutePassed, this, &DashboardView::reload);
 }

@@ -446,10 +446,10 @@ void ItemListView::onRunningChanged(Item* item)
         return;
     }
     // The row started or stopped from the keyboard stays the current one, to be stopped the
-    // same way.
+    // same way; an item the list did not hold yet (an idle answer) is shown selected.
     const Item* current = selectedItem();
     reload();
-    select(current);
+    select(current ? current : item);
 }
 
 void ItemListView::spanHeadings()

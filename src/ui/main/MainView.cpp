@@ -228,6 +228,7 @@ void MainView::listenToChanges()
     connect(&library, &Library::rulesChanged, this, &MainView::updateCounts);
     connect(&m_services.running, &RunningItem::started, this, &MainView::updateCounts);
     connect(&m_services.running, &RunningItem::finished, this, &MainView::updateCounts);
+    connect(&m_services.running, &RunningItem::extended, this, &MainView::updateCounts);
     connect(&library, &Library::projectsChanged, this, &MainView::loadSidebar);
     connect(&library, &Library::projectRemoved, this, [this](Project* project) {
         if (project == m_project)

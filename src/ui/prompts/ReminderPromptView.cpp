@@ -13,7 +13,7 @@ namespace lullet {
 ReminderPromptView::ReminderPromptView(const Services& services, Item* due, Item* previous,
                                        QWidget* parent)
     : PromptView(parent)
-    , m_prompt(services.clock, services.library, services.running, due, previous)
+    , m_prompt(services.postponing, services.running, due, previous)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

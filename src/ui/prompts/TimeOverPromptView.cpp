@@ -10,7 +10,7 @@ namespace lullet {
 
 TimeOverPromptView::TimeOverPromptView(const Services& services, Item* item, QWidget* parent)
     : PromptView(parent)
-    , m_prompt(services.clock, services.library, services.running, item)
+    , m_prompt(services.running, item)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

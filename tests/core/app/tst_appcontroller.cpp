@@ -1,6 +1,12 @@
+#include "core/activity/ItemActions.h"
+#include "core/activity/Postponing.h"
+#include "core/backup/Backups.h"
 #include "core/dates/CalendarContext.h"
 #include "core/library/ItemOrder.h"
+#include "core/monitor/IdlePrompt.h"
 #include "core/monitor/Monitor.h"
+#include "core/monitor/ReminderPrompt.h"
+#include "core/monitor/TimeOverPrompt.h"
 #include "core/scheduling/WorkingHours.h"
 #include "core/security/Lock.h"
 #include "core/store/Db.h"
@@ -169,17 +175,62 @@ private Q_SLOTS:
         // Nothing runs: the program sleeps until the next whole minute, not a second.
         QVERIFY(app.core.nextTickIn() > std::chrono::seconds(39));
         QVERIFY(app.core.nextTickIn() <= std::chrono::milliseconds(40100));
-        // An item runs: it is timed each second, and when it ends the minute wait is back.
-        Item* item = app.addItem(QStringLiteral("Walk break"), at(2026, 11, 23, 9));
-        app.running().start(*item);
-        QVERIFY(app.core.nextTickIn() <= std::chrono::seconds(1));
-        app.running().finish(*item, RunningItem::Finish::Stop);
-        QVERIFY(app.core.nextTickIn() > std::chrono::seconds(39));
-
         QCOMPARE(app.core.prepareToQuit(), AppController::QuitReply::Now);
         app.core.finishQuit();
         QVERIFY(!app.core.isMonitoring());
         QCOMPARE(app.inhibitor.released, std::vector<quint32>{77});
+    }
+
+    // Whatever starts an item, its clock moves each second from then on; whatever ends it, the
+    // minute wait is back.
+    void everyWayToStartAnItemTicksEachSecond()
+    {
+        Launched app(dir(), at(2026, 11, 23, 9));
+        QVERIFY(app.open());
+        app.clock.set(at(2026, 11, 23, 9, 0, 5));
+        app.settings.setValue(SettingsKeys::automaticBackup, false);
+        app.core.startMonitoring();
+        const auto secondPace = [&app] { return app.core.nextTickIn() <= std::chrono::seconds(1); };
+        const auto minutePace = [&app] { return app.core.nextTickIn() > std::chrono::seconds(50); };
+        const Services& s = app.services();
+        QVERIFY(minutePace());
+
+        Item* due = app.addItem(QStringLiteral("Walk break"), at(2026, 11, 23, 9));
+        ReminderPrompt(s.postponing, app.running(), due, nullptr).start();
+        QVERIFY(secondPace());
+        TimeOverPrompt(app.running(), due).finish();
+        QVERIFY(minutePace());
+
+        IdlePrompt(app.clock, app.library(), app.running(), at(2026, 11, 23, 8, 40), false)
+            .answer(QStringLiteral("Reading"), nullptr, false);
+        QVERIFY(secondPace());
+        Item* answered = app.running().item();
+        QVERIFY(answered);
+        // More time for an item without a limit is told like any change of the running item.
+        int extended = 0;
+        connect(&app.running(), &RunningItem::extended, this, [&extended] { ++extended; });
+        TimeOverPrompt(app.running(), answered).moreTime(15);
+        QCOMPARE(extended, 1);
+        s.itemActions.finish(*answered);
+        QVERIFY(minutePace());
+
+        Item* listed = app.addItem(QStringLiteral("Letters"), std::nullopt);
+        QCOMPARE(s.itemActions.start(*listed), ItemActions::StartResult::Started);
+        QVERIFY(secondPace());
+        Item* other = app.addItem(QStringLiteral("Filing"), std::nullopt);
+        s.itemActions.confirmStart(*other);
+        QVERIFY(secondPace());
+
+        // The store replaced under the running item: nothing runs any more.
+        const QString copy = QDir(dir()).filePath(QStringLiteral("copy.sqlite"));
+        QSignalSpy copied(&s.backups, &Backups::backedUp);
+        s.backups.backUpTo(copy);
+        QVERIFY(copied.wait(5000));
+        QSignalSpy restored(&s.backups, &Backups::restored);
+        s.backups.restoreFrom(copy, QString());
+        QVERIFY(restored.wait(5000));
+        QVERIFY(!app.running().item());
+        QVERIFY(minutePace());
     }
 
     void aDesktopWithoutTheServiceIsNoError()

@@ -88,7 +88,7 @@ int main(int argc, char* argv[])
 
     // "Completed" lists the whole history, 48,000 rows under their days.
     ItemListModel completed(services.clock, services.library, services.running,
-                            {QStringLiteral("Completed"), nullptr, false}, true);
+                            {Segment::Completed, nullptr, false}, true);
     const double completedBuild = medianNanos(5, [&] { completed.reload(); });
     report("\"Completed\" from 50,000 items", completedBuild, 500e6);
     std::printf("  (%d rows)\n", completed.rowCount());

@@ -4,12 +4,18 @@
 #include "core/library/ItemOrder.h"
 #include "core/library/Library.h"
 #include "core/model/Item.h"
+#include "core/model/Project.h"
 #include "core/presentation/RowTexts.h"
 #include "core/text/LocalizedText.h"
 
 #include <algorithm>
 
 namespace lullet {
+
+QString ListBuilder::Scope::title() const
+{
+    return project ? project->name().value_or(QString()) : Segments::text(segment);
+}
 
 int ListBuilder::reminderWindowDays(const Item& item)
 {
@@ -103,17 +109,17 @@ std::vector<ListRow> ListBuilder::groupByDay(const std::vector<Item*>& items, co
         rows.push_back(RowTexts::makeRow(item, clock, withProjectName));
     }
     if (!undated.empty()) {
-        heading(QStringLiteral("AnyTime"));
+        heading(Segments::text(Segment::Anytime));
         for (Item* item : undated)
             rows.push_back(RowTexts::makeRow(item, clock, withProjectName));
     }
     return rows;
 }
 
-std::vector<ListRow> ListBuilder::customListing(const QString& segment, Library& library,
+std::vector<ListRow> ListBuilder::customListing(Segment segment, Library& library,
                                                 const Clock& clock)
 {
-    const bool upcoming = segment == QStringLiteral("Upcoming");
+    const bool upcoming = segment == Segment::Upcoming;
     if (!upcoming)
         library.loadHistory();
     const Date now = clock.now();

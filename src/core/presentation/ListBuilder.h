@@ -2,6 +2,7 @@
 
 #include "core/dates/Date.h"
 #include "core/presentation/ListRow.h"
+#include "core/presentation/Segment.h"
 
 #include <QString>
 
@@ -19,16 +20,18 @@ class Project;
 class ListBuilder {
 public:
     struct Scope {
-        QString segment = QStringLiteral("Today");
+        Segment segment = Segment::Today;
         Project* project = nullptr;
         bool showRunningOnly = false;
 
-        bool isAnytime() const { return segment == QStringLiteral("Anytime"); }
-        bool isToday() const { return segment == QStringLiteral("Today"); }
+        bool isAnytime() const { return segment == Segment::Anytime; }
+        bool isToday() const { return segment == Segment::Today; }
         bool isCustomListing() const
         {
-            return segment == QStringLiteral("Upcoming") || segment == QStringLiteral("Completed");
+            return segment == Segment::Upcoming || segment == Segment::Completed;
         }
+        // The list's name: the project's, or the segment's.
+        QString title() const;
     };
 
     // The days ahead within which an item already shows in "Today".
@@ -68,7 +71,7 @@ public:
     // "Wed 25, Nov 2026": the heading of a day's group.
     static QString dayHeading(Date day);
     // Rows grouped by day, each day under its heading, the days in date order and the items
-    // without a date last under "AnyTime".
+    // without a date last under "Anytime".
     static std::vector<ListRow> groupByDay(const std::vector<Item*>& items, const Clock& clock,
                                            bool withProjectName);
 
@@ -76,7 +79,7 @@ public:
     // (finished dated items, the newest day first), by day; within a day the later first. A
     // heading carries the day's count and the time used on it. "Completed" reads the whole
     // history in first.
-    static std::vector<ListRow> customListing(const QString& segment, Library& library,
+    static std::vector<ListRow> customListing(Segment segment, Library& library,
                                               const Clock& clock);
     // Seconds used by day, the days in time order, for the chart.
     static std::vector<std::pair<Date, int>> timeUsedByDay(const std::vector<ListRow>& rows);

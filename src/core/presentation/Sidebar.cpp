@@ -22,30 +22,6 @@ Sidebar::Sidebar(const Clock& clock, Library& library, const Catalogue& catalogu
 {
 }
 
-const QStringList& Sidebar::segmentNames()
-{
-    static const QStringList types = {QStringLiteral("Dashboard"), QStringLiteral("Lullets"),
-                                      QStringLiteral("Today"),     QStringLiteral("Upcoming"),
-                                      QStringLiteral("Anytime"),   QStringLiteral("Completed")};
-    return types;
-}
-
-QString Sidebar::viewFor(const QString& selection)
-{
-    const QString s = selection.toLower();
-    if (s == u"dashboard")
-        return QStringLiteral("Chart");
-    if (s == u"lullets")
-        return QStringLiteral("RepeatList");
-    if (s == u"today" || s == u"anytime")
-        return QStringLiteral("LulletList");
-    if (s == u"upcoming" || s == u"completed")
-        return QStringLiteral("CustomList");
-    if (s == u"project")
-        return QStringLiteral("ProjectList");
-    return {};
-}
-
 Sidebar::Counts Sidebar::counts() const
 {
     Counts c;
@@ -78,19 +54,23 @@ std::optional<int> Sidebar::countFor(const SidebarRow& row, const Counts& counts
         return row.project ? std::optional<int>(int(row.project->toReminders().size()) +
                                                 history().countIn(*row.project))
                            : std::nullopt;
-    if (row.type != SidebarRow::Segment)
+    if (row.type != SidebarRow::SegmentRow)
         return std::nullopt;
-    const QString name = row.name.toLower();
-    if (name == u"anytime")
+    switch (row.segment) {
+    case Segment::Anytime:
         return counts.anytime;
-    if (name == u"lullets")
+    case Segment::Lullets:
         return counts.lullets;
-    if (name == u"completed")
+    case Segment::Completed:
         return counts.completed;
-    if (name == u"upcoming")
+    case Segment::Upcoming:
         return counts.upcoming;
-    if (name == u"today")
+    case Segment::Today:
         return counts.today;
+    case Segment::Dashboard:
+    case Segment::Project:
+        break;
+    }
     return std::nullopt;
 }
 
@@ -98,20 +78,22 @@ std::vector<SidebarRow> Sidebar::rows() const
 {
     const Counts all = counts();
     std::vector<SidebarRow> rows;
-    for (const QString& name : segmentNames()) {
-        SidebarRow row{name, SidebarRow::Segment, nullptr, nullptr, std::nullopt, std::nullopt};
+    for (const Segment segment : Segments::sidebar) {
+        SidebarRow row;
+        row.name = Segments::text(segment);
+        row.segment = segment;
         row.count = countFor(row, all);
         rows.push_back(row);
     }
-    rows.push_back(
-        {QString(), SidebarRow::Separator, nullptr, nullptr, std::nullopt, std::nullopt});
+    SidebarRow separator;
+    separator.type = SidebarRow::Separator;
+    rows.push_back(separator);
     for (Project* project : m_library.projects()) {
-        SidebarRow row{project->name().value_or(QString()),
-                       SidebarRow::ProjectRow,
-                       project,
-                       nullptr,
-                       std::nullopt,
-                       std::nullopt};
+        SidebarRow row;
+        row.name = project->name().value_or(QString());
+        row.type = SidebarRow::ProjectRow;
+        row.segment = Segment::Project;
+        row.project = project;
         row.count = countFor(row, all);
         row.progress = projectProgress(*project);
         rows.push_back(row);
@@ -131,18 +113,18 @@ double Sidebar::projectProgress(const Project& project) const
                : 0.0;
 }
 
-QString Sidebar::segmentFor(const Item& item) const
+Segment Sidebar::segmentFor(const Item& item, Date now)
 {
     if (item.toProject())
-        return QStringLiteral("Project");
+        return Segment::Project;
     if (item.isFinished())
-        return QStringLiteral("Completed");
+        return Segment::Completed;
     const std::optional<Date> due = item.effectiveDate();
     if (!due)
-        return QStringLiteral("Anytime");
-    const ListBuilder::Today today(m_clock.now());
-    return today.daysTo(*due) <= ListBuilder::reminderWindowDays(item) ? QStringLiteral("Today")
-                                                                       : QStringLiteral("Upcoming");
+        return Segment::Anytime;
+    const ListBuilder::Today today(now);
+    return today.daysTo(*due) <= ListBuilder::reminderWindowDays(item) ? Segment::Today
+                                                                       : Segment::Upcoming;
 }
 
 std::vector<SidebarRow> Sidebar::search(const QString& text,
@@ -181,8 +163,9 @@ std::vector<SidebarRow> Sidebar::search(const QString& text,
             for (const Item* item : row.project->toReminders())
                 hit = hit || matchesAny(item->title().value_or(QString()));
         }
-        const QString lower = row.name.toLower();
-        if ((today && lower == u"today") || (anytime && lower == u"anytime"))
+        const bool isSegment = row.type == SidebarRow::SegmentRow;
+        if (isSegment && ((today && row.segment == Segment::Today) ||
+                          (anytime && row.segment == Segment::Anytime)))
             hit = true;
         if (hit)
             found.push_back(row);
@@ -201,8 +184,10 @@ std::vector<SidebarRow> Sidebar::search(const QString& text,
         const bool isAnytime = anytime && !due;
         if ((byTitle || isToday || isAnytime) && !listed.contains(item)) {
             listed.insert(item);
-            found.push_back(
-                {title, SidebarRow::Segment, nullptr, item, std::nullopt, std::nullopt});
+            SidebarRow result;
+            result.name = title;
+            result.item = item;
+            found.push_back(result);
         }
     }
     return found;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/presentation/HistoryTotals.h"
+#include "core/presentation/Segment.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -19,10 +19,13 @@ class RunningItem;
 
 // The sidebar of the main window: the six segments, a separator, then the projects.
 struct SidebarRow {
-    enum Type { Segment = 0, ProjectRow = 1, Separator = 3 };
+    enum Type { SegmentRow = 0, ProjectRow = 1, Separator = 3 };
 
+    // What the row reads: the segment's text, the project's or the item's name.
     QString name;
-    int type = Segment;
+    int type = SegmentRow;
+    // Of a segment's row.
+    Segment segment = Segment::Today;
     Project* project = nullptr;
     // Search results may also be items.
     Item* item = nullptr;
@@ -35,12 +38,6 @@ class Sidebar {
 public:
     Sidebar(const Clock& clock, Library& library, const Catalogue& catalogue,
             const RunningItem& running);
-
-    // "Dashboard", "Lullets", "Today", "Upcoming", "Anytime", "Completed".
-    static const QStringList& segmentNames();
-    // The view that shows a selection: "Chart", "RepeatList", "LulletList", "CustomList" or
-    // "ProjectList" (for the selection "Project").
-    static QString viewFor(const QString& selection);
 
     // The six segments with their counts, the separator, and a row for each project.
     std::vector<SidebarRow> rows() const;
@@ -60,7 +57,7 @@ public:
     double projectProgress(const Project& project) const;
 
     // Where a search result leads: the project's own list, or the segment that lists the item.
-    QString segmentFor(const Item& item) const;
+    static Segment segmentFor(const Item& item, Date now);
 
     // Comma-separated terms; "today" and "anytime" stand for those items. Matching ignores case
     // and diacritics: rows by name, projects also by the titles of their items, items by title.

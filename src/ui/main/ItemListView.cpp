@@ -83,8 +83,7 @@ void ItemListView::buildHeader(QVBoxLayout* layout)
     auto* texts = new QVBoxLayout;
     // A long project name gives way, whole in its tooltip; the badge and the circle keep their
     // size.
-    m_name = new ElidedLabel(
-        scope.project ? scope.project->name().value_or(QString()) : scope.segment, this);
+    m_name = new ElidedLabel(scope.title(), this);
     m_name->setObjectName(QStringLiteral("listName"));
     QFont big = m_name->font();
     big.setPointSizeF(big.pointSizeF() * 1.6);
@@ -198,8 +197,8 @@ void ItemListView::buildExportButton(QHBoxLayout* row)
 Report ItemListView::report() const
 {
     const ListBuilder::Scope& scope = m_model->scope();
-    const QString title = scope.project ? scope.project->name().value_or(QString()) : scope.segment;
-    Report report = Report::ofRows(title, m_model->rows(), m_services.clock, m_services.running);
+    Report report =
+        Report::ofRows(scope.title(), m_model->rows(), m_services.clock, m_services.running);
     if (m_chart)
         report.hoursByDay = m_chart->bars();
     return report;
@@ -241,8 +240,7 @@ void ItemListView::buildTable(QVBoxLayout* layout)
     m_table->setModel(m_model);
     m_table->setObjectName(QStringLiteral("items"));
     const ListBuilder::Scope& scope = m_model->scope();
-    const QString listName =
-        scope.project ? scope.project->name().value_or(QString()) : scope.segment;
+    const QString listName = scope.title();
     m_table->setAccessibleName(listName.isEmpty() ? tr("Items") : listName);
     m_table->setShowGrid(false);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -420,8 +418,7 @@ void ItemListView::onItemsChanged(Item* item)
     const ListBuilder::Scope& shown = m_model->scope();
     if (!item || !item->hasContext() || !m_withHeader || shown.project || shown.isCustomListing())
         return;
-    const QString target =
-        item->effectiveDate() ? QStringLiteral("Today") : QStringLiteral("Anytime");
+    const Segment target = item->effectiveDate() ? Segment::Today : Segment::Anytime;
     if (target != shown.segment &&
         ListBuilder::belongs(*item, {target, nullptr, false}, m_services.clock.now()))
         Q_EMIT segmentRequested(target);
@@ -442,7 +439,7 @@ void ItemListView::onRunningChanged(Item* item)
 {
     // Upcoming and Completed give way to "Today", where the running state shows.
     if (m_withHeader && m_model->scope().isCustomListing() && item) {
-        Q_EMIT segmentRequested(QStringLiteral("Today"));
+        Q_EMIT segmentRequested(Segment::Today);
         return;
     }
     // The row started or stopped from the keyboard stays the current one, to be stopped the

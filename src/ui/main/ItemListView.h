@@ -49,7 +49,7 @@ public:
 
 Q_SIGNALS:
     // The main view is asked to show another segment, where an item now belongs.
-    void segmentRequested(const QString& segment);
+    void segmentRequested(lullet::Segment segment);
     // The project list's own buttons.
     void projectDeletionRequested(lullet::Project* project);
     void projectDuplicated(lullet::Project* project);

@@ -166,9 +166,7 @@ void paintHeading(QPainter& painter, Pages& pages, const ListRow& row, const QFo
     painter.fillRect(area, band);
     painter.setPen(ink);
     painter.setFont(font);
-    const QString text =
-        row.title == QStringLiteral("AnyTime") ? QStringLiteral("Anytime") : row.title;
-    painter.drawText(area.adjusted(8, 0, -8, 0), Qt::AlignLeft | Qt::AlignVCenter, text);
+    painter.drawText(area.adjusted(8, 0, -8, 0), Qt::AlignLeft | Qt::AlignVCenter, row.title);
     pages.advance(headingHeight);
 }
 

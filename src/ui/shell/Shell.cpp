@@ -138,7 +138,7 @@ void Shell::connectBackups()
         // An open prompt or list holds records of the store that went.
         m_tray->closePopoverImmediate();
         if (MainView* main = m_content ? m_content->mainView() : nullptr)
-            main->showAfterRestore(shownProject);
+            main->showAfterReload(shownProject);
     });
 }
 
@@ -326,7 +326,7 @@ void Shell::bringMainWindowForward(const std::function<void()>& whenShown)
 const Project* Shell::selectedProject() const
 {
     const MainView* main = m_content ? m_content->mainView() : nullptr;
-    return main ? main->selectedProject() : nullptr;
+    return main ? main->shownProject() : nullptr;
 }
 
 void Shell::showPrompt(const std::function<QWidget*()>& make)

@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(held.counts[3], 59);
 
         // One project read in: its totals now come from memory, the other's still from disk.
-        (void)ListBuilder::itemsFor({QStringLiteral("Project"), project(QStringLiteral("Garden"))},
+        (void)ListBuilder::itemsFor({Segment::Project, project(QStringLiteral("Garden"))},
                                     library(), m_now);
         QVERIFY(library().holdsHistory());
         QCOMPARE(sidebarNumbers(), held);
@@ -181,24 +181,22 @@ private Q_SLOTS:
     {
         QVERIFY(launch(m_now));
         library().loadHistory();
-        const QStringList completed = rowTitles(
-            ListBuilder::customListing(QStringLiteral("Completed"), library(), m_app->clock));
+        const QStringList completed =
+            rowTitles(ListBuilder::customListing(Segment::Completed, library(), m_app->clock));
         const QStringList garden = titles(ListBuilder::itemsFor(
-            {QStringLiteral("Project"), project(QStringLiteral("Garden"))}, library(), m_now));
+            {Segment::Project, project(QStringLiteral("Garden"))}, library(), m_now));
         const int loose =
             Report::ofNoProject(library(), m_app->clock, m_app->running()).stats.totalCount;
         QCOMPARE(garden.size(), 32);
         QCOMPARE(loose, 23);
 
         QVERIFY(launch(m_now));
-        QCOMPARE(rowTitles(ListBuilder::customListing(QStringLiteral("Completed"), library(),
-                                                      m_app->clock)),
+        QCOMPARE(rowTitles(ListBuilder::customListing(Segment::Completed, library(), m_app->clock)),
                  completed);
         QVERIFY(launch(m_now));
-        QCOMPARE(
-            titles(ListBuilder::itemsFor(
-                {QStringLiteral("Project"), project(QStringLiteral("Garden"))}, library(), m_now)),
-            garden);
+        QCOMPARE(titles(ListBuilder::itemsFor({Segment::Project, project(QStringLiteral("Garden"))},
+                                              library(), m_now)),
+                 garden);
         QVERIFY(!titles(library().items()).contains(QStringLiteral("Loose 3")));
         QVERIFY(launch(m_now));
         QCOMPARE(Report::ofNoProject(library(), m_app->clock, m_app->running()).stats.totalCount,

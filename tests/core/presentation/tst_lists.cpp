@@ -84,7 +84,7 @@ private Q_SLOTS:
                  QStringLiteral("Overdue by 1 day at ") + at(*yesterday->dtReminder()));
         QVERIFY(RowTexts::makeRow(yesterday, clock(), true).dueOrOverdue);
         QCOMPARE(timeText(inThree), QStringLiteral("In 3 days at ") + at(*inThree->dtReminder()));
-        QCOMPARE(titles({QStringLiteral("Anytime"), nullptr, false}),
+        QCOMPARE(titles({Segment::Anytime, nullptr, false}),
                  QStringList{QStringLiteral("Anytime")});
     }
 
@@ -201,7 +201,7 @@ private Q_SLOTS:
         item(QStringLiteral("Soon"), test::at(2026, 11, 25, 15, 0))->setToProject(home);
         item(QStringLiteral("Whenever"), std::nullopt)->setToProject(home);
         item(QStringLiteral("Elsewhere"), test::at(2026, 11, 25, 9, 0));
-        const ListBuilder::Scope scope{QStringLiteral("Project"), home, false};
+        const ListBuilder::Scope scope{Segment::Project, home, false};
         const std::vector<ListRow> rows = ListBuilder::groupByDay(
             ListBuilder::itemsFor(scope, app().library(), clock().now()), clock(), false);
         QStringList shown;
@@ -210,7 +210,7 @@ private Q_SLOTS:
                          row.title;
         QCOMPARE(shown, (QStringList{QStringLiteral("# Wed 25, Nov 2026"), QStringLiteral("Done"),
                                      QStringLiteral("Soon"), QStringLiteral("# Fri 27, Nov 2026"),
-                                     QStringLiteral("Later"), QStringLiteral("# AnyTime"),
+                                     QStringLiteral("Later"), QStringLiteral("# Anytime"),
                                      QStringLiteral("Whenever")}));
     }
 
@@ -230,7 +230,7 @@ private Q_SLOTS:
             r->setHasFinished(true);
             r->setElapsedTime(used);
         }
-        const auto shown = [this](const QString& segment) {
+        const auto shown = [this](Segment segment) {
             QStringList list;
             for (const ListRow& row : ListBuilder::customListing(segment, app().library(), clock()))
                 list << (row.type == ListRow::DayHeading ? QStringLiteral("# %1 %2 %3")
@@ -241,18 +241,18 @@ private Q_SLOTS:
             return list;
         };
         // The nearest day first, the later first within a day; nothing past or undated.
-        QCOMPARE(shown(QStringLiteral("Upcoming")),
+        QCOMPARE(shown(Segment::Upcoming),
                  (QStringList{QStringLiteral("# Thu 26, Nov 2026 2 00:00:00"),
                               QStringLiteral("Tomorrow late"), QStringLiteral("Tomorrow early"),
                               QStringLiteral("# Mon 30, Nov 2026 1 00:00:00"),
                               QStringLiteral("Later")}));
         QCOMPARE(
-            shown(QStringLiteral("Completed")),
+            shown(Segment::Completed),
             (QStringList{QStringLiteral("# Wed 25, Nov 2026 1 00:01:00"), QStringLiteral("Done d"),
                          QStringLiteral("# Tue 24, Nov 2026 3 00:30:00"), QStringLiteral("Done b"),
                          QStringLiteral("Done c"), QStringLiteral("Done a")}));
         const auto byDay = ListBuilder::timeUsedByDay(
-            ListBuilder::customListing(QStringLiteral("Completed"), app().library(), clock()));
+            ListBuilder::customListing(Segment::Completed, app().library(), clock()));
         QCOMPARE(byDay.size(), std::size_t(2));
         QCOMPARE(byDay[0].second, 1800);
     }

@@ -91,8 +91,6 @@ private Q_SLOTS:
         half->setElapsedTime(600);
         item(QStringLiteral("Planned"), at(2026, 11, 26, 8, 0), home)->setDurationMin(10);
         QCOMPARE(sidebar().projectProgress(*home), 0.5);
-        QCOMPARE(Sidebar::viewFor(QStringLiteral("Upcoming")), QStringLiteral("CustomList"));
-        QCOMPARE(Sidebar::viewFor(QStringLiteral("Project")), QStringLiteral("ProjectList"));
     }
 
     void aSearchForTodayAndWalk()
@@ -119,17 +117,21 @@ private Q_SLOTS:
     void aSearchResultLeadsToItsList()
     {
         Project* home = app().library().newProject();
-        QCOMPARE(sidebar().segmentFor(*item(QStringLiteral("In project"), std::nullopt, home)),
-                 QStringLiteral("Project"));
+        QCOMPARE(Sidebar::segmentFor(*item(QStringLiteral("In project"), std::nullopt, home),
+                                     m_app->clock.now()),
+                 Segment::Project);
         Item* done = item(QStringLiteral("Done"), at(2026, 11, 20));
         done->setHasFinished(true);
-        QCOMPARE(sidebar().segmentFor(*done), QStringLiteral("Completed"));
-        QCOMPARE(sidebar().segmentFor(*item(QStringLiteral("No date"), std::nullopt)),
-                 QStringLiteral("Anytime"));
-        QCOMPARE(sidebar().segmentFor(*item(QStringLiteral("Late"), at(2026, 11, 1))),
-                 QStringLiteral("Today"));
-        QCOMPARE(sidebar().segmentFor(*item(QStringLiteral("Later"), at(2026, 11, 27))),
-                 QStringLiteral("Upcoming"));
+        QCOMPARE(Sidebar::segmentFor(*done, m_app->clock.now()), Segment::Completed);
+        QCOMPARE(
+            Sidebar::segmentFor(*item(QStringLiteral("No date"), std::nullopt), m_app->clock.now()),
+            Segment::Anytime);
+        QCOMPARE(
+            Sidebar::segmentFor(*item(QStringLiteral("Late"), at(2026, 11, 1)), m_app->clock.now()),
+            Segment::Today);
+        QCOMPARE(Sidebar::segmentFor(*item(QStringLiteral("Later"), at(2026, 11, 27)),
+                                     m_app->clock.now()),
+                 Segment::Upcoming);
     }
 
     void projectsAreNamedDeletedAndDuplicated()

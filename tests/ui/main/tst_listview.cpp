@@ -189,7 +189,7 @@ private Q_SLOTS:
     {
         Item* done = item(QStringLiteral("Read"), at(2026, 11, 24, 10, 0));
         done->setHasFinished(true);
-        ItemListView view(app().services(), {QStringLiteral("Completed"), nullptr, false}, true);
+        ItemListView view(app().services(), {Segment::Completed, nullptr, false}, true);
         QCOMPARE(view.model().rowCount(), 2);
         QCOMPARE(view.model().flags(view.model().index(0, ItemListModel::TitleColumn)),
                  Qt::ItemIsEnabled);
@@ -209,8 +209,8 @@ private Q_SLOTS:
         app().library().addProject(work);
         Item* task = item(QStringLiteral("Paint"), at(2026, 11, 25, 14, 0));
         task->setToProject(home);
-        ItemListView homeList(app().services(), {QStringLiteral("Project"), home, false}, true);
-        ItemListView workList(app().services(), {QStringLiteral("Project"), work, false}, true);
+        ItemListView homeList(app().services(), {Segment::Project, home, false}, true);
+        ItemListView workList(app().services(), {Segment::Project, work, false}, true);
         QVERIFY(homeList.model().rowOf(task) >= 0);
         QCOMPARE(workList.model().rowOf(task), -1);
 

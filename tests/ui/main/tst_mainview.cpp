@@ -14,6 +14,8 @@
 #include "ui/main/ItemListModel.h"
 #include "ui/main/ItemListView.h"
 #include "ui/main/MainView.h"
+#include "ui/main/SidebarView.h"
+#include "ui/main/ViewSwitcher.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/WindowContent.h"
@@ -21,7 +23,6 @@
 #include "ui/widgets/CircularProgress.h"
 #include "ui/widgets/Dialogs.h"
 #include "ui/widgets/ElidedLabel.h"
-#include "ui/widgets/ViewSwitcher.h"
 
 #include <QAction>
 #include <QApplication>
@@ -75,25 +76,22 @@ private Q_SLOTS:
         MainView view(app().services());
         view.resize(900, 600);
         view.show();
-        QCOMPARE(view.switcher().currentName(), QStringLiteral("LulletList"));
-        QCOMPARE(view.rows()[2].count, std::optional<int>(1));
-        const std::pair<QString, QString> expected[] = {
-            {QStringLiteral("Dashboard"), QStringLiteral("Chart")},
-            {QStringLiteral("Lullets"), QStringLiteral("RepeatList")},
-            {QStringLiteral("Today"), QStringLiteral("LulletList")},
-            {QStringLiteral("Upcoming"), QStringLiteral("CustomList")},
-            {QStringLiteral("Anytime"), QStringLiteral("LulletList")},
-            {QStringLiteral("Completed"), QStringLiteral("CustomList")},
+        QCOMPARE(*view.switcher().current(), View::LulletList);
+        QCOMPARE(view.sidebar().rows()[2].count, std::optional<int>(1));
+        const std::pair<Segment, View> expected[] = {
+            {Segment::Dashboard, View::Chart},    {Segment::Lullets, View::RepeatList},
+            {Segment::Today, View::LulletList},   {Segment::Upcoming, View::CustomList},
+            {Segment::Anytime, View::LulletList}, {Segment::Completed, View::CustomList},
         };
-        for (const auto& [segment, viewName] : expected) {
-            view.selectSegment(segment);
-            QCOMPARE(view.selectedSegment(), segment);
-            QCOMPARE(view.switcher().currentName(), viewName);
-            saveShot(&view, QStringLiteral("segment-") + segment);
+        for (const auto& [segment, shown] : expected) {
+            view.sidebar().list()->setCurrentRow(int(segment));
+            QCOMPARE(view.shownSegment(), segment);
+            QCOMPARE(*view.switcher().current(), shown);
+            saveShot(&view, QStringLiteral("segment-") + Segments::name(segment));
         }
         // The separator can't be chosen.
-        view.sidebar()->setCurrentRow(6);
-        QCOMPARE(view.selectedSegment(), QStringLiteral("Completed"));
+        view.sidebar().list()->setCurrentRow(6);
+        QCOMPARE(view.shownSegment(), Segment::Completed);
     }
 
     // Counts stay true while nothing runs: at midnight tomorrow's task joins Today.
@@ -102,20 +100,20 @@ private Q_SLOTS:
         app().addItem(QStringLiteral("Plant the bulbs"), at(2026, 11, 26, 9, 0));
         MainView view(app().services());
         m_app->clock.set(at(2026, 11, 25, 23, 59, 0));
-        QCOMPARE(view.rows()[2].count, std::optional<int>(1));
+        QCOMPARE(view.sidebar().rows()[2].count, std::optional<int>(1));
         m_app->runUntil(at(2026, 11, 26, 0, 0, 1));
         QCoreApplication::processEvents();
-        QCOMPARE(view.rows()[2].count, std::optional<int>(2));
+        QCOMPARE(view.sidebar().rows()[2].count, std::optional<int>(2));
     }
 
     void upcomingGivesWayToTodayWhenAnItemStarts()
     {
         MainView view(app().services());
-        view.selectSegment(QStringLiteral("Upcoming"));
-        QCOMPARE(view.switcher().currentName(), QStringLiteral("CustomList"));
+        view.showSegment(Segment::Upcoming);
+        QCOMPARE(*view.switcher().current(), View::CustomList);
         app().services().itemActions.start(*app().library().items().front());
-        QTRY_COMPARE(view.selectedSegment(), QStringLiteral("Today"));
-        QTRY_COMPARE(view.switcher().currentName(), QStringLiteral("LulletList"));
+        QTRY_COMPARE(view.shownSegment(), Segment::Today);
+        QTRY_COMPARE(*view.switcher().current(), View::LulletList);
     }
 
     void theWelcomeLeadsToTheMainView()
@@ -153,8 +151,8 @@ private Q_SLOTS:
         view.showQuickAddBar();
         QVERIFY(!view.quickAddBar()->isVisible());
         QCOMPARE(*app().library().items().back()->title(), QStringLiteral("Read a book"));
-        QTRY_COMPARE(view.selectedSegment(), QStringLiteral("Anytime"));
-        QTRY_COMPARE(view.sidebar()->currentRow(), 4);
+        QTRY_COMPARE(view.shownSegment(), Segment::Anytime);
+        QTRY_COMPARE(view.sidebar().list()->currentRow(), 4);
     }
 
     void aNewProjectIsSelectedAndListed()
@@ -163,11 +161,11 @@ private Q_SLOTS:
         auto* field = view.findChild<QLineEdit*>(QStringLiteral("newProject"));
         field->setText(QStringLiteral("garden"));
         QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(view.selectedSegment(), QStringLiteral("Project"));
-        QVERIFY(view.selectedProject());
-        QCOMPARE(*view.selectedProject()->name(), QStringLiteral("Garden"));
-        QCOMPARE(view.switcher().currentName(), QStringLiteral("ProjectList"));
-        QCOMPARE(view.rows().back().name, QStringLiteral("Garden"));
+        QCOMPARE(view.shownSegment(), Segment::Project);
+        QVERIFY(view.shownProject());
+        QCOMPARE(*view.shownProject()->name(), QStringLiteral("Garden"));
+        QCOMPARE(*view.switcher().current(), View::ProjectList);
+        QCOMPARE(view.sidebar().rows().back().name, QStringLiteral("Garden"));
         QVERIFY(field->text().isEmpty());
     }
 
@@ -180,18 +178,35 @@ private Q_SLOTS:
             QTest::keyClick(field, Qt::Key_Return);
         }
         Project* home = app().library().projects().front();
-        view.renameProject(home);
-        view.sidebar()->item(7)->setText(QStringLiteral("house"));
+        view.show();
+        // The counts refresh while the user types, as they do each minute: the name typed is
+        // what the project gets, and Escape leaves the name as it was.
+        const auto typeName = [&](const QString& typed, Qt::Key end) {
+            QCoreApplication::processEvents();
+            view.sidebar().renameProject(home);
+            auto* editor = view.sidebar().list()->findChild<QLineEdit*>();
+            QVERIFY(editor);
+            editor->selectAll();
+            QTest::keyClicks(editor, typed);
+            Q_EMIT app().monitor().minutePassed();
+            QTest::keyClick(editor, end);
+            QCoreApplication::processEvents();
+            Q_EMIT app().monitor().minutePassed();
+        };
+        typeName(QStringLiteral("house"), Qt::Key_Return);
         QCOMPARE(*home->name(), QStringLiteral("House"));
+        typeName(QStringLiteral("Cottage"), Qt::Key_Escape);
+        QCOMPARE(*home->name(), QStringLiteral("House"));
+        QCOMPARE(view.sidebar().list()->item(7)->text(), QStringLiteral("House   0"));
 
         view.duplicateProject(home);
-        QCOMPARE(*view.selectedProject()->name(), QStringLiteral("House Copy"));
+        QCOMPARE(*view.shownProject()->name(), QStringLiteral("House Copy"));
         // Without items, no question; the selection moves to a neighbour.
-        Project* copy = view.selectedProject();
+        Project* copy = view.shownProject();
         view.deleteProject(copy);
         QVERIFY(!copy->hasContext());
-        QVERIFY(view.selectedProject() && view.selectedProject() != copy);
-        QCOMPARE(view.rows().size(), std::size_t(9));
+        QVERIFY(view.shownProject() && view.shownProject() != copy);
+        QCOMPARE(view.sidebar().rows().size(), std::size_t(9));
     }
 
     void aSearchResultLeadsToItsList()
@@ -200,19 +215,24 @@ private Q_SLOTS:
         auto* search = view.findChild<QLineEdit*>(QStringLiteral("searchField"));
         // The view opens on the sidebar, not with a cursor in the search field.
         view.show();
-        QCOMPARE(view.focusWidget(), view.sidebar());
+        QCOMPARE(view.focusWidget(), view.sidebar().list());
         search->setText(QStringLiteral("today, walk"));
         QStringList shown;
-        for (int i = 0; i < view.sidebar()->count(); ++i)
-            shown << view.sidebar()->item(i)->text();
+        for (int i = 0; i < view.sidebar().list()->count(); ++i)
+            shown << view.sidebar().list()->item(i)->text();
         QCOMPARE(shown.size(), 2);
         QVERIFY(shown[0].startsWith(QStringLiteral("Today")));
         QCOMPARE(shown[1], QStringLiteral("• Walk the dog"));
         app().addItem(QStringLiteral("Call the vet"), at(2026, 11, 25, 17, 0));
         search->setText(QStringLiteral("walk"));
-        view.sidebar()->setCurrentRow(view.sidebar()->count() - 1);
-        QVERIFY(search->text().isEmpty());
-        QCOMPARE(view.selectedSegment(), QStringLiteral("Today"));
+        QListWidget* rows = view.sidebar().list();
+        const QRect result = rows->visualItemRect(rows->item(rows->count() - 1));
+        QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, result.center());
+        QTRY_VERIFY(search->text().isEmpty());
+        QCOMPARE(view.shownSegment(), Segment::Today);
+        // The sidebar marks the list shown, not the row where the result stood.
+        QCOMPARE(rows->currentRow(), int(Segment::Today));
+        QCOMPARE(rows->selectedItems(), QList<QListWidgetItem*>{rows->item(int(Segment::Today))});
         // The list opens with the result selected, below the other task of the day.
         auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
         QVERIFY(list);
@@ -241,7 +261,7 @@ private Q_SLOTS:
         QCOMPARE(list->model().rowCount(), all);
 
         // An empty list has nothing to export, and says so.
-        view.selectSegment(QStringLiteral("Anytime"));
+        view.showSegment(Segment::Anytime);
         auto* anytime = qobject_cast<ItemListView*>(view.switcher().currentWidget());
         QMenu* exportMenu = anytime->findChild<QToolButton*>(QStringLiteral("export"))->menu();
         QCOMPARE(exportMenu->actions().size(), 3);
@@ -259,7 +279,7 @@ private Q_SLOTS:
         MainView view(app().services());
         view.resize(900, 600);
         view.show();
-        view.selectSegment(QStringLiteral("Dashboard"));
+        view.showSegment(Segment::Dashboard);
         auto* dashboard = qobject_cast<DashboardView*>(view.switcher().currentWidget());
         QVERIFY(dashboard);
         // "Walk the dog", today at 18:00: current and upcoming, in November.
@@ -289,12 +309,12 @@ private Q_SLOTS:
         MainView view(s);
         view.resize(900, 600);
         view.show();
-        view.selectSegment(QStringLiteral("Home"));
+        view.showProjectNamed(QStringLiteral("Home"));
         auto* projectList = qobject_cast<ItemListView*>(view.switcher().currentWidget());
         QVERIFY(projectList);
         projectList->select(waiting);
         projectList->findChild<QAction*>(QStringLiteral("addTasks"))->trigger();
-        QTRY_COMPARE(view.switcher().currentName(), QStringLiteral("AddTaskList"));
+        QTRY_COMPARE(*view.switcher().current(), View::AddTaskList);
         auto* panel = qobject_cast<AddTaskView*>(view.switcher().currentWidget());
         QCOMPARE(panel->list()->topLevelItemCount(), 1);
         QCOMPARE(panel->selectedTask(), waiting);
@@ -320,7 +340,7 @@ private Q_SLOTS:
         panel->deleteTask(waiting);
         QCOMPARE(panel->list()->topLevelItemCount(), 2);
         panel->findChild<QPushButton*>(QStringLiteral("done"))->click();
-        QTRY_COMPARE(view.switcher().currentName(), QStringLiteral("ProjectList"));
+        QTRY_COMPARE(*view.switcher().current(), View::ProjectList);
         projectList = qobject_cast<ItemListView*>(view.switcher().currentWidget());
         const QModelIndexList selected = projectList->table()->selectionModel()->selectedRows();
         QCOMPARE(selected.size(), 1);
@@ -348,7 +368,7 @@ private Q_SLOTS:
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         MainView& view = *content->mainView();
-        view.selectSegment(club->name().value_or(QString()));
+        view.showProjectNamed(club->name().value_or(QString()));
         QCoreApplication::processEvents();
         auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
         QVERIFY(list && list->isVisible());
@@ -370,12 +390,12 @@ private Q_SLOTS:
             QCOMPARE(name->toolTip(), name->text());
         saveShot(&window, QStringLiteral("project-600"));
         // The sidebar keeps its width from view to view.
-        const int sidebarWidth = view.sidebar()->width();
-        for (const QString& segment : {QStringLiteral("Dashboard"), QStringLiteral("Lullets"),
-                                       QStringLiteral("Completed"), QStringLiteral("Today")}) {
-            view.selectSegment(segment);
+        const int sidebarWidth = view.sidebar().list()->width();
+        for (const Segment segment :
+             {Segment::Dashboard, Segment::Lullets, Segment::Completed, Segment::Today}) {
+            view.showSegment(segment);
             QCoreApplication::processEvents();
-            QVERIFY2(view.sidebar()->width() == sidebarWidth, qPrintable(segment));
+            QCOMPARE(view.sidebar().list()->width(), sidebarWidth);
         }
     }
 

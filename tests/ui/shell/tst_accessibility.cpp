@@ -133,13 +133,12 @@ private Q_SLOTS:
         shell.bringMainWindowForward();
         MainView* main = shell.content()->mainView();
         QStringList unnamed;
-        for (const QString& segment :
-             {QStringLiteral("Dashboard"), QStringLiteral("Lullets"), QStringLiteral("Today"),
-              QStringLiteral("Upcoming"), QStringLiteral("Anytime"), QStringLiteral("Completed"),
-              QStringLiteral("Home")}) {
-            main->selectSegment(segment);
+        for (const Segment segment : Segments::sidebar) {
+            main->showSegment(segment);
             unnamed << unnamedControls({&window});
         }
+        main->showProjectNamed(QStringLiteral("Home"));
+        unnamed << unnamedControls({&window});
         main->showQuickAddBar();
         unnamed << unnamedControls({&window});
         unnamed.removeDuplicates();

@@ -8,6 +8,7 @@
 #include "support/TestMain.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/MainView.h"
+#include "ui/main/SidebarView.h"
 #include "ui/preferences/BackupCommands.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
@@ -74,7 +75,7 @@ private Q_SLOTS:
         // No cursor blinks in the search field: the window opens on the sidebar.
         QVERIFY(QTest::qWaitForWindowActive(&window));
         QCOMPARE(window.focusWidget(),
-                 static_cast<QWidget*>(shell.content()->mainView()->sidebar()));
+                 static_cast<QWidget*>(shell.content()->mainView()->sidebar().list()));
         QTRY_VERIFY(shell.tray().popover() &&
                     shell.tray().popover()->findChild<RunningListView*>());
     }
@@ -237,15 +238,15 @@ private Q_SLOTS:
         shell.setLoaded();
         shell.bringMainWindowForward();
         MainView* view = shell.content()->mainView();
-        view->selectSegment(QStringLiteral("Home"));
+        view->showProjectNamed(QStringLiteral("Home"));
         m_app->addItem(QStringLiteral("Read"), at(2026, 11, 23, 13, 0));
         QVERIFY(m_app->library().save());
         QSignalSpy restored(&m_app->services().backups, &Backups::restored);
         Dialogs::chooseFileNext(copy);
         Q_EMIT window.restoreRequested();
         QVERIFY(restored.wait(5000));
-        QVERIFY(view->selectedProject() && view->selectedProject()->hasContext());
-        QCOMPARE(*view->selectedProject()->name(), QStringLiteral("Home"));
+        QVERIFY(view->shownProject() && view->shownProject()->hasContext());
+        QCOMPARE(*view->shownProject()->name(), QStringLiteral("Home"));
         QCOMPARE(m_app->library().items().size(), std::size_t(1));
 
         // A text file is refused, and the user is told why.

@@ -56,6 +56,11 @@ AppController::AppController(const Clock& clock, Settings& settings, const QStri
 {
     // The idle question the lock held back is asked as soon as the user is in.
     connect(&m_lock, &Lock::unlocked, &m_monitor, &Monitor::askWhatNow);
+    // The monitor counts in a new period from now on, without a relaunch.
+    connect(&m_settings, &Settings::changed, this, [this](const QString& key) {
+        if (key == SettingsKeys::promptDuration)
+            m_running.setPromptPeriod(m_settings.promptDuration());
+    });
 }
 
 AppController::~AppController() = default;
@@ -96,7 +101,7 @@ void AppController::startMonitoring()
     connect(&m_running, &RunningItem::finished, this, &AppController::armTimer);
     armTimer();
     // After the launch is done: the tray and the window come first.
-    if (m_settings.boolean(SettingsKeys::automaticBackup))
+    if (m_settings.automaticBackup())
         QTimer::singleShot(0, this, [this] { m_backups.createLaunchBackup(); });
 }
 

@@ -52,7 +52,7 @@ void BackupList::store(const std::vector<BackupInfo>& list)
 
 void BackupList::prune(Date now)
 {
-    const int option = m_settings.integer(SettingsKeys::backupOption);
+    const int option = m_settings.backupOption();
     if (option == 0)
         return;
     // Only the first option keeps anything: a second, longer one was never reachable.

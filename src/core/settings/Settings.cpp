@@ -16,8 +16,9 @@ QString Settings::defaultPath()
         .filePath(QStringLiteral("Lullet/Lullet.conf"));
 }
 
-Settings::Settings(const QString& filePath)
-    : m_file(filePath, QSettings::IniFormat)
+Settings::Settings(const QString& filePath, QObject* parent)
+    : QObject(parent)
+    , m_file(filePath, QSettings::IniFormat)
 {
     // The user's settings are nobody else's, whatever an earlier version made them.
     PrivateFiles::makeFolder(QFileInfo(filePath).path());
@@ -82,7 +83,15 @@ void Settings::setValue(QLatin1String key, const QVariant& value)
         setDictionary(key, value.toMap());
         return;
     }
+    write(key, value);
+}
+
+void Settings::write(QLatin1String key, const QVariant& value, bool now)
+{
     m_file.setValue(key, value);
+    if (now)
+        m_file.sync();
+    Q_EMIT changed(key);
 }
 
 void Settings::setDictionary(QLatin1String key, const QVariantMap& value)
@@ -92,12 +101,13 @@ void Settings::setDictionary(QLatin1String key, const QVariantMap& value)
         stored.insert(SettingsKeys::password, QString());
     const QByteArray json =
         QJsonDocument(QJsonObject::fromVariantMap(stored)).toJson(QJsonDocument::Compact);
-    m_file.setValue(key, QString::fromUtf8(json));
+    write(key, QString::fromUtf8(json));
 }
 
 void Settings::remove(QLatin1String key)
 {
     m_file.remove(key);
+    Q_EMIT changed(key);
 }
 
 void Settings::sync()
@@ -112,15 +122,55 @@ bool Settings::welcomeDone() const
 
 void Settings::setWelcomeDone()
 {
-    setValue(SettingsKeys::introPageShown, 1);
-    setValue(SettingsKeys::isShowFirst, 1);
-    sync();
+    write(SettingsKeys::introPageShown, 1);
+    write(SettingsKeys::isShowFirst, 1, true);
+}
+
+void Settings::setPromptDuration(int minutes)
+{
+    write(SettingsKeys::promptDuration, minutes, true);
+}
+
+void Settings::setIdleQuestionsOff(bool off)
+{
+    write(SettingsKeys::disableAutoPrompt, off ? 1 : 0);
 }
 
 void Settings::writeIdleQuestionSwitchIfAbsent()
 {
     if (!contains(SettingsKeys::disableAutoPrompt))
-        setValue(SettingsKeys::disableAutoPrompt, 0);
+        setIdleQuestionsOff(false);
+}
+
+void Settings::setAutomaticBackup(bool on)
+{
+    write(SettingsKeys::automaticBackup, on);
+}
+
+void Settings::setBackupOption(int option)
+{
+    write(SettingsKeys::backupOption, option);
+}
+
+void Settings::setOpenAtLogin(bool on)
+{
+    write(SettingsKeys::openAtLogIn, on ? 1 : 0);
+    write(SettingsKeys::UDOpenAtLogin, on, true);
+}
+
+void Settings::setDockIcon(bool on)
+{
+    write(SettingsKeys::UDDockIcon, on, true);
+}
+
+void Settings::setStatusBarIcon(bool on)
+{
+    write(SettingsKeys::UDStatusBarIcon, on, true);
+}
+
+void Settings::setMainWindowGeometry(const QByteArray& geometry)
+{
+    write(SettingsKeys::mainWindowGeometry, geometry);
 }
 
 bool Settings::passwordProtected() const

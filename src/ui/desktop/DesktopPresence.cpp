@@ -26,9 +26,7 @@ bool DesktopPresence::setStartAtLogin(bool on)
 {
     if (!m_autostart.setOn(on))
         return false;
-    m_settings.setValue(SettingsKeys::openAtLogIn, on ? 1 : 0);
-    m_settings.setValue(SettingsKeys::UDOpenAtLogin, on);
-    m_settings.sync();
+    m_settings.setOpenAtLogin(on);
     return true;
 }
 
@@ -39,13 +37,12 @@ QString DesktopPresence::errorMessage() const
 
 bool DesktopPresence::showsWindowAtLaunch() const
 {
-    return m_settings.boolean(SettingsKeys::UDDockIcon);
+    return m_settings.dockIcon();
 }
 
 void DesktopPresence::setShowWindowAtLaunch(bool on)
 {
-    m_settings.setValue(SettingsKeys::UDDockIcon, on);
-    m_settings.sync();
+    m_settings.setDockIcon(on);
     if (on) {
         Q_EMIT windowWanted();
         return;
@@ -55,7 +52,7 @@ void DesktopPresence::setShowWindowAtLaunch(bool on)
 
 bool DesktopPresence::trayIconShown() const
 {
-    return m_settings.boolean(SettingsKeys::UDStatusBarIcon);
+    return m_settings.statusBarIcon();
 }
 
 void DesktopPresence::setTrayIconShown(bool shown)
@@ -64,8 +61,7 @@ void DesktopPresence::setTrayIconShown(bool shown)
     // Neither window nor icon would leave the user no way back to the program.
     if (!shown && !showsWindowAtLaunch())
         shown = true;
-    m_settings.setValue(SettingsKeys::UDStatusBarIcon, shown);
-    m_settings.sync();
+    m_settings.setStatusBarIcon(shown);
     if (trayIconUsable() != wasUsable)
         Q_EMIT trayIconShownChanged(trayIconUsable());
 }

@@ -14,7 +14,6 @@
 #include "core/presentation/TaskStats.h"
 #include "core/reports/Report.h"
 #include "core/settings/Settings.h"
-#include "core/settings/SettingsKeys.h"
 #include "core/text/LocalizedText.h"
 #include "ui/main/ItemListModel.h"
 #include "ui/main/PostponePanel.h"
@@ -132,7 +131,7 @@ void ItemListView::buildSwitchRow(QVBoxLayout* texts, Project* project)
     ask->setToolTip(tr("When nothing runs in working hours, ask what you have been doing"));
     ask->setChecked(!settings.idleQuestionsOff());
     connect(ask, &QCheckBox::toggled, this, [this, &settings](bool on) {
-        settings.setValue(SettingsKeys::disableAutoPrompt, on ? 0 : 1);
+        settings.setIdleQuestionsOff(!on);
         // Switched on, the question comes at once rather than a prompt period later.
         if (on && !m_services.running.item())
             m_services.monitor.askWhatNow();

@@ -58,9 +58,9 @@ QWidget* BackupTab::makeOptions()
     Settings& settings = m_services.settings;
     auto* automatic = new QCheckBox(tr("Back up at each launch"), options);
     automatic->setObjectName(QStringLiteral("automaticBackup"));
-    automatic->setChecked(settings.boolean(SettingsKeys::automaticBackup));
+    automatic->setChecked(settings.automaticBackup());
     connect(automatic, &QCheckBox::toggled, this, [&settings](bool on) {
-        settings.setValue(SettingsKeys::automaticBackup, on);
+        settings.setAutomaticBackup(on);
         settings.sync();
     });
     layout->addWidget(automatic);
@@ -71,13 +71,13 @@ QWidget* BackupTab::makeOptions()
          {std::pair{0, tr("Keep all backups")}, std::pair{1, tr("Keep backups for a week")}}) {
         auto* choice = new QRadioButton(text, options);
         choice->setObjectName(QStringLiteral("keep%1").arg(value));
-        choice->setChecked(settings.integer(SettingsKeys::backupOption) == value);
+        choice->setChecked(settings.backupOption() == value);
         m_keep->addButton(choice, value);
         row->addWidget(choice);
     }
     row->addStretch();
     connect(m_keep, &QButtonGroup::idClicked, this, [&settings](int value) {
-        settings.setValue(SettingsKeys::backupOption, value);
+        settings.setBackupOption(value);
         settings.sync();
     });
     layout->addLayout(row);

@@ -1,6 +1,5 @@
 #include "ui/preferences/GeneralTab.h"
 
-#include "core/activity/RunningItem.h"
 #include "core/settings/Settings.h"
 #include "ui/desktop/DesktopPresence.h"
 #include "ui/widgets/Dialogs.h"
@@ -28,11 +27,9 @@ QString periodTitle(int minutes)
 
 } // namespace
 
-GeneralTab::GeneralTab(Settings& settings, RunningItem& running, DesktopPresence& presence,
-                       QWidget* parent)
+GeneralTab::GeneralTab(Settings& settings, DesktopPresence& presence, QWidget* parent)
     : QWidget(parent)
     , m_settings(settings)
-    , m_running(running)
     , m_presence(presence)
     , m_period(new QComboBox(this))
     , m_startAtLogin(new QCheckBox(tr("Start Lullet at login"), this))
@@ -94,10 +91,7 @@ void GeneralTab::showPresence()
 void GeneralTab::onPeriodChosen(int index)
 {
     const int minutes = m_period->itemData(index).toInt();
-    m_settings.setValue(SettingsKeys::promptDuration, minutes);
-    m_settings.sync();
-    // The monitor counts in the new period from now on, without a relaunch.
-    m_running.setPromptPeriod(minutes);
+    m_settings.setPromptDuration(minutes);
 }
 
 void GeneralTab::onStartAtLoginToggled(bool on)

@@ -9,7 +9,6 @@ class QFormLayout;
 namespace lullet {
 
 class DesktopPresence;
-class RunningItem;
 class Settings;
 
 // The general settings: how long the program waits with nothing running before it asks what
@@ -17,8 +16,7 @@ class Settings;
 class GeneralTab final : public QWidget {
     Q_OBJECT
 public:
-    GeneralTab(Settings& settings, RunningItem& running, DesktopPresence& presence,
-               QWidget* parent = nullptr);
+    GeneralTab(Settings& settings, DesktopPresence& presence, QWidget* parent = nullptr);
 
 private:
     void addPeriodSection(QFormLayout* layout);
@@ -31,7 +29,6 @@ private:
     void showPresence();
 
     Settings& m_settings;
-    RunningItem& m_running;
     DesktopPresence& m_presence;
     QComboBox* m_period;
     QCheckBox* m_startAtLogin;

@@ -111,7 +111,7 @@ QWidget* PreferencesWindow::page(Tab tab)
     QWidget* made = nullptr;
     switch (tab) {
     case Tab::General:
-        made = new GeneralTab(m_services.settings, m_services.running, m_presence, m_pages);
+        made = new GeneralTab(m_services.settings, m_presence, m_pages);
         break;
     case Tab::Security:
         made = new SecurityTab(m_services.protection, m_pages);

@@ -9,7 +9,6 @@
 #include "core/presentation/RunningStatus.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
-#include "core/settings/SettingsKeys.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/desktop/ActiveWindow.h"
 #include "ui/desktop/DesktopPresence.h"
@@ -278,8 +277,7 @@ void Shell::prepareMainWindow(bool locked)
     }
     m_window.applyWorkingSizing(locked);
     // Where the user left it; Qt brings a window saved on a screen now gone back onto one.
-    const QByteArray kept =
-        m_services.settings.value(SettingsKeys::mainWindowGeometry).toByteArray();
+    const QByteArray kept = m_services.settings.mainWindowGeometry();
     if (!locked && !kept.isEmpty())
         m_window.restoreGeometry(kept);
 }
@@ -302,7 +300,7 @@ void Shell::keepWindowGeometry()
 {
     // The welcome's fixed size and the login page's are not the user's choice.
     if (m_content && m_services.settings.welcomeDone() && !m_services.lock.isLocked())
-        m_services.settings.setValue(SettingsKeys::mainWindowGeometry, m_window.saveGeometry());
+        m_services.settings.setMainWindowGeometry(m_window.saveGeometry());
 }
 
 void Shell::bringMainWindowForward(const std::function<void()>& whenShown)

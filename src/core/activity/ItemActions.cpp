@@ -2,12 +2,11 @@
 
 #include "core/activity/RunningItem.h"
 #include "core/library/Library.h"
+#include "core/library/ProjectOrder.h"
 #include "core/model/Item.h"
 #include "core/model/Project.h"
 #include "core/model/RepeatCodes.h"
 #include "core/scheduling/Catalogue.h"
-
-#include <algorithm>
 
 namespace lullet {
 
@@ -66,9 +65,7 @@ std::vector<Project*> ItemActions::otherProjects(const Item& item) const
         if (p != item.toProject())
             projects.push_back(p);
     }
-    std::stable_sort(projects.begin(), projects.end(), [](const Project* a, const Project* b) {
-        return a->name().value_or(QString()) < b->name().value_or(QString());
-    });
+    ProjectOrder::sortByCodePoints(projects);
     return projects;
 }
 

@@ -65,13 +65,7 @@ bool ProjectActions::renameProject(Project& project, const QString& text)
 
 void ProjectActions::deleteProject(Project& project)
 {
-    // Its items go with it, the history on disk too.
-    m_library.loadHistory(project);
-    const std::vector<Item*> items = project.toReminders();
-    m_library.removeProject(&project);
-    for (Item* item : items)
-        m_library.context().deleteObject(item);
-    m_library.context().deleteObject(&project);
+    m_library.deleteProject(&project);
     m_library.save();
 }
 

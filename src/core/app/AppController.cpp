@@ -4,7 +4,6 @@
 #include "core/dates/Clock.h"
 #include "core/model/Item.h"
 #include "core/settings/Settings.h"
-#include "core/store/ObjectContext.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -139,10 +138,7 @@ AppController::QuitReply AppController::prepareToQuit()
         m_running.finish(*item, RunningItem::Finish::Quietly);
     if (!m_storeOpen)
         return QuitReply::Now;
-    ObjectContext& context = m_store.context();
-    if (!context.hasChanges() || context.save())
-        return QuitReply::Now;
-    return QuitReply::SaveFailed;
+    return m_library.saveQuietly() ? QuitReply::Now : QuitReply::SaveFailed;
 }
 
 void AppController::finishQuit()

@@ -1,6 +1,7 @@
 #include "core/library/Library.h"
 
 #include "core/library/ItemOrder.h"
+#include "core/library/ProjectOrder.h"
 #include "core/store/ObjectContext.h"
 #include "core/store/Store.h"
 #include "core/text/LocalizedText.h"
@@ -11,14 +12,6 @@
 namespace lullet {
 
 namespace {
-
-void sortProjects(std::vector<Project*>& projects)
-{
-    std::stable_sort(projects.begin(), projects.end(), [](const Project* a, const Project* b) {
-        return LocalizedText::compare(a->name().value_or(QString()),
-                                      b->name().value_or(QString())) < 0;
-    });
-}
 
 template <class T> bool contains(const std::vector<T*>& list, const T* record)
 {
@@ -53,7 +46,7 @@ void Library::load()
 void Library::loadProjects()
 {
     m_projects = context().projects();
-    sortProjects(m_projects);
+    ProjectOrder::sortForReading(m_projects);
 }
 
 void Library::loadItems()
@@ -119,6 +112,14 @@ void Library::loadRules()
 Item* Library::newItem()
 {
     return context().insertItem();
+}
+
+Item* Library::newTask(const QString& title)
+{
+    Item* item = newItem();
+    item->setUniqueId(placeholderId());
+    item->setTitle(LocalizedText::capitalizeFirst(title));
+    return item;
 }
 
 Project* Library::newProject()
@@ -187,7 +188,7 @@ void Library::addProject(Project* project)
 {
     if (!contains(m_projects, project))
         m_projects.push_back(project);
-    sortProjects(m_projects);
+    ProjectOrder::sortForReading(m_projects);
     later([this] { Q_EMIT projectsChanged(); });
 }
 
@@ -211,6 +212,24 @@ Project* Library::projectNamed(const QString& name) const
     return nullptr;
 }
 
+void Library::deleteProject(Project* project)
+{
+    if (!project)
+        return;
+    loadHistory(*project);
+    const std::vector<Item*> items = project->toReminders();
+    removeProject(project);
+    for (Item* item : items)
+        context().deleteObject(item);
+    context().deleteObject(project);
+}
+
+void Library::deleteRule(Rule* rule)
+{
+    removeRule(rule);
+    context().deleteObject(rule);
+}
+
 void Library::addRule(Rule* rule)
 {
     if (!contains(m_rules, rule))
@@ -222,16 +241,26 @@ void Library::removeRule(Rule* rule)
     erase(m_rules, rule);
 }
 
-bool Library::save()
+bool Library::saveQuietly()
 {
     ObjectContext& ctx = context();
-    if (!ctx.hasChanges() || ctx.save()) {
+    return !ctx.hasChanges() || ctx.save();
+}
+
+QString Library::saveError() const
+{
+    return m_store.context().errorMessage();
+}
+
+bool Library::save()
+{
+    if (saveQuietly()) {
         m_saveFailing = false;
         return true;
     }
     // Told once, not at every save that fails for the same reason.
     if (!m_saveFailing)
-        Q_EMIT saveFailed(ctx.errorMessage());
+        Q_EMIT saveFailed(saveError());
     m_saveFailing = true;
     return false;
 }

@@ -56,6 +56,8 @@ public:
 
     // New records in the context; they join the lists through add...().
     Item* newItem();
+    // A task of no rule ("<to make>"), its title capitalised; not listed yet.
+    Item* newTask(const QString& title);
     Project* newProject();
     Rule* newRule();
 
@@ -73,15 +75,22 @@ public:
     void addProject(Project* project);
     // Takes the project and its items out of the lists; the records stay.
     void removeProject(Project* project);
+    // Takes the project out and deletes it and every item of it, those on disk too.
+    void deleteProject(Project* project);
     // The project of that name, compared ignoring case and diacritics, or none.
     Project* projectNamed(const QString& name) const;
 
     void addRule(Rule* rule);
     void removeRule(Rule* rule);
+    // Takes the rule out and deletes its record.
+    void deleteRule(Rule* rule);
 
     // Writes every change. The first of a run of failures is told by saveFailed(); the changes
     // stay for the next save.
     bool save();
+    // The same, with a failure left to the caller to tell (quitting asks what to do).
+    bool saveQuietly();
+    QString saveError() const;
 
     // Tells the views that items changed; `item` is the one added or edited, if there is one.
     // Inside a batch the news waits and is told once when the batch ends.

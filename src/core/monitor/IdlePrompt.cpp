@@ -5,7 +5,6 @@
 #include "core/library/Library.h"
 #include "core/model/Item.h"
 #include "core/model/RepeatCodes.h"
-#include "core/text/LocalizedText.h"
 
 namespace lullet {
 
@@ -80,9 +79,7 @@ PromptOutcome IdlePrompt::answer(const QString& text, Project* project, bool alr
     m_running.setUnansweredGapStart(std::nullopt);
     const Date now = m_clock.now();
 
-    Item* item = m_library.newItem();
-    item->setUniqueId(placeholderId());
-    item->setTitle(LocalizedText::capitalizeFirst(title));
+    Item* item = m_library.newTask(title);
     item->setDurationHr(0);
     item->setDurationMin(0);
     item->setRemindBefore(int(RemindBefore::OnTheDay));

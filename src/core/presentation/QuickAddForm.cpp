@@ -4,7 +4,6 @@
 #include "core/library/Library.h"
 #include "core/model/Item.h"
 #include "core/model/RepeatCodes.h"
-#include "core/text/LocalizedText.h"
 
 namespace lullet {
 
@@ -54,9 +53,7 @@ Item* QuickAddForm::add(const QString& name, Project* project)
     const QString title = name.trimmed();
     if (title.isEmpty())
         return nullptr;
-    Item* item = m_library.newItem();
-    item->setUniqueId(placeholderId());
-    item->setTitle(LocalizedText::capitalizeFirst(title));
+    Item* item = m_library.newTask(title);
     item->setDurationHr(0);
     item->setDurationMin(0);
     item->setShouldRemind(m_date.has_value());

@@ -60,11 +60,7 @@ Item* TaskForm::done(const RuleForm::Fields& fields, Item* editing, Project* pro
     if (title.isEmpty())
         return nullptr;
     const Date due = fields.day.setTimeOfDate(fields.time.hour(), fields.time.minute(), 0);
-    Item* item = editing;
-    if (!item) {
-        item = m_library.newItem();
-        item->setUniqueId(placeholderId());
-    }
+    Item* item = editing ? editing : m_library.newTask(title);
     item->setTitle(LocalizedText::capitalizeFirst(title));
     item->setNotes(fields.notes);
     item->setDurationHr(fields.hours);

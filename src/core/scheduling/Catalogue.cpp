@@ -329,7 +329,7 @@ void Catalogue::deleteRule(Rule* rule)
     if (!rule)
         return;
     unregisterRule(rule);
-    m_services.library.context().deleteObject(rule);
+    m_services.library.deleteRule(rule);
     m_services.library.save();
     m_services.library.announceRulesChanged();
 }

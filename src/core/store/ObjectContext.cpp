@@ -1,7 +1,7 @@
 #include "core/store/ObjectContext.h"
 
 #include "core/store/Db.h"
-#include "core/store/RecordColumns.h"
+#include "core/store/RecordSql.h"
 #include "core/store/Stmt.h"
 #include "core/store/StringPool.h"
 #include "core/store/Transaction.h"
@@ -19,75 +19,6 @@ namespace lullet {
 
 namespace {
 
-template <class T> const std::vector<Column<T>>& columnsOf();
-template <> const std::vector<Column<Project>>& columnsOf<Project>()
-{
-    return RecordColumns::project();
-}
-template <> const std::vector<Column<Rule>>& columnsOf<Rule>()
-{
-    return RecordColumns::rule();
-}
-template <> const std::vector<Column<Item>>& columnsOf<Item>()
-{
-    return RecordColumns::item();
-}
-
-const char* tableOf(Record::Entity entity)
-{
-    switch (entity) {
-    case Record::Entity::Project:
-        return "Project";
-    case Record::Entity::Rule:
-        return "RepeatReminderInfo";
-    case Record::Entity::Item:
-        return "ReminderInfo";
-    }
-    return "";
-}
-
-template <class T> QByteArray columnList()
-{
-    QByteArray list;
-    for (const auto& c : columnsOf<T>()) {
-        if (!list.isEmpty())
-            list += ", ";
-        list += c.name;
-    }
-    if constexpr (std::is_same_v<T, Item>)
-        list += ", toProject";
-    return list;
-}
-
-template <class T> QByteArray insertSql(const char* table)
-{
-    const qsizetype count = qsizetype(columnsOf<T>().size()) + (std::is_same_v<T, Item> ? 1 : 0);
-    QByteArray marks;
-    for (qsizetype i = 0; i < count; ++i)
-        marks += i ? ", ?" : "?";
-    return QByteArray("INSERT INTO ") + table + " (" + columnList<T>() + ") VALUES (" + marks + ")";
-}
-
-template <class T> QByteArray updateSql(const char* table)
-{
-    QByteArray set;
-    for (const auto& c : columnsOf<T>())
-        set += QByteArray(set.isEmpty() ? "" : ", ") + c.name + " = ?";
-    if constexpr (std::is_same_v<T, Item>)
-        set += ", toProject = ?";
-    return QByteArray("UPDATE ") + table + " SET " + set + " WHERE id = ?";
-}
-
-// Reads a record's attributes from column 1 on; answers the next column, for an item its
-// project link.
-template <class T> int readColumns(const Stmt& stmt, T& record, StringPool& pool)
-{
-    int i = 1;
-    for (const auto& c : columnsOf<T>())
-        c.read(stmt, i++, record, pool);
-    return i;
-}
-
 // The items of the history: finished, not started, dated before ?2 (and no earlier than any
 // plausible date, ?1). It holds exactly for the rows the program reads as such; a value that
 // reads otherwise (text in a number column, a date out of range) keeps its item in memory.
@@ -99,20 +30,6 @@ void bindHistoryBounds(Stmt& stmt, Date before)
 {
     stmt.bind(0, std::optional<Date>(Date(-Stmt::maxPlausibleSeconds)));
     stmt.bind(1, std::optional<Date>(before));
-}
-
-// Binds every attribute and, for an item, its project link; answers the next free index.
-template <class T> int bindAll(Stmt& stmt, const T& record)
-{
-    int i = 0;
-    for (const auto& c : columnsOf<T>())
-        c.bind(stmt, i++, record);
-    if constexpr (std::is_same_v<T, Item>) {
-        const Project* project = record.toProject();
-        stmt.bind(i++, project && project->rowId() ? std::optional<qint64>(project->rowId())
-                                                   : std::nullopt);
-    }
-    return i;
 }
 
 // Calls f with the record as its own type.
@@ -187,18 +104,20 @@ bool ObjectContext::load(std::optional<Date> historyBefore)
         while (stmt.step()) {
             T* record = adopt(live);
             record->m_rowId = stmt.columnInt64(0);
-            extra(record, stmt, readColumns(stmt, *record, pool));
+            extra(record, stmt, RecordSql::readColumns(stmt, *record, pool));
         }
         return !stmt.failed();
     };
     const auto nothingMore = [](auto*, const Stmt&, int) {};
 
-    bool ok = loadTable(m_projects, "SELECT id, " + columnList<Project>() + " FROM Project",
-                        nothingMore) &&
-              loadTable(m_rules, "SELECT id, " + columnList<Rule>() + " FROM RepeatReminderInfo",
-                        nothingMore);
+    bool ok =
+        loadTable(m_projects, "SELECT id, " + RecordSql::columnList<Project>() + " FROM Project",
+                  nothingMore) &&
+        loadTable(m_rules,
+                  "SELECT id, " + RecordSql::columnList<Rule>() + " FROM RepeatReminderInfo",
+                  nothingMore);
     if (ok) {
-        QByteArray items = "SELECT id, " + columnList<Item>() + " FROM ReminderInfo";
+        QByteArray items = "SELECT id, " + RecordSql::columnList<Item>() + " FROM ReminderInfo";
         if (m_historyBefore)
             items += QByteArray(" WHERE NOT coalesce(") + historyCondition + ", 0)";
         const QHash<qint64, Project*> projects = projectsByRowId();
@@ -250,8 +169,8 @@ QSet<qint64> ObjectContext::itemRowIds() const
 
 bool ObjectContext::readHistory(const Project* project, const std::function<void(const Stmt&)>& row)
 {
-    QByteArray sql =
-        "SELECT id, " + columnList<Item>() + " FROM ReminderInfo WHERE " + historyCondition;
+    QByteArray sql = "SELECT id, " + RecordSql::columnList<Item>() + " FROM ReminderInfo WHERE " +
+                     historyCondition;
     if (project)
         sql += " AND toProject = ?3";
     Stmt stmt(m_db, sql.constData());
@@ -281,7 +200,7 @@ bool ObjectContext::loadHistory(std::vector<Item*>& read, const Project* project
     const bool ok = readHistory(project, [&](const Stmt& stmt) {
         Item* item = adopt(m_reminders);
         item->m_rowId = stmt.columnInt64(0);
-        linkToProject(*item, stmt, readColumns(stmt, *item, pool), projects);
+        linkToProject(*item, stmt, RecordSql::readColumns(stmt, *item, pool), projects);
         read.push_back(item);
     });
     if (ok && project) {
@@ -305,7 +224,7 @@ bool ObjectContext::scanHistory(const std::function<void(const Item&)>& visit)
     StringPool pool(StringPool::Share::None);
     const QHash<qint64, Project*> projects = projectsByRowId();
     return readHistory(nullptr, [&](const Stmt& stmt) {
-        const int link = readColumns(stmt, scratch, pool);
+        const int link = RecordSql::readColumns(stmt, scratch, pool);
         scratch.m_toProject = stmt.isNull(link) ? nullptr : projects.value(stmt.columnInt64(link));
         visit(scratch);
     });
@@ -416,8 +335,10 @@ bool ObjectContext::writeInserts()
             using T = std::decay_t<decltype(typed)>;
             auto& stmt = statements[std::size_t(record->entity())];
             if (!stmt)
-                stmt.emplace(m_db, insertSql<T>(tableOf(record->entity())).constData());
-            bindAll(*stmt, typed);
+                stmt.emplace(
+                    m_db,
+                    RecordSql::insertSql<T>(RecordSql::tableOf(record->entity())).constData());
+            RecordSql::bindAll(*stmt, typed);
             return stmt->run();
         });
         if (!ok)
@@ -435,8 +356,10 @@ bool ObjectContext::writeUpdates()
             using T = std::decay_t<decltype(typed)>;
             auto& stmt = statements[std::size_t(record->entity())];
             if (!stmt)
-                stmt.emplace(m_db, updateSql<T>(tableOf(record->entity())).constData());
-            stmt->bind(bindAll(*stmt, typed), std::optional<qint64>(record->m_rowId));
+                stmt.emplace(
+                    m_db,
+                    RecordSql::updateSql<T>(RecordSql::tableOf(record->entity())).constData());
+            stmt->bind(RecordSql::bindAll(*stmt, typed), std::optional<qint64>(record->m_rowId));
             return stmt->run();
         });
         if (!ok)
@@ -449,7 +372,7 @@ bool ObjectContext::writeDeletes()
 {
     for (Record* record : m_deleted) {
         const QByteArray sql =
-            QByteArray("DELETE FROM ") + tableOf(record->entity()) + " WHERE id = ?";
+            QByteArray("DELETE FROM ") + RecordSql::tableOf(record->entity()) + " WHERE id = ?";
         Stmt stmt(m_db, sql.constData());
         stmt.bind(0, std::optional<qint64>(record->m_rowId));
         if (!stmt.run())

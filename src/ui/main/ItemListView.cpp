@@ -1,58 +1,33 @@
 #include "ui/main/ItemListView.h"
 
 #include "core/activity/ItemActions.h"
-#include "core/activity/Postponing.h"
-#include "core/activity/ProjectActions.h"
 #include "core/activity/RunningItem.h"
 #include "core/app/Services.h"
 #include "core/dates/Clock.h"
 #include "core/library/Library.h"
-#include "core/model/Project.h"
 #include "core/monitor/Monitor.h"
-#include "core/presentation/RowTexts.h"
-#include "core/presentation/RunningStatus.h"
 #include "core/presentation/TaskStats.h"
 #include "core/reports/Report.h"
-#include "core/settings/Settings.h"
 #include "core/text/LocalizedText.h"
 #include "ui/main/ItemListModel.h"
+#include "ui/main/ItemMenu.h"
+#include "ui/main/ListHeader.h"
 #include "ui/main/PostponePanel.h"
 #include "ui/main/StartButtonDelegate.h"
-#include "ui/reports/ReportCommands.h"
-#include "ui/widgets/BarChart.h"
-#include "ui/widgets/CircularProgress.h"
 #include "ui/widgets/Dialogs.h"
-#include "ui/widgets/ElidedLabel.h"
-#include "ui/widgets/HexColor.h"
-#include "ui/widgets/StyledButton.h"
 
-#include <QCheckBox>
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMenu>
 #include <QScrollBar>
 #include <QTableView>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace lullet {
 
 namespace {
 
-const QString ongoingColor = QStringLiteral("FC7274");
-const QString completedColor = QStringLiteral("A0CFAB");
 constexpr int minimumTitleWidth = 150;
-
-QLabel* countLabel(const QString& name, QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setForegroundRole(QPalette::PlaceholderText);
-    return label;
-}
 
 } // namespace
 
@@ -77,160 +52,56 @@ ItemListView::ItemListView(const Services& services, const ListBuilder::Scope& s
 
 void ItemListView::buildHeader(QVBoxLayout* layout)
 {
-    const ListBuilder::Scope& scope = m_model->scope();
-    auto* header = new QHBoxLayout;
-    auto* texts = new QVBoxLayout;
-    // A long project name gives way, whole in its tooltip; the badge and the circle keep their
-    // size.
-    m_name = new ElidedLabel(scope.title(), this);
-    m_name->setObjectName(QStringLiteral("listName"));
-    QFont big = m_name->font();
-    big.setPointSizeF(big.pointSizeF() * 1.6);
-    big.setBold(true);
-    m_name->setFont(big);
-    texts->addWidget(m_name);
-    buildCounts(texts);
-    buildSwitchRow(texts, scope.project);
-    header->addLayout(texts, 1);
-    m_status = new StyledButton(QString(), this);
-    m_status->setObjectName(QStringLiteral("status"));
-    m_status->setHoverEnabled(false);
-    m_status->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    header->addWidget(m_status, 0, Qt::AlignVCenter);
-    m_progress = new CircularProgress(this);
-    m_progress->setAccessibleName(tr("Completed"));
-    m_progress->setColor(*HexColor::fromHex(ongoingColor));
-    QColor track = *HexColor::fromHex(ongoingColor);
-    track.setAlphaF(0.1f);
-    m_progress->setTrackColor(track);
-    m_progress->setLineWidth(8);
-    m_progress->setFixedSize(72, 72);
-    header->addWidget(m_progress);
-    layout->addLayout(header);
-    if (scope.isCustomListing()) {
-        m_chart = new BarChart(this);
-        m_chart->setObjectName(QStringLiteral("chart"));
-        m_chart->setColor(*HexColor::fromHex(ongoingColor));
-        m_chart->setUnit(QStringLiteral("h"));
-        m_chart->setMinimumHeight(160);
-        m_chart->setMaximumHeight(200);
-        layout->addWidget(m_chart);
-    }
-}
-
-// The idle question's switch ("disableAutoPrompt"), and a project's own buttons beside it.
-void ItemListView::buildSwitchRow(QVBoxLayout* texts, Project* project)
-{
-    // The switches one above the other, so that they and the buttons fit the narrowest window.
-    auto* row = new QHBoxLayout;
-    auto* switches = new QVBoxLayout;
-    switches->setSpacing(2);
-    Settings& settings = m_services.settings;
-    auto* ask = new QCheckBox(tr("Ask when idle"), this);
-    ask->setObjectName(QStringLiteral("askWhenIdle"));
-    ask->setToolTip(tr("When nothing runs in working hours, ask what you have been doing"));
-    ask->setChecked(!settings.idleQuestionsOff());
-    connect(ask, &QCheckBox::toggled, this, [this, &settings](bool on) {
-        settings.setIdleQuestionsOff(!on);
-        // Switched on, the question comes at once rather than a prompt period later.
-        if (on && !m_services.running.item())
-            m_services.monitor.askWhatNow();
-    });
-    switches->addWidget(ask);
-    if (!m_model->scope().isCustomListing()) {
-        auto* runningOnly = new QCheckBox(tr("Started only"), this);
-        runningOnly->setObjectName(QStringLiteral("showRunningOnly"));
-        runningOnly->setToolTip(tr("List only the items that have been started"));
-        connect(runningOnly, &QCheckBox::toggled, m_model, &ItemListModel::setShowRunningOnly);
-        switches->addWidget(runningOnly);
-    }
-    row->addLayout(switches);
-    row->addStretch();
-    buildExportButton(row);
-    if (project)
-        buildProjectButtons(row, project);
-    texts->addLayout(row);
-}
-
-// Two counts a line, so that all four read in a narrow window.
-void ItemListView::buildCounts(QVBoxLayout* texts)
-{
-    auto* counts = new QGridLayout;
-    counts->setHorizontalSpacing(16);
-    counts->setVerticalSpacing(0);
-    m_taskCount = countLabel(QStringLiteral("taskCount"), this);
-    m_completedCount = countLabel(QStringLiteral("completedCount"), this);
-    m_dueCount = countLabel(QStringLiteral("dueCount"), this);
-    m_todayCount = countLabel(QStringLiteral("todayCount"), this);
-    counts->addWidget(m_taskCount, 0, 0);
-    counts->addWidget(m_completedCount, 0, 1);
-    counts->addWidget(m_dueCount, 1, 0);
-    counts->addWidget(m_todayCount, 1, 1);
-    counts->setColumnStretch(2, 1);
-    texts->addLayout(counts);
-    m_timeUsed = countLabel(QStringLiteral("timeUsed"), this);
-    texts->addWidget(m_timeUsed);
-    // The running item's own clock, the same text as the tray's panel shows.
-    m_runningClock = new ElidedLabel(QString(), this);
-    m_runningClock->setObjectName(QStringLiteral("runningClock"));
-    texts->addWidget(m_runningClock);
-}
-
-// Print, PDF and mail of the list as it shows.
-void ItemListView::buildExportButton(QHBoxLayout* row)
-{
-    auto* button = new QToolButton(this);
-    button->setObjectName(QStringLiteral("export"));
-    button->setText(tr("Export"));
-    button->setPopupMode(QToolButton::InstantPopup);
-    auto* menu = new QMenu(button);
-    const ReportCommands commands(m_services.clock, m_services.library);
-    commands.addActions(
-        menu, this, [this] { return report(); },
-        m_model->scope().project ? ReportCommands::emptyProjectText()
-                                 : ReportCommands::emptyListText());
-    button->setMenu(menu);
-    row->addWidget(button);
+    m_header = new ListHeader(
+        m_services, m_model->scope(), [this] { return report(); }, this);
+    connect(m_header, &ListHeader::showRunningOnlyToggled, m_model,
+            &ItemListModel::setShowRunningOnly);
+    connect(m_header, &ListHeader::addTasksRequested, this, &ItemListView::addTasksRequested);
+    connect(m_header, &ListHeader::projectDuplicated, this, &ItemListView::projectDuplicated);
+    connect(m_header, &ListHeader::projectDeletionRequested, this,
+            &ItemListView::projectDeletionRequested);
+    layout->addWidget(m_header);
 }
 
 Report ItemListView::report() const
 {
-    const ListBuilder::Scope& scope = m_model->scope();
-    Report report =
-        Report::ofRows(scope.title(), m_model->rows(), m_services.clock, m_services.running);
-    if (m_chart)
-        report.hoursByDay = m_chart->bars();
+    Report report = Report::ofRows(m_model->scope().title(), m_model->rows(), m_services.clock,
+                                   m_services.running);
+    if (m_header)
+        report.hoursByDay = m_header->hours();
     return report;
 }
 
-// A project's own actions, in one small menu so that the header fits a narrow window.
-void ItemListView::buildProjectButtons(QHBoxLayout* row, Project* project)
+QMenu* ItemListView::buildMenu(Item* item)
 {
-    auto* button = new QToolButton(this);
-    button->setObjectName(QStringLiteral("projectActions"));
-    button->setText(tr("Project"));
-    button->setPopupMode(QToolButton::InstantPopup);
-    auto* menu = new QMenu(button);
-    QAction* addTasks = menu->addAction(tr("Add Tasks…"));
-    addTasks->setObjectName(QStringLiteral("addTasks"));
-    connect(addTasks, &QAction::triggered, this,
-            [this, project] { Q_EMIT addTasksRequested(project); });
-    QAction* duplicate = menu->addAction(tr("Duplicate"));
-    duplicate->setObjectName(QStringLiteral("duplicateProject"));
-    QAction* remove = menu->addAction(tr("Delete"));
-    remove->setObjectName(QStringLiteral("deleteProject"));
-    button->setMenu(menu);
-    row->addWidget(button);
-    connect(duplicate, &QAction::triggered, this, [this, project] {
-        Q_EMIT projectDuplicated(m_services.projectActions.duplicateAsNew(*project));
-    });
-    connect(remove, &QAction::triggered, this, [this, project] {
-        if (ProjectActions::deleteAsks(*project) &&
-            !Dialogs::confirm(this, ProjectActions::deleteTitle(),
-                              ProjectActions::deleteQuestion()))
-            return;
-        Q_EMIT projectDeletionRequested(project);
-    });
+    auto* menu = new ItemMenu(m_services, item, this);
+    connect(menu, &ItemMenu::startOrStopRequested, this, &ItemListView::startOrStop);
+    connect(menu, &ItemMenu::finishRequested, this, &ItemListView::finish);
+    connect(menu, &ItemMenu::postponePanelRequested, this, &ItemListView::postpone);
+    return menu;
+}
+
+void ItemListView::updateStats()
+{
+    if (!m_header)
+        return;
+    const TaskStats s = TaskStats::of(m_model->rows(), m_services.clock, m_services.running);
+    int due = 0;
+    for (const ListRow& row : m_model->rows())
+        due += row.dueOrOverdue ? 1 : 0;
+    m_header->showStats(s, due, m_services.running.item());
+}
+
+// Upcoming and Completed: the time used by day, as bars.
+void ItemListView::updateChart()
+{
+    if (!m_header)
+        return;
+    std::vector<BarChart::Bar> hours;
+    for (const auto& [day, seconds] : ListBuilder::timeUsedByDay(m_model->rows()))
+        hours.push_back(
+            {QString::number(day.day()) + u' ' + day.shortMonthToString(), seconds / 3600.0});
+    m_header->showHours(std::move(hours));
 }
 
 void ItemListView::buildTable(QVBoxLayout* layout)
@@ -508,72 +379,6 @@ void ItemListView::postpone(Item* item)
     panel->popUpAt(m_table->viewport()->mapToGlobal(cell.center()));
 }
 
-QMenu* ItemListView::buildMenu(Item* item)
-{
-    auto* menu = new QMenu(this);
-    const bool running = m_services.running.isRunning(item);
-    const bool finished = item->isFinished();
-    if (!finished) {
-        connect(menu->addAction(running ? tr("Stop") : tr("Start")), &QAction::triggered, this,
-                [this, item] { startOrStop(item); });
-        connect(menu->addAction(tr("Finish")), &QAction::triggered, this,
-                [this, item] { finish(item); });
-    }
-    // The reschedule choices, for an item neither finished nor running.
-    if (!finished && !item->isStarted())
-        addPostponeChoices(menu, item);
-    if (!finished) {
-        connect(menu->addAction(tr("Postpone…")), &QAction::triggered, this,
-                [this, item] { postpone(item); });
-    }
-    menu->addSeparator();
-    addMoveAndDuplicate(menu, item);
-    menu->addSeparator();
-    connect(menu->addAction(tr("Delete")), &QAction::triggered, this,
-            [this, item] { m_services.itemActions.deleteItem(*item); });
-    return menu;
-}
-
-void ItemListView::addPostponeChoices(QMenu* menu, Item* item)
-{
-    QMenu* later = menu->addMenu(tr("Postpone"));
-    Postponing& postponing = m_services.postponing;
-    const Date now = m_services.clock.now();
-    const std::pair<int, QString> choices[] = {
-        {Postponing::InThreeHours, tr("In 3 hours")},
-        {Postponing::ThisEvening, Postponing::eveningLabel(now, m_services.clock)},
-        {Postponing::Tomorrow, Postponing::nextDayLabel(now, m_services.clock)},
-        {Postponing::InTwoDays, Postponing::inTwoDaysLabel(now)},
-        {Postponing::ThisWeekend, Postponing::weekendLabel(now)},
-        {Postponing::NextWeek, tr("Next week")},
-        {Postponing::NextMonth, tr("In a month")},
-    };
-    for (const auto& [choice, label] : choices) {
-        const int tag = choice;
-        connect(later->addAction(label), &QAction::triggered, this,
-                [&postponing, item, tag] { postponing.chooseInMenu(item, tag); });
-    }
-}
-
-void ItemListView::addMoveAndDuplicate(QMenu* menu, Item* item)
-{
-    QMenu* moveTo = menu->addMenu(tr("Move to"));
-    QMenu* duplicateTo = menu->addMenu(tr("Duplicate to"));
-    ItemActions& actions = m_services.itemActions;
-    const auto addTarget = [&](const QString& title, Project* target) {
-        connect(moveTo->addAction(title), &QAction::triggered, this,
-                [&actions, item, target] { actions.moveToProject(*item, target); });
-        connect(duplicateTo->addAction(title), &QAction::triggered, this,
-                [&actions, item, target] { actions.duplicateToProject(*item, target); });
-    };
-    if (item->toProject())
-        addTarget(tr("No Project"), nullptr);
-    for (Project* project : actions.otherProjects(*item))
-        addTarget(project->name().value_or(QString()), project);
-    moveTo->setEnabled(!moveTo->isEmpty());
-    duplicateTo->setEnabled(!duplicateTo->isEmpty());
-}
-
 void ItemListView::showPostponeMessage(const Item& item)
 {
     const std::optional<Date> due = item.effectiveDate();
@@ -584,53 +389,6 @@ void ItemListView::showPostponeMessage(const Item& item)
                         QString::number(due->day()) + u' ' +
                         LocalizedText::capitalizeFirst(due->shortMonthToString()) + u' ' +
                         QString::number(due->year()));
-}
-
-void ItemListView::updateChart()
-{
-    if (!m_chart)
-        return;
-    std::vector<BarChart::Bar> hours;
-    for (const auto& [day, seconds] : ListBuilder::timeUsedByDay(m_model->rows()))
-        hours.push_back(
-            {QString::number(day.day()) + u' ' + day.shortMonthToString(), seconds / 3600.0});
-    // No bars, no empty box above "Nothing here".
-    m_chart->setVisible(!hours.empty());
-    m_chart->setBars(std::move(hours));
-}
-
-void ItemListView::updateStats()
-{
-    if (!m_withHeader)
-        return;
-    const TaskStats s = TaskStats::of(m_model->rows(), m_services.clock, m_services.running);
-    int due = 0;
-    for (const ListRow& row : m_model->rows())
-        due += row.dueOrOverdue ? 1 : 0;
-    m_taskCount->setText(tr("Tasks: %1").arg(s.totalCount));
-    m_completedCount->setText(tr("Complete: %1").arg(s.completedCount));
-    m_dueCount->setText(tr("Due: %1").arg(due));
-    m_todayCount->setText(tr("Today: %1").arg(s.countInToday));
-    m_timeUsed->setText(tr("Time used %1 of %2")
-                            .arg(RowTexts::getStringFromSeconds(int(s.timeCompletedRunning)),
-                                 RowTexts::getStringFromSeconds(int(s.totalTimeAllotted))));
-    m_progress->setProgress(s.totalTimeAllotted > 0
-                                ? double(s.timeCompletedRunning) / double(s.totalTimeAllotted)
-                                : 0.0);
-    // The status: no rows, all done, or still going.
-    QString status = tr("No Lullet");
-    QString color = ongoingColor;
-    if (s.totalCount > 0) {
-        const bool allDone = s.completedCount == s.totalCount;
-        status = allDone ? tr("Completed") : tr("Ongoing");
-        color = allDone ? completedColor : ongoingColor;
-    }
-    m_status->setText(status);
-    m_status->setColor(*HexColor::fromHex(color));
-    const Item* running = m_services.running.item();
-    m_runningClock->setText(running ? tr("Running: %1").arg(RunningStatus::clockText(*running))
-                                    : QString());
-    m_runningClock->setVisible(running != nullptr);
 }
 
 } // namespace lullet

@@ -4,7 +4,6 @@
 
 #include <QWidget>
 
-class QHBoxLayout;
 class QLabel;
 class QMenu;
 class QTableView;
@@ -12,13 +11,10 @@ class QVBoxLayout;
 
 namespace lullet {
 
-class BarChart;
-class CircularProgress;
-class ElidedLabel;
 class Item;
 class ItemListModel;
+class ListHeader;
 class Project;
-class StyledButton;
 struct Report;
 struct Services;
 
@@ -62,16 +58,10 @@ protected:
 
 private:
     void buildHeader(QVBoxLayout* layout);
-    void buildCounts(QVBoxLayout* texts);
-    void buildSwitchRow(QVBoxLayout* texts, Project* project);
-    void buildProjectButtons(QHBoxLayout* row, Project* project);
-    void buildExportButton(QHBoxLayout* row);
     void buildTable(QVBoxLayout* layout);
     void listenToChanges();
     // The row's menu, at a point of the table's viewport.
     void showMenu(const QModelIndex& index, const QPoint& where);
-    void addMoveAndDuplicate(QMenu* menu, Item* item);
-    void addPostponeChoices(QMenu* menu, Item* item);
     void finish(Item* item);
     void reload();
     void onReset();
@@ -80,7 +70,6 @@ private:
     void onRunningChanged(Item* item);
     void updateStats();
     void spanHeadings();
-    // Upcoming and Completed: the time used by day, as bars.
     void updateChart();
     void showPostponeMessage(const Item& item);
     bool refusePostpone(Item* item);
@@ -88,18 +77,9 @@ private:
     const Services& m_services;
     bool m_withHeader;
     ItemListModel* m_model;
+    ListHeader* m_header = nullptr;
     QTableView* m_table = nullptr;
     QLabel* m_noData = nullptr;
-    ElidedLabel* m_name = nullptr;
-    QLabel* m_taskCount = nullptr;
-    QLabel* m_completedCount = nullptr;
-    QLabel* m_dueCount = nullptr;
-    QLabel* m_todayCount = nullptr;
-    QLabel* m_timeUsed = nullptr;
-    ElidedLabel* m_runningClock = nullptr;
-    CircularProgress* m_progress = nullptr;
-    StyledButton* m_status = nullptr;
-    BarChart* m_chart = nullptr;
 };
 
 } // namespace lullet

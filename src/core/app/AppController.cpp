@@ -43,16 +43,17 @@ AppController::AppController(const Clock& clock, Settings& settings, const QStri
     , m_catalogue({clock, m_library, m_generator, m_schedule, m_hours, m_texts})
     , m_running(clock, m_library)
     , m_monitor({clock, settings, m_library, m_catalogue, m_hours, m_running, m_lock})
+    , m_prompts(m_running)
     , m_itemActions(m_library, m_running, m_catalogue)
     , m_projectActions(clock, m_library)
     , m_postponing(clock, m_library)
     , m_backups({clock, settings, m_store, m_library, m_catalogue, m_running})
     , m_protection(settings, secrets, m_lock)
-    , m_services{clock,       settings,      m_library,        m_schedule,   m_hours,
-                 m_texts,     m_generator,   m_catalogue,      m_running,    m_lock,
-                 m_monitor,   m_itemActions, m_projectActions, m_postponing, m_backups,
-                 m_protection}
+    , m_services{clock,         settings,         m_library,    m_schedule, m_hours,     m_texts,
+                 m_generator,   m_catalogue,      m_running,    m_lock,     m_monitor,   m_prompts,
+                 m_itemActions, m_projectActions, m_postponing, m_backups,  m_protection}
 {
+    queueMonitorPrompts();
     // The idle question the lock held back is asked as soon as the user is in.
     connect(&m_lock, &Lock::unlocked, &m_monitor, &Monitor::askWhatNow);
     // The monitor counts in a new period from now on, without a relaunch.
@@ -63,6 +64,23 @@ AppController::AppController(const Clock& clock, Settings& settings, const QStri
 }
 
 AppController::~AppController() = default;
+
+void AppController::queueMonitorPrompts()
+{
+    using Kind = PromptRequest::Kind;
+    connect(&m_monitor, &Monitor::reminderDue, &m_prompts, [this](Item* item, Item* previous) {
+        m_prompts.add({Kind::Reminder, item, previous, {}, false});
+    });
+    connect(&m_monitor, &Monitor::idleQuestionDue, &m_prompts, [this](Date since, bool now) {
+        m_prompts.add({Kind::IdleQuestion, nullptr, nullptr, since, now});
+    });
+    connect(&m_monitor, &Monitor::timeOver, &m_prompts, [this](Item* item) {
+        m_prompts.add({Kind::TimeOver, item, nullptr, {}, false});
+    });
+    connect(&m_monitor, &Monitor::toDoDue, &m_prompts, [this](Item* item) {
+        m_prompts.add({Kind::ToDo, item, nullptr, {}, false});
+    });
+}
 
 Store::Result AppController::open()
 {

@@ -8,6 +8,7 @@
 #include "core/backup/Backups.h"
 #include "core/library/Library.h"
 #include "core/monitor/Monitor.h"
+#include "core/monitor/PromptQueue.h"
 #include "core/scheduling/Catalogue.h"
 #include "core/scheduling/Generator.h"
 #include "core/scheduling/ScheduleTexts.h"
@@ -65,6 +66,7 @@ public:
 
 private:
     void armTimer();
+    void queueMonitorPrompts();
 
     const Clock& m_clock;
     Settings& m_settings;
@@ -79,6 +81,7 @@ private:
     RunningItem m_running;
     Lock m_lock;
     Monitor m_monitor;
+    PromptQueue m_prompts;
     ItemActions m_itemActions;
     ProjectActions m_projectActions;
     Postponing m_postponing;

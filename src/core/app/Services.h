@@ -11,6 +11,7 @@ class Library;
 class Lock;
 class Monitor;
 class Postponing;
+class PromptQueue;
 class ProjectActions;
 class Protection;
 class RunningItem;
@@ -33,6 +34,7 @@ struct Services {
     RunningItem& running;
     Lock& lock;
     Monitor& monitor;
+    PromptQueue& prompts;
     ItemActions& itemActions;
     ProjectActions& projectActions;
     Postponing& postponing;

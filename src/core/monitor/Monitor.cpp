@@ -81,6 +81,7 @@ void Monitor::minutePass()
     m_lastMinutePassed = minute;
     m_services.catalogue.refreshActiveRows();
     later([this] { Q_EMIT minutePassed(); });
+    // A minute with reminders asks no idle question.
     if (raiseDueItems(now))
         return;
 
@@ -101,6 +102,7 @@ bool Monitor::raiseDueItems(Date now)
 {
     const Clock& clock = m_services.clock;
     const std::vector<Item*> snapshot = m_services.library.items();
+    bool raised = false;
     for (std::size_t i = 0; i < snapshot.size(); ++i) {
         Item* item = snapshot[i];
         if (item->isFinished())
@@ -128,10 +130,10 @@ bool Monitor::raiseDueItems(Date now)
         }
         m_services.running.stampPrompt(now);
         later([this, item, previous] { Q_EMIT reminderDue(item, previous); });
-        // One reminder a minute, and no idle question in it.
-        return true;
+        // Every item due this minute is asked about: the prompts wait their turn.
+        raised = true;
     }
-    return false;
+    return raised;
 }
 
 bool Monitor::idleQuestionsAllowed() const

@@ -62,7 +62,8 @@ private:
     // Does its work only when the present second is 0, with no catch-up for a minute whose
     // second 0 no tick saw.
     void minutePass();
-    // Answers whether a reminder was raised, which ends the pass.
+    // Raises every item due in this minute; answers whether one was a reminder, which ends the
+    // pass.
     bool raiseDueItems(Date now);
     bool idleQuestionsAllowed() const;
     void later(std::function<void()> emitter);

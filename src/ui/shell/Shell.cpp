@@ -4,7 +4,6 @@
 #include "core/app/Services.h"
 #include "core/backup/Backups.h"
 #include "core/library/Library.h"
-#include "core/model/Item.h"
 #include "core/monitor/Monitor.h"
 #include "core/presentation/RunningStatus.h"
 #include "core/security/Lock.h"
@@ -18,12 +17,8 @@
 #include "ui/main/MainView.h"
 #include "ui/preferences/BackupCommands.h"
 #include "ui/preferences/PreferencesWindow.h"
-#include "ui/prompts/IdlePromptView.h"
-#include "ui/prompts/ReminderPromptView.h"
-#include "ui/prompts/TimeOverPromptView.h"
-#include "ui/prompts/TodoPromptView.h"
 #include "ui/shell/MainWindow.h"
-#include "ui/shell/ReminderNotice.h"
+#include "ui/shell/PromptPresenter.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/Tray.h"
 #include "ui/shell/WindowContent.h"
@@ -43,12 +38,6 @@ namespace lullet {
 
 namespace {
 
-// A prompt raised for an item that has since been deleted has nothing to ask.
-bool gone(const Item* item)
-{
-    return item && !item->hasContext();
-}
-
 void bringForward(QWidget* window)
 {
     window->show();
@@ -65,20 +54,15 @@ Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& pres
     , m_window(window)
     , m_presence(presence)
     , m_tray(new Tray(window, this))
-    , m_reminderNotice(new ReminderNotice(
-          notifier,
+    , m_prompts(new PromptPresenter(
+          services, *m_tray, notifier,
           [this] {
               return !m_presence.trayIconUsable() || ActiveWindow::isOtherProgramFullScreen();
           },
-          this))
+          [this] { return selectedProject(); }, this))
 {
-    connect(m_reminderNotice, &ReminderNotice::promptWanted, this, [this] {
-        if (Popover* open = m_tray->popover())
-            open->activate();
-    });
     connect(m_tray, &Tray::clicked, this, &Shell::onTrayClicked);
     connect(m_tray, &Tray::dismissRequested, this, &Shell::dismissPopover);
-    connect(m_tray, &Tray::retiring, this, &Shell::onRetiring);
     connect(&m_window, &MainWindow::quickAddRequested, this, &Shell::quickAdd);
     connect(&m_window, &MainWindow::hidden, this, &Shell::keepWindowGeometry);
     connect(&m_window, &MainWindow::preferencesRequested, this, &Shell::showPreferences);
@@ -146,7 +130,9 @@ Shell::~Shell()
     // Quitting leaves the window where it is: its place is kept for the next launch.
     if (m_window.isVisible())
         keepWindowGeometry();
-    // The open prompt acts on the core's records: it goes while they still exist.
+    // The open prompt acts on the core's records: it goes while they still exist, and no other
+    // takes its place.
+    delete m_prompts;
     m_tray->dropPopover();
     delete m_quickAddWindow;
 }
@@ -179,10 +165,8 @@ void Shell::onTrayClicked()
     }
     // A prompt shown while the user typed elsewhere may not have been seen: the first click
     // calls it forward, the second puts it away.
-    if (qobject_cast<PromptView*>(open->content()) && !open->isActiveWindow()) {
-        open->activate();
+    if (m_prompts->bringForward())
         return;
-    }
     dismissPopover();
 }
 
@@ -191,8 +175,8 @@ void Shell::dismissPopover()
     Popover* open = m_tray->popover();
     if (!open || !open->isShown())
         return;
-    if (auto* prompt = qobject_cast<PromptView*>(open->content()))
-        prompt->dismiss();
+    if (m_prompts->showsPrompt())
+        m_prompts->dismiss();
     else
         m_tray->closePopover();
 }
@@ -228,10 +212,6 @@ void Shell::connectMonitor()
     connect(&m_services.running, &RunningItem::started, this, &Shell::updateToolTip);
     connect(&m_services.running, &RunningItem::finished, this, &Shell::updateToolTip);
     connect(&m_services.running, &RunningItem::extended, this, &Shell::updateToolTip);
-    connect(&monitor, &Monitor::reminderDue, this, &Shell::showReminder);
-    connect(&monitor, &Monitor::idleQuestionDue, this, &Shell::askIdleQuestion);
-    connect(&monitor, &Monitor::timeOver, this, &Shell::showTimeOver);
-    connect(&monitor, &Monitor::toDoDue, this, &Shell::showToDo);
 }
 
 void Shell::updateToolTip()
@@ -325,83 +305,6 @@ const Project* Shell::selectedProject() const
 {
     const MainView* main = m_content ? m_content->mainView() : nullptr;
     return main ? main->shownProject() : nullptr;
-}
-
-void Shell::showPrompt(const std::function<QWidget*()>& make)
-{
-    m_tray->show([this, make] {
-        QWidget* content = make();
-        if (auto* prompt = qobject_cast<PromptView*>(content))
-            connect(prompt, &PromptView::answered, this, &Shell::onAnswered);
-        return content;
-    });
-}
-
-void Shell::onAnswered(PromptOutcome outcome)
-{
-    switch (outcome) {
-    case PromptOutcome::Stay:
-        return;
-    case PromptOutcome::Close:
-        m_tray->closePopover();
-        return;
-    case PromptOutcome::CloseAndAsk:
-        m_tray->closePopover();
-        m_services.monitor.askWhatNow();
-        return;
-    case PromptOutcome::CloseAtOnceAndAsk:
-        m_tray->closePopoverImmediate();
-        m_services.monitor.askWhatNow();
-        return;
-    }
-}
-
-void Shell::onRetiring(QWidget* content)
-{
-    m_reminderNotice->retire(content);
-    // An idle question that goes unanswered hands its gap to the next question, before that one
-    // is made.
-    if (auto* idle = qobject_cast<IdlePromptView*>(content))
-        idle->leaveUnanswered();
-}
-
-void Shell::showReminder(Item* due, Item* previous)
-{
-    if (gone(due) || gone(previous))
-        return;
-    showPrompt([this, due, previous] {
-        auto* view = new ReminderPromptView(m_services, due, previous);
-        m_reminderNotice->announce(view);
-        return view;
-    });
-}
-
-void Shell::askIdleQuestion(Date since, bool askNow)
-{
-    const Popover* open = m_tray->popover();
-    if (open && open->isShown()) {
-        if (auto* idle = qobject_cast<IdlePromptView*>(open->content())) {
-            idle->extend(askNow);
-            return;
-        }
-    }
-    showPrompt([this, since, askNow] {
-        return new IdlePromptView(m_services, since, askNow, selectedProject());
-    });
-}
-
-void Shell::showTimeOver(Item* item)
-{
-    if (gone(item))
-        return;
-    showPrompt([this, item] { return new TimeOverPromptView(m_services, item); });
-}
-
-void Shell::showToDo(Item* item)
-{
-    if (gone(item))
-        return;
-    showPrompt([this, item] { return new TodoPromptView(m_services, item); });
 }
 
 void Shell::quickAdd()

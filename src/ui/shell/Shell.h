@@ -1,8 +1,5 @@
 #pragma once
 
-#include "core/dates/Date.h"
-#include "core/monitor/PromptOutcome.h"
-
 #include <QObject>
 #include <QPointer>
 
@@ -17,12 +14,11 @@ class ContactWindow;
 class DesktopNotifier;
 class DesktopPresence;
 class HelpWindow;
-class Item;
 class MainWindow;
 class PreferencesWindow;
 class Project;
 class QuickAddView;
-class ReminderNotice;
+class PromptPresenter;
 class Tray;
 class WindowContent;
 struct Services;
@@ -49,13 +45,6 @@ public:
     // Brings the main window to the front, its content made first if it has none yet; whenShown
     // runs once it is up.
     void bringMainWindowForward(const std::function<void()>& whenShown = {});
-
-    // The prompts, one at a time in the tray's popover: a new one waits until the open one has
-    // closed. An idle question already open goes on counting instead of being replaced.
-    void showReminder(Item* due, Item* previous);
-    void askIdleQuestion(Date since, bool askNow);
-    void showTimeOver(Item* item);
-    void showToDo(Item* item);
 
     // Quick add from anywhere: the main view's own bar when the window is up, else the quick-add
     // window.
@@ -89,16 +78,13 @@ private:
     void connectLock();
     void connectContent();
     void connectPresence();
-    void showPrompt(const std::function<QWidget*()>& make);
-    void onAnswered(PromptOutcome outcome);
-    void onRetiring(QWidget* content);
     const Project* selectedProject() const;
 
     const Services& m_services;
     MainWindow& m_window;
     DesktopPresence& m_presence;
     Tray* m_tray;
-    ReminderNotice* m_reminderNotice;
+    PromptPresenter* m_prompts;
     WindowContent* m_content = nullptr;
     QPointer<QuickAddView> m_quickAddWindow;
     QPointer<PreferencesWindow> m_preferences;

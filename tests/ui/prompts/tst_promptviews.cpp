@@ -1,6 +1,7 @@
 #include "core/dates/CalendarContext.h"
 #include "core/model/RepeatCodes.h"
 #include "core/monitor/IdlePrompt.h"
+#include "support/Asking.h"
 #include "support/DatePrinting.h"
 #include "support/FakeNotifications.h"
 #include "support/LaunchedDesktop.h"
@@ -203,7 +204,7 @@ private Q_SLOTS:
         Shell shell(services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         m_app->clock.set(at(2026, 11, 23, 10, 20));
-        shell.askIdleQuestion(at(2026, 11, 23, 10, 0), false);
+        askIdle(services().prompts, at(2026, 11, 23, 10, 0), false);
         QTRY_VERIFY(shell.tray().popover());
         Popover* popover = shell.tray().popover();
         click(popover->content(), "later");
@@ -213,7 +214,7 @@ private Q_SLOTS:
         QVERIFY(!app().running().item());
 
         Item* due = item(QStringLiteral("Stretch"), at(2026, 11, 23, 10, 20));
-        shell.showReminder(due, nullptr);
+        remind(services().prompts, due, nullptr);
         QTRY_VERIFY(qobject_cast<ReminderPromptView*>(shell.tray().popover()->content()));
         popover = shell.tray().popover();
         QTest::keyClick(popover, Qt::Key_Escape);
@@ -236,13 +237,13 @@ private Q_SLOTS:
             return popover && popover->isShown() &&
                    qobject_cast<ReminderPromptView*>(popover->content());
         };
-        shell.showReminder(item(QStringLiteral("Seen"), at(2026, 11, 23, 10, 15)), nullptr);
+        remind(services().prompts, item(QStringLiteral("Seen"), at(2026, 11, 23, 10, 15)), nullptr);
         QTRY_VERIFY(reminderShown());
         shell.tray().closePopoverImmediate();
 
         m_app->presence.setTrayAvailable(false);
         Item* tea = item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15));
-        shell.showReminder(tea, nullptr);
+        remind(services().prompts, tea, nullptr);
         QTRY_COMPARE(server.shown.size(), std::size_t(1));
         QTRY_VERIFY(m_app->notifier.isShown());
         QTRY_VERIFY(reminderShown());
@@ -264,7 +265,7 @@ private Q_SLOTS:
         QVERIFY(!m_app->notifier.isShown());
 
         Item* walk = item(QStringLiteral("Walk"), at(2026, 11, 23, 10, 15));
-        shell.showReminder(walk, nullptr);
+        remind(services().prompts, walk, nullptr);
         QTRY_COMPARE(server.shown.size(), std::size_t(2));
         QTRY_VERIFY(m_app->notifier.isShown());
         QTRY_VERIFY(reminderShown());
@@ -290,36 +291,50 @@ private Q_SLOTS:
         QTRY_VERIFY(!balloon);
     }
 
-    void oneQuestionAtATimeInThePopover()
+    // Prompts take turns in the popover: a reminder waits for the one on show to be answered or
+    // put away; the idle question waits behind reminders, and one on show gives way to a
+    // reminder and comes back after it over the whole gap.
+    void promptsTakeTurnsInThePopover()
     {
         MainWindow window;
         Shell shell(services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
+        const auto shown = [&shell]() -> QWidget* {
+            const Popover* popover = shell.tray().popover();
+            return popover && popover->isShown() ? popover->content() : nullptr;
+        };
+        const auto dueOnShow = [&shown]() -> Item* {
+            auto* reminder = qobject_cast<ReminderPromptView*>(shown());
+            return reminder ? reminder->prompt().due() : nullptr;
+        };
         Item* first = item(QStringLiteral("First"), at(2026, 11, 23, 10, 15));
         Item* second = item(QStringLiteral("Second"), at(2026, 11, 23, 10, 15));
-        shell.showReminder(first, nullptr);
-        Popover* popover = shell.tray().popover();
-        QVERIFY(popover && popover->isShown());
-        // The next prompt waits for the first to close.
-        shell.showReminder(second, nullptr);
-        QTRY_VERIFY(shell.tray().popover() && shell.tray().popover() != popover);
-        auto* shown = qobject_cast<ReminderPromptView*>(shell.tray().popover()->content());
-        QVERIFY(shown);
-        QCOMPARE(shown->prompt().due(), second);
+        remind(services().prompts, first);
+        remind(services().prompts, second);
+        askIdle(services().prompts, at(2026, 11, 23, 10, 0));
+        QTRY_COMPARE(dueOnShow(), first);
+        QTest::qWait(50);
+        QCOMPARE(dueOnShow(), first);
+        QTest::keyClick(shell.tray().popover(), Qt::Key_Escape);
+        QTRY_COMPARE(dueOnShow(), second);
+        click(shown(), "postpone10");
+        QTRY_VERIFY(qobject_cast<IdlePromptView*>(shown()));
 
-        // An idle question already open goes on counting instead of being replaced.
-        shell.askIdleQuestion(at(2026, 11, 23, 10, 0), false);
-        QTRY_VERIFY(qobject_cast<IdlePromptView*>(shell.tray().popover()->content()));
+        // An idle question on show goes on counting instead of being replaced.
         Popover* idle = shell.tray().popover();
-        shell.askIdleQuestion(at(2026, 11, 23, 10, 5), true);
+        askIdle(services().prompts, at(2026, 11, 23, 10, 5), true);
         QCOMPARE(shell.tray().popover(), idle);
-        auto* question = qobject_cast<IdlePromptView*>(idle->content());
-        QVERIFY(question->prompt().asksNow());
+        QVERIFY(qobject_cast<IdlePromptView*>(idle->content())->prompt().asksNow());
 
-        // Dropped unanswered, it hands its start to the next question.
-        shell.tray().closePopoverImmediate();
-        QVERIFY(!shell.tray().popover());
+        // A reminder cannot wait behind it: the question gives way and comes back after.
+        Item* third = item(QStringLiteral("Third"), at(2026, 11, 23, 10, 15));
+        remind(services().prompts, third);
+        QTRY_COMPARE(dueOnShow(), third);
         QCOMPARE(*app().running().unansweredGapStart(), at(2026, 11, 23, 10, 0));
+        QTest::keyClick(shell.tray().popover(), Qt::Key_Escape);
+        IdlePromptView* again = nullptr;
+        QTRY_VERIFY((again = qobject_cast<IdlePromptView*>(shown())));
+        QCOMPARE(again->prompt().gapStart(), at(2026, 11, 23, 10, 0));
     }
 
     // An unanswered question replaced by the next: the next counts from the first's start, and
@@ -330,13 +345,13 @@ private Q_SLOTS:
         Shell shell(services(), window, m_app->presence, m_app->notifier);
         shell.setLoaded();
         m_app->clock.set(at(2026, 11, 23, 10, 15));
-        shell.askIdleQuestion(at(2026, 11, 23, 10, 0), false);
+        askIdle(services().prompts, at(2026, 11, 23, 10, 0), false);
         QTRY_VERIFY(shell.tray().popover());
         const QWidget* a = shell.tray().popover()->content();
         // The tray closes it without an answer: hidden, not answered.
         shell.tray().closePopover();
         m_app->clock.set(at(2026, 11, 23, 10, 30));
-        shell.askIdleQuestion(at(2026, 11, 23, 10, 15), false);
+        askIdle(services().prompts, at(2026, 11, 23, 10, 15), false);
         IdlePromptView* b = nullptr;
         QTRY_VERIFY((b = qobject_cast<IdlePromptView*>(
                          shell.tray().popover() ? shell.tray().popover()->content() : nullptr)) &&
@@ -349,7 +364,7 @@ private Q_SLOTS:
         QVERIFY(!app().running().unansweredGapStart());
         app().running().finish(*app().running().item());
         m_app->clock.set(at(2026, 11, 23, 10, 50));
-        shell.askIdleQuestion(at(2026, 11, 23, 10, 30), false);
+        askIdle(services().prompts, at(2026, 11, 23, 10, 30), false);
         IdlePromptView* c = nullptr;
         QTRY_VERIFY((c = qobject_cast<IdlePromptView*>(
                          shell.tray().popover() ? shell.tray().popover()->content() : nullptr)) &&

@@ -1,6 +1,7 @@
 #include "core/activity/ProjectActions.h"
 #include "core/activity/RunningItem.h"
 #include "core/app/Services.h"
+#include "support/Asking.h"
 #include "support/LaunchedDesktop.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
@@ -200,13 +201,15 @@ private Q_SLOTS:
             unnamed << unnamedControls({shell.tray().popover()});
             shell.tray().closePopoverImmediate();
         };
-        shell.showReminder(due, running);
+        remind(m_app->services().prompts, due, running);
         walkPopover();
-        shell.showTimeOver(running);
+        tellTimeOver(m_app->services().prompts, running);
         walkPopover();
-        shell.showToDo(due);
+        askToDo(m_app->services().prompts, due);
         walkPopover();
-        shell.askIdleQuestion(at(2026, 11, 23, 9, 30), true);
+        // The idle question is for a time with nothing running.
+        m_app->services().running.finish(*running);
+        askIdle(m_app->services().prompts, at(2026, 11, 23, 9, 30), true);
         walkPopover();
         Q_EMIT shell.tray().clicked();
         walkPopover();

@@ -1,5 +1,6 @@
 #include "core/activity/RunningItem.h"
 #include "core/dates/CalendarContext.h"
+#include "support/Asking.h"
 #include "support/LaunchedDesktop.h"
 #include "support/TestCalendar.h"
 #include "support/TestMain.h"
@@ -90,10 +91,9 @@ class TestPromptFocus : public QObject {
 
     void ask()
     {
-        m_shell->askIdleQuestion(m_app->clock.now().dateByAddingMinutes(-15), false);
-        QVERIFY(popover());
+        askIdle(m_app->services().prompts, m_app->clock.now().dateByAddingMinutes(-15), false);
+        QTRY_VERIFY(popover() && popover()->isShown() && popover()->findChild<IdlePromptView*>());
         QVERIFY(QTest::qWaitForWindowExposed(popover()));
-        QVERIFY(popover()->findChild<IdlePromptView*>());
     }
 
     void type(const QString& text) { QVERIFY(xdotool({QStringLiteral("type"), text})); }

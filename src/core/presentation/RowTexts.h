@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/dates/Date.h"
 #include "core/presentation/ListRow.h"
 
 namespace lullet {
@@ -18,6 +19,11 @@ public:
     static QString getStringFromSeconds(int seconds);
     // "hh:mm" and an "m" behind, as planned lengths read.
     static QString hoursAndMinutes(int hours, int minutes);
+
+private:
+    // "In 2 days", "Overdue by 1 day", "Due from 1 hr 30 min", or nothing; sets `dueOrOverdue`.
+    static QString lateness(const Item& item, Date due, const Clock& clock, bool& dueOrOverdue);
+    static void setTimeUsed(ListRow& row, const Item& item);
 };
 
 } // namespace lullet

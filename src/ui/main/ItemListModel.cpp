@@ -18,7 +18,7 @@ ItemListModel::ItemListModel(const Clock& clock, Library& library, const Running
     , m_clock(clock)
     , m_library(library)
     , m_running(running)
-    , m_scope(std::move(scope))
+    , m_scope(scope)
     , m_withProjectName(withProjectName)
 {
     reload();
@@ -118,6 +118,45 @@ int ItemListModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
+QVariant ItemListModel::display(const ListRow& row, int column) const
+{
+    if (row.type == ListRow::DayHeading) {
+        if (column != StartColumn)
+            return {};
+        if (row.countOnDay <= 0)
+            return row.title;
+        return row.title + QStringLiteral("  (%1)").arg(row.countOnDay) +
+               (row.timeUsedInSeconds > 0 ? QStringLiteral("   ") + row.timeUsed : QString());
+    }
+    switch (column) {
+    case StartColumn:
+        return startGlyph(row.representedObject);
+    case TitleColumn:
+        return row.title;
+    case TimeColumn:
+        return row.time;
+    case DurationColumn:
+        return row.duration;
+    case UsedColumn:
+        return row.timeUsed;
+    default:
+        return {};
+    }
+}
+
+QVariant ItemListModel::font(const ListRow& row, int column)
+{
+    const Item* item = row.representedObject;
+    QFont font;
+    if (row.type == ListRow::DayHeading)
+        font.setBold(true);
+    else if (column == TitleColumn && item && item->isFinished())
+        font.setStrikeOut(true);
+    else
+        return {};
+    return font;
+}
+
 QVariant ItemListModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount())
@@ -136,29 +175,7 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const
     case FinishedRole:
         return item && item->isFinished();
     case Qt::DisplayRole:
-        if (row.type == ListRow::DayHeading) {
-            if (index.column() == StartColumn)
-                return row.countOnDay > 0
-                           ? row.title + QStringLiteral("  (%1)").arg(row.countOnDay) +
-                                 (row.timeUsedInSeconds > 0 ? QStringLiteral("   ") + row.timeUsed
-                                                            : QString())
-                           : row.title;
-            return QVariant();
-        }
-        switch (index.column()) {
-        case StartColumn:
-            return startGlyph(item);
-        case TitleColumn:
-            return row.title;
-        case TimeColumn:
-            return row.time;
-        case DurationColumn:
-            return row.duration;
-        case UsedColumn:
-            return row.timeUsed;
-        default:
-            return {};
-        }
+        return display(row, index.column());
     case Qt::ToolTipRole:
     case Qt::AccessibleTextRole:
         if (index.column() == StartColumn && item && !item->isFinished())
@@ -170,17 +187,7 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const
             return QColor(0xFC, 0x72, 0x74);
         return {};
     case Qt::FontRole:
-        if (row.type == ListRow::DayHeading) {
-            QFont font;
-            font.setBold(true);
-            return font;
-        }
-        if (index.column() == TitleColumn && item && item->isFinished()) {
-            QFont font;
-            font.setStrikeOut(true);
-            return font;
-        }
-        return {};
+        return font(row, index.column());
     default:
         return {};
     }

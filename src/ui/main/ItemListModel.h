@@ -48,6 +48,8 @@ public:
 private:
     // The start column: "▶" to start, "■" while running, "✓" once finished.
     QString startGlyph(const Item* item) const;
+    QVariant display(const ListRow& row, int column) const;
+    static QVariant font(const ListRow& row, int column);
     // The row, its texts rebuilt first if they are out of date.
     const ListRow& freshRow(std::size_t row) const;
 

@@ -54,7 +54,7 @@ ListHeader::ListHeader(const Services& services, const ListBuilder::Scope& scope
     buildName(texts);
     buildCounts(texts);
     QHBoxLayout* row = buildSwitchRow(texts);
-    buildExportButton(row, std::move(report));
+    buildExportButton(row, report);
     if (scope.project)
         buildProjectButton(row);
     header->addLayout(texts, 1);
@@ -158,7 +158,7 @@ void ListHeader::buildBadgeAndRing(QHBoxLayout* header)
 }
 
 // Print, PDF and mail of the list as it shows.
-void ListHeader::buildExportButton(QHBoxLayout* row, std::function<Report()> report)
+void ListHeader::buildExportButton(QHBoxLayout* row, const std::function<Report()>& report)
 {
     auto* button = new QToolButton(this);
     button->setObjectName(QStringLiteral("export"));
@@ -166,7 +166,7 @@ void ListHeader::buildExportButton(QHBoxLayout* row, std::function<Report()> rep
     button->setPopupMode(QToolButton::InstantPopup);
     auto* menu = new QMenu(button);
     const ReportCommands commands(m_services.clock, m_services.library);
-    commands.addActions(menu, this, std::move(report),
+    commands.addActions(menu, this, report,
                         m_scope.project ? ReportCommands::emptyProjectText()
                                         : ReportCommands::emptyListText());
     button->setMenu(menu);

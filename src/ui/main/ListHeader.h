@@ -51,7 +51,7 @@ private:
     // Answers the row, for the buttons beside the switches.
     QHBoxLayout* buildSwitchRow(QVBoxLayout* texts);
     void buildBadgeAndRing(QHBoxLayout* header);
-    void buildExportButton(QHBoxLayout* row, std::function<Report()> report);
+    void buildExportButton(QHBoxLayout* row, const std::function<Report()>& report);
     void buildProjectButton(QHBoxLayout* row);
 
     const Services& m_services;

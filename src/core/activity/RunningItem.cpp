@@ -74,8 +74,12 @@ void RunningItem::finish(Item& item, Finish how)
         return;
     }
     const Date now = m_clock.now();
-    if (how != Finish::ToDoDone)
+    if (how != Finish::ToDoDone && how != Finish::TakenWhileAway)
         m_lastPromptAt = now;
+    if (how == Finish::TakenWhileAway) {
+        item.setTimeLimit(item.plannedSeconds());
+        item.setElapsedTime(item.plannedSeconds());
+    }
     item.setRunningTimeCovered(std::nullopt);
     if (how == Finish::FileNow || how == Finish::ToDoDone) {
         item.setDtReminder(now);

@@ -11,7 +11,9 @@ class Library;
 class Lock;
 class Monitor;
 class Postponing;
+class PromptHold;
 class PromptQueue;
+class ReminderPause;
 class ProjectActions;
 class Protection;
 class RunningItem;
@@ -35,6 +37,8 @@ struct Services {
     Lock& lock;
     Monitor& monitor;
     PromptQueue& prompts;
+    ReminderPause& pause;
+    PromptHold& hold;
     ItemActions& itemActions;
     ProjectActions& projectActions;
     Postponing& postponing;

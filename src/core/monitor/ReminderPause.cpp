@@ -32,6 +32,18 @@ std::optional<Date> ReminderPause::until() const
     return m_settings.remindersPausedUntil();
 }
 
+QString ReminderPause::description() const
+{
+    if (!isPaused())
+        return {};
+    const std::optional<Date> end = until();
+    if (!end)
+        return tr("Reminders paused until you resume them");
+    // A pause that ends on another day says which.
+    const DateStyle day = end->isToday(m_clock) ? DateStyle::None : DateStyle::Medium;
+    return tr("Reminders paused until %1").arg(end->toString(day, DateStyle::Short, &m_clock));
+}
+
 void ReminderPause::pauseFor(int minutes)
 {
     pauseUntil(m_clock.now().dateByAddingMinutes(std::max(1, minutes)));

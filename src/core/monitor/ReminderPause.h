@@ -23,6 +23,9 @@ public:
     // The end of the pause; none while it lasts until resumed, or when not paused.
     std::optional<Date> until() const;
 
+    // "Reminders paused until 10:30 AM", "… until you resume them", or nothing when not paused.
+    QString description() const;
+
     void pauseFor(int minutes);
     // Until the start of tomorrow.
     void pauseUntilTomorrow();

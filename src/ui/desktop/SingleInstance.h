@@ -21,6 +21,9 @@ class SingleInstance final : public QObject {
 public:
     static constexpr char showRequest[] = "show";
     static constexpr char quickAddRequest[] = "quick-add";
+    // "pause" until resumed, or "pause 30" for thirty minutes; "resume".
+    static constexpr char pauseRequest[] = "pause";
+    static constexpr char resumeRequest[] = "resume";
     // A request is a short line; a client that sends more is cut off.
     static constexpr int maxRequestBytes = 256;
 

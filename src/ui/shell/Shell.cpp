@@ -5,6 +5,7 @@
 #include "core/backup/Backups.h"
 #include "core/library/Library.h"
 #include "core/monitor/Monitor.h"
+#include "core/monitor/ReminderPause.h"
 #include "core/presentation/RunningStatus.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
@@ -18,6 +19,7 @@
 #include "ui/preferences/BackupCommands.h"
 #include "ui/preferences/PreferencesWindow.h"
 #include "ui/shell/MainWindow.h"
+#include "ui/shell/PauseActions.h"
 #include "ui/shell/PromptPresenter.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/Tray.h"
@@ -48,14 +50,15 @@ void bringForward(QWidget* window)
 } // namespace
 
 Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& presence,
-             DesktopNotifier& notifier, QObject* parent)
+             DesktopNotifier& notifier, PromptSound* sound, QObject* parent)
     : QObject(parent)
     , m_services(services)
     , m_window(window)
     , m_presence(presence)
     , m_tray(new Tray(window, this))
+    , m_pauseActions(new PauseActions(services.pause, this))
     , m_prompts(new PromptPresenter(
-          services, *m_tray, notifier,
+          services, *m_tray, notifier, sound,
           [this] {
               return !m_presence.trayIconUsable() || ActiveWindow::isOtherProgramFullScreen();
           },
@@ -68,6 +71,8 @@ Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& pres
     connect(&m_window, &MainWindow::preferencesRequested, this, &Shell::showPreferences);
     connect(&m_window, &MainWindow::helpRequested, this, &Shell::showHelp);
     connect(&m_window, &MainWindow::contactRequested, this, &Shell::showContact);
+    m_pauseActions->addTo(m_window.lulletMenu(), m_window.preferencesAction());
+    connect(&m_services.pause, &ReminderPause::changed, this, &Shell::updateToolTip);
     connectMonitor();
     connectBackups();
     connectLock();
@@ -218,12 +223,14 @@ void Shell::updateToolTip()
 {
     if (!m_loaded)
         return;
+    const QString paused = m_services.pause.description();
+    m_tray->setPaused(!paused.isEmpty());
     // What runs and what comes next are the user's data.
-    if (m_services.lock.isLocked())
-        m_tray->setToolTip(tr("Lullet is locked"));
-    else
-        m_tray->setToolTip(
-            RunningStatus::toolTip(m_services.library, m_services.running, m_services.clock));
+    QString tip =
+        m_services.lock.isLocked()
+            ? tr("Lullet is locked")
+            : RunningStatus::toolTip(m_services.library, m_services.running, m_services.clock);
+    m_tray->setToolTip(paused.isEmpty() ? tip : paused + u'\n' + tip);
 }
 
 void Shell::showTray()
@@ -238,6 +245,7 @@ void Shell::showTray()
     QAction* preferences = menu->addAction(tr("Preferences…"));
     preferences->setShortcuts(MainWindow::preferencesShortcuts());
     connect(preferences, &QAction::triggered, this, &Shell::showPreferences);
+    m_pauseActions->addTo(menu, preferences);
     connect(menu->addAction(tr("Help")), &QAction::triggered, this, &Shell::showHelp);
     menu->addSeparator();
     connect(menu->addAction(tr("Quit Lullet")), &QAction::triggered, this, &Shell::quitRequested);

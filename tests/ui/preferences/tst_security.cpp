@@ -259,7 +259,7 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         saveShot(preferences, QStringLiteral("preferences-general"));
         for (QAction* entry : entries)
-            QVERIFY(entry->isEnabled());
+            QVERIFY2(entry->isEnabled() || !entry->isVisible(), qPrintable(entry->text()));
     }
 
     void theLoginPageSaysWhatWentWrong()

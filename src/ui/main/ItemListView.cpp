@@ -6,6 +6,7 @@
 #include "core/dates/Clock.h"
 #include "core/library/Library.h"
 #include "core/monitor/Monitor.h"
+#include "core/presentation/Sidebar.h"
 #include "core/presentation/TaskStats.h"
 #include "core/reports/Report.h"
 #include "core/text/LocalizedText.h"
@@ -286,11 +287,10 @@ void ItemListView::onItemsChanged(Item* item)
     }
     // Not listed here: the main view moves to where it belongs.
     const ListBuilder::Scope& shown = m_model->scope();
-    if (!item || !item->hasContext() || !m_withHeader || shown.project || shown.isCustomListing())
+    if (!item || !item->hasContext() || !m_withHeader || shown.project)
         return;
-    const Segment target = item->effectiveDate() ? Segment::Today : Segment::Anytime;
-    if (target != shown.segment &&
-        ListBuilder::belongs(*item, {target, nullptr, false}, m_services.clock.now()))
+    const Segment target = Sidebar::segmentFor(*item, m_services.clock.now());
+    if (target != shown.segment && target != Segment::Project)
         Q_EMIT segmentRequested(target);
 }
 

@@ -2,6 +2,7 @@
 #include "core/app/AppController.h"
 #include "core/library/Library.h"
 #include "core/model/RepeatCodes.h"
+#include "core/monitor/IdlePrompt.h"
 #include "core/monitor/PromptHold.h"
 #include "core/monitor/PromptPort.h"
 #include "core/monitor/PromptQueue.h"
@@ -284,6 +285,24 @@ private Q_SLOTS:
                           : QStringList{QStringLiteral("Walk break"), QStringLiteral("Power nap"),
                                         QStringLiteral("Call Anna")};
         QCOMPARE(day.port.putAwayAll(), expected);
+    }
+
+    // A question put off keeps its gap for the next, but the gap ends where an item ran: the next
+    // answer never books minutes another task timed.
+    void aGapNeverCoversATimedItem()
+    {
+        Day day(m_dir->path(), at(10, 0));
+        RunningItem& running = day.services().running;
+        running.setUnansweredGapStart(at(10, 0));
+        Item* letters = day.services().library.newTask(QStringLiteral("Letters"));
+        day.services().library.addItem(letters);
+        day.clock.set(at(10, 10));
+        running.start(*letters);
+        day.clock.set(at(10, 30));
+        running.finish(*letters);
+        day.clock.set(at(10, 45));
+        const IdlePrompt next(day.clock, day.services().library, running, at(10, 30), false);
+        QCOMPARE(next.gapStart(), at(10, 30));
     }
 
     // A full-screen program holds prompts by preference.

@@ -153,6 +153,12 @@ private Q_SLOTS:
         QCOMPARE(*app().library().items().back()->title(), QStringLiteral("Read a book"));
         QTRY_COMPARE(view.shownSegment(), Segment::Anytime);
         QTRY_COMPARE(view.sidebar().list()->currentRow(), 4);
+        // Added from "Completed", where it does not belong, it is shown where it does.
+        view.showSegment(Segment::Completed);
+        view.showQuickAddBar();
+        view.quickAddBar()->nameField()->setText(QStringLiteral("call the plumber"));
+        view.showQuickAddBar();
+        QTRY_COMPARE(view.shownSegment(), Segment::Today);
     }
 
     void aNewProjectIsSelectedAndListed()

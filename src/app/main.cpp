@@ -137,6 +137,13 @@ int main(int argc, char* argv[])
     if (const int status = CommandLine::parse(argc, argv, options); status >= 0)
         return status;
 
+    // Without a window system Qt would abort; the user is told instead.
+    if (!PlatformChoice::hasDisplay(QProcessEnvironment::systemEnvironment())) {
+        std::fprintf(stderr, "Lullet: %s\n",
+                     qPrintable(QCoreApplication::translate(
+                         "main", "no display. Start Lullet in your desktop session.")));
+        return 1;
+    }
     PlatformChoice::apply();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lullet"));

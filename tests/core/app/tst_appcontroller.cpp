@@ -114,17 +114,23 @@ private Q_SLOTS:
         settings.sync();
         QVERIFY(!fileText(settings.filePath()).contains("hunter3"));
 
-        // A password an earlier program wrote is gone as soon as the settings are read.
-        QFile file(QDir(dir()).filePath(QStringLiteral("old.conf")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("[General]\npasswordValues=\"{\\\"isPassword\\\":true,"
-                   "\\\"password\\\":\\\"hunter4\\\"}\"\n");
-        file.close();
-        {
-            Settings old(file.fileName());
-            QVERIFY(old.passwordProtected());
+        // A password an earlier program wrote is gone as soon as the settings are read, as a
+        // text, a list or a map.
+        for (const QByteArray& left :
+             {QByteArray("\\\"hunter4\\\""), QByteArray("[\\\"hunter4\\\"]"),
+              QByteArray("{\\\"text\\\":\\\"hunter4\\\"}")}) {
+            QFile file(QDir(dir()).filePath(QStringLiteral("old.conf")));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("[General]\npasswordValues=\"{\\\"isPassword\\\":true,"
+                       "\\\"password\\\":" +
+                       left + "}\"\n");
+            file.close();
+            {
+                Settings old(file.fileName());
+                QVERIFY(old.passwordProtected());
+            }
+            QVERIFY2(!fileText(file.fileName()).contains("hunter4"), left.constData());
         }
-        QVERIFY(!fileText(file.fileName()).contains("hunter4"));
     }
 
     void aProtectedProgramStartsLockedAfterTheWelcome_data()

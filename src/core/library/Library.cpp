@@ -1,6 +1,7 @@
 #include "core/library/Library.h"
 
 #include "core/library/ItemOrder.h"
+#include "core/store/Db.h"
 #include "core/store/ObjectContext.h"
 #include "core/store/Store.h"
 #include "core/text/LocalizedText.h"
@@ -229,9 +230,15 @@ bool Library::save()
         m_saveFailing = false;
         return true;
     }
-    // Told once, not at every save that fails for the same reason.
-    if (!m_saveFailing)
-        Q_EMIT saveFailed(ctx.errorMessage());
+    // Told once, not at every save that fails for the same reason; and told after the current
+    // work, so that a save of the launch, before any window listens, is heard as well.
+    if (!m_saveFailing) {
+        later([this, words = Db::inWords(ctx.errorCode(), ctx.errorMessage())] {
+            Q_EMIT saveFailed(tr("Your changes could not be saved: %1. Lullet keeps them and "
+                                 "saves them with your next change.")
+                                  .arg(words));
+        });
+    }
     m_saveFailing = true;
     return false;
 }

@@ -79,8 +79,8 @@ public:
     void addRule(Rule* rule);
     void removeRule(Rule* rule);
 
-    // Writes every change. The first of a run of failures is told by saveFailed(); the changes
-    // stay for the next save.
+    // Writes every change. The first of a run of failures is told by saveFailed(), in the user's
+    // words, after the current work; the changes stay for the next save.
     bool save();
 
     // Tells the views that items changed; `item` is the one added or edited, if there is one.

@@ -4,6 +4,7 @@
 #include "core/settings/PrivateFiles.h"
 #include "core/store/StoreSchema.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -81,9 +82,23 @@ Store::Result Store::open()
 
 Store::Result Store::fail(Outcome outcome, const QString& what)
 {
+    if (m_db.isOutOfSpace()) {
+        close();
+        return diskFull();
+    }
     const QString words = sqliteWords(m_db);
     close();
     return {outcome, what.arg(storePath()) + words, {}};
+}
+
+Store::Result Store::diskFull() const
+{
+    return {Outcome::DiskFull,
+            QCoreApplication::translate("Store",
+                                        "The disk that holds your Lullet store (%1) is full. "
+                                        "Free some space, then start Lullet again.")
+                .arg(m_folder),
+            {}};
 }
 
 void Store::close()
@@ -118,6 +133,8 @@ Store::Result Store::openFile()
         return fail(Outcome::ReadOnly,
                     QStringLiteral("The store %1 is read-only. Lullet saves every change as it "
                                    "happens: make the file writable and start Lullet again."));
+    case Inspection::NoRoom:
+        return diskFull();
     }
 
     m_db = Db(storePath());
@@ -196,8 +213,11 @@ Store::Inspection Store::inspectOnce() const
     Db db(storePath(), true);
     // Waiting is done here, between looks, so that a busy file is told as such.
     db.setBusyTimeout(50);
-    if (!db.isOpen())
+    if (!db.isOpen()) {
+        if (db.isOutOfSpace())
+            return Inspection::NoRoom;
         return isBusy(db.errorCode()) ? Inspection::Busy : Inspection::Unreadable;
+    }
     switch (StoreSchema::check(db)) {
     case StoreSchema::Check::Fresh:
     case StoreSchema::Check::Ours:
@@ -214,6 +234,8 @@ Store::Inspection Store::inspectOnce() const
     // The look could not be completed: only damage that SQLite found says anything.
     if (isDamage(db.errorCode()))
         return Inspection::Damaged;
+    if (db.isOutOfSpace())
+        return Inspection::NoRoom;
     return isBusy(db.errorCode()) ? Inspection::Busy : Inspection::Unreadable;
 }
 

@@ -29,7 +29,9 @@ public:
         ReadOnly,
         // Ours, but it lacks its tables: the message says which file to move aside.
         MissingTables,
-        // Could not be opened for another reason (a full disk): files left as they are.
+        // The disk has no room left: files left as they are.
+        DiskFull,
+        // Could not be opened for another reason: files left as they are.
         OpenFailed,
     };
 
@@ -75,12 +77,14 @@ private:
         Damaged,
         Busy,
         Unreadable,
-        ReadOnly
+        ReadOnly,
+        NoRoom
     };
     Inspection inspect() const;
     Inspection inspectOnce() const;
     Result openFile();
     Result fail(Outcome outcome, const QString& what);
+    Result diskFull() const;
     Result moveAside(const QString& why);
     // Closes the connection; the context forgets its records but keeps their memory.
     void close();

@@ -1,5 +1,6 @@
 #include "core/dates/CalendarContext.h"
 #include "core/library/ItemOrder.h"
+#include "core/model/RepeatCodes.h"
 #include "core/monitor/Monitor.h"
 #include "core/scheduling/WorkingHours.h"
 #include "core/security/Lock.h"
@@ -231,13 +232,41 @@ private Q_SLOTS:
         QCOMPARE(app.core.prepareToQuit(), AppController::QuitReply::SaveFailed);
         QVERIFY(app.context().hasChanges());
 
-        // A save elsewhere tells its failure and keeps the change.
+        // A save elsewhere tells its failure, once, and keeps the change.
         QSignalSpy failed(&app.library(), &Library::saveFailed);
         QVERIFY(!app.library().save());
         QVERIFY(!app.library().save());
-        QCOMPARE(failed.count(), 1);
+        QTRY_COMPARE(failed.count(), 1);
         QVERIFY(failed.front().front().toString().contains(QStringLiteral("disk is full")));
         QVERIFY(app.context().hasChanges());
+    }
+
+    // The saves of a launch come before any window listens: their failure is told after it.
+    void aLaunchsFailedSaveIsToldAfterTheLaunch()
+    {
+        {
+            Launched first(dir(), at(2026, 11, 23, 9));
+            QVERIFY(first.open());
+            Rule* rule = first.library().newRule();
+            rule->setUniqueId(QStringLiteral("Water_1795424400"));
+            rule->setTitle(QStringLiteral("Water"));
+            rule->setDtReminder(at(2026, 11, 20, 10));
+            rule->setRepeatInterval(1);
+            rule->setRepeatIntervalType(RepeatUnit::Day);
+            rule->setRepeatOption(RepeatEnd::never);
+            rule->setIsActive(true);
+            first.library().addRule(rule);
+            QVERIFY(first.library().save());
+        }
+        Db db(QDir(dir()).filePath(QStringLiteral("data/Lullet.sqlite")));
+        QVERIFY(db.exec("CREATE TRIGGER refuse BEFORE INSERT ON ReminderInfo "
+                        "BEGIN SELECT RAISE(ABORT, 'disk is full'); END"));
+        Launched next(dir(), at(2026, 11, 24, 9));
+        QVERIFY(next.open());
+        QSignalSpy failed(&next.library(), &Library::saveFailed);
+        QTRY_COMPARE(failed.count(), 1);
+        QVERIFY(failed.front().front().toString().startsWith(
+            QStringLiteral("Your changes could not be saved: disk is full.")));
     }
 
     void aStoreThatCannotBeOpenedEndsTheLaunch()

@@ -4,6 +4,7 @@
 #include "core/store/StoreSchema.h"
 #include "support/DatePrinting.h"
 #include "support/FakeClock.h"
+#include "support/FullDisk.h"
 #include "support/TestMain.h"
 
 #include <QDir>
@@ -345,6 +346,40 @@ private Q_SLOTS:
         QVERIFY(asideFiles(folder()).isEmpty());
         Db db(path, true);
         QCOMPARE(db.queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 1);
+    }
+
+    // A disk without room is said as such, at a save and at a launch, and nothing is moved or
+    // lost: the change waits for room, and the store opens once there is some.
+    void aFullDiskIsSaidAsSuch()
+    {
+        lullet::test::FullDisk disk;
+        {
+            Store store(folder(), m_clock);
+            QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+            store.context().insertItem()->setTitle(QStringLiteral("Kept"));
+            QVERIFY(store.context().save());
+            disk.fill();
+            store.context().insertItem()->setTitle(QStringLiteral("Waiting"));
+            QVERIFY(!store.context().save());
+            QCOMPARE(Db::inWords(store.context().errorCode(), store.context().errorMessage()),
+                     QStringLiteral("the disk is full"));
+            QVERIFY(store.context().hasChanges());
+            disk.empty();
+            QVERIFY(store.context().save());
+        }
+        disk.fill();
+        for (const QString& where : {folder(), m_dir.filePath(QStringLiteral("first"))}) {
+            Store store(where, m_clock);
+            const Store::Result result = store.open();
+            QCOMPARE(result.outcome, Store::Outcome::DiskFull);
+            QVERIFY2(result.message.contains(QStringLiteral("is full")),
+                     qPrintable(result.message));
+        }
+        QVERIFY(asideFiles(folder()).isEmpty());
+        disk.empty();
+        Store store(folder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        QCOMPARE(store.context().items().size(), std::size_t(2));
     }
 
     void theFilesAreTheUsersAlone()

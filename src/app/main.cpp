@@ -87,6 +87,10 @@ void openCore(AppController& core, Shell& shell, MainWindow& window, bool inTray
         return;
     }
     showWindows(core.services(), shell, window, inTray);
+    // What the launch had to mend (a restore cut short, undone) is said once the window is up.
+    if (!opened.message.isEmpty())
+        QTimer::singleShot(
+            0, &window, [&window, notice = opened.message] { Dialogs::inform(&window, notice); });
     core.startMonitoring();
     // A backstop, once the first lists are built: what reading the store freed goes back to the
     // system rather than staying resident all day.

@@ -123,6 +123,10 @@ void openCore(AppController& core, Shell& shell, MainWindow& window, bool inTray
         return;
     }
     showWindows(core.services(), shell, window, inTray);
+    // What the launch had to mend (a restore cut short, undone) is said once the window is up.
+    if (!opened.message.isEmpty())
+        QTimer::singleShot(
+            0, &window, [&window, notice = opened.message] { Dialogs::inform(&window, notice); });
     core.startMonitoring();
     // A backstop, once the first lists are built: what reading the store freed goes back to the
     // system rather than staying resident all day.
@@ -173,6 +177,13 @@ int main(int argc, char* argv[])
     if (const int status = CommandLine::parse(argc, argv, options); status >= 0)
         return status;
 
+    // Without a window system Qt would abort; the user is told instead.
+    if (!PlatformChoice::hasDisplay(QProcessEnvironment::systemEnvironment())) {
+        std::fprintf(stderr, "Lullet: %s\n",
+                     qPrintable(QCoreApplication::translate(
+                         "main", "no display. Start Lullet in your desktop session.")));
+        return 1;
+    }
     PlatformChoice::apply();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lullet"));

@@ -154,7 +154,8 @@ private Q_SLOTS:
                  QFileDevice::Permissions(owner | QFileDevice::ExeOwner));
     }
 
-    // Help, the version and a wrong option are answered without a display.
+    // Help, the version and a wrong option are answered without a display; a launch without
+    // one says so and ends.
     void theCommandLineNeedsNoDisplay_data()
     {
         QTest::addColumn<QString>("option");
@@ -167,6 +168,8 @@ private Q_SLOTS:
                                  << QByteArray();
         QTest::newRow("wrong") << "--bogus" << 2 << QByteArray()
                                << QByteArray("unknown option '--bogus'\nUsage: lullet");
+        QTest::newRow("a plain launch")
+            << "" << 1 << QByteArray() << QByteArray("Lullet: no display.");
     }
 
     void theCommandLineNeedsNoDisplay()
@@ -182,7 +185,8 @@ private Q_SLOTS:
         env.remove(QStringLiteral("QT_QPA_PLATFORM"));
         QProcess lullet;
         lullet.setProcessEnvironment(env);
-        lullet.start(QStringLiteral(LULLET_BINARY), {option});
+        lullet.start(QStringLiteral(LULLET_BINARY),
+                     option.isEmpty() ? QStringList{} : QStringList{option});
         QVERIFY(lullet.waitForFinished(10000));
         QCOMPARE(lullet.exitStatus(), QProcess::NormalExit);
         QCOMPARE(lullet.exitCode(), status);

@@ -2,6 +2,7 @@
 
 #include "core/library/ItemOrder.h"
 #include "core/library/ProjectOrder.h"
+#include "core/store/Db.h"
 #include "core/store/ObjectContext.h"
 #include "core/store/Store.h"
 #include "core/text/LocalizedText.h"
@@ -249,7 +250,8 @@ bool Library::saveQuietly()
 
 QString Library::saveError() const
 {
-    return m_store.context().errorMessage();
+    const ObjectContext& context = m_store.context();
+    return Db::inWords(context.errorCode(), context.errorMessage());
 }
 
 bool Library::save()
@@ -258,9 +260,15 @@ bool Library::save()
         m_saveFailing = false;
         return true;
     }
-    // Told once, not at every save that fails for the same reason.
-    if (!m_saveFailing)
-        Q_EMIT saveFailed(saveError());
+    // Told once, not at every save that fails for the same reason; and told after the current
+    // work, so that a save of the launch, before any window listens, is heard as well.
+    if (!m_saveFailing) {
+        later([this, words = saveError()] {
+            Q_EMIT saveFailed(tr("Your changes could not be saved: %1. Lullet keeps them and "
+                                 "saves them with your next change.")
+                                  .arg(words));
+        });
+    }
     m_saveFailing = true;
     return false;
 }

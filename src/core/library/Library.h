@@ -85,11 +85,12 @@ public:
     // Takes the rule out and deletes its record.
     void deleteRule(Rule* rule);
 
-    // Writes every change. The first of a run of failures is told by saveFailed(); the changes
-    // stay for the next save.
+    // Writes every change. The first of a run of failures is told by saveFailed(), in the user's
+    // words, after the current work; the changes stay for the next save.
     bool save();
     // The same, with a failure left to the caller to tell (quitting asks what to do).
     bool saveQuietly();
+    // Why the last save failed, in the user's words.
     QString saveError() const;
 
     // Tells the views that items changed; `item` is the one added or edited, if there is one.

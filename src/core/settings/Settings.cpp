@@ -23,9 +23,10 @@ Settings::Settings(const QString& filePath, QObject* parent)
     // The user's settings are nobody else's, whatever an earlier version made them.
     PrivateFiles::makeFolder(QFileInfo(filePath).path());
     PrivateFiles::keepFile(filePath);
-    // A password some earlier program left in the file goes at once.
+    // A password some earlier program left in the file goes at once, in whatever form it took.
     const QVariantMap password = dictionary(SettingsKeys::passwordValues);
-    if (!password.value(SettingsKeys::password).toString().isEmpty())
+    const QVariant left = password.value(SettingsKeys::password);
+    if (left.isValid() && left != QVariant(QString()))
         setDictionary(SettingsKeys::passwordValues, password);
 }
 

@@ -70,7 +70,7 @@ ObjectContext::~ObjectContext() = default;
 
 bool ObjectContext::fail()
 {
-    m_errorCode = m_db.errorCode();
+    m_errorCode = m_db.isOutOfSpace() ? SQLITE_FULL : m_db.errorCode();
     m_errorMessage = m_db.errorMessage();
     return false;
 }

@@ -35,6 +35,11 @@ BackupCommands::BackupCommands(const Services& services, QWidget* window, Reveal
     connect(&backups, &Backups::restoreFailed, this, [this](const QString& message) {
         Dialogs::inform(over(m_lastFrom), tr("The restore could not be done."), message);
     });
+    connect(&backups, &Backups::pruneFailed, this, [this](const QString& failures) {
+        Dialogs::inform(over(m_lastFrom),
+                        tr("Some old backups could not be deleted, so they stay in the list."),
+                        failures);
+    });
 }
 
 QWidget* BackupCommands::over(QWidget* from)
@@ -63,17 +68,25 @@ void BackupCommands::backUpNow(QWidget* from)
         m_services.backups.backUpTo(chosen);
 }
 
+bool BackupCommands::confirmRestore()
+{
+    return Dialogs::confirm(over(m_lastFrom), QStringLiteral("Confirm Restore"),
+                            QStringLiteral("All data will be replaced.\nDo you want to proceed?"));
+}
+
 void BackupCommands::restoreFromFile(QWidget* from)
 {
     if (m_panelOpen || m_services.backups.isRestoring())
         return;
     m_lastFrom = from;
+    if (!confirmRestore())
+        return;
     m_panelOpen = true;
     const QString chosen = Dialogs::chooseFileToOpen(over(from), tr("Restore From File"),
                                                      m_services.backups.backupsFolder());
     m_panelOpen = false;
     if (!chosen.isEmpty())
-        restoreFrom(chosen, from);
+        startRestore(chosen);
 }
 
 void BackupCommands::restoreFrom(const QString& path, QWidget* from)
@@ -81,6 +94,17 @@ void BackupCommands::restoreFrom(const QString& path, QWidget* from)
     if (m_services.backups.isRestoring())
         return;
     m_lastFrom = from;
+    if (!QFile::exists(path)) {
+        Dialogs::inform(over(from), tr("This backup's file is gone, so it can't be restored."),
+                        path);
+        return;
+    }
+    if (confirmRestore())
+        startRestore(path);
+}
+
+void BackupCommands::startRestore(const QString& path)
+{
     m_services.backups.restoreFrom(path, m_shownProject ? m_shownProject() : QString());
 }
 

@@ -18,6 +18,7 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <sys/stat.h>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -121,7 +122,7 @@ private Q_SLOTS:
         QCOMPARE(db.queryInt("PRAGMA application_id"), qint64(StoreSchema::applicationId));
         QVERIFY(!QFile::exists(copy + QStringLiteral("-wal")));
         QVERIFY(!QFile::exists(copy + QStringLiteral("-shm")));
-        QVERIFY(!QFile::exists(file(QStringLiteral("data/temp/tempBkp.sqlite"))));
+        QVERIFY(!QFile::exists(file(QStringLiteral("data/temp/copy.sqlite"))));
         // A copy saved by hand is not listed.
         QVERIFY(backups().list().entries().empty());
 
@@ -258,6 +259,18 @@ private Q_SLOTS:
                                << "newer version";
         QTest::newRow("no tables") << "tables"
                                    << "lacks the tables";
+        QTest::newRow("a folder") << "folder"
+                                  << "Only a file";
+        QTest::newRow("a pipe no one writes to") << "pipe"
+                                                 << "Only a file";
+        QTest::newRow("a device") << "device"
+                                  << "Only a file";
+        QTest::newRow("the store in use") << "store"
+                                          << "is the store Lullet is using";
+        QTest::newRow("the store a restore set aside") << "kept"
+                                                       << "one Lullet works with";
+        QTest::newRow("a copy being made") << "work"
+                                           << "one Lullet works with";
     }
 
     void aRefusedFileChangesNothing()
@@ -265,7 +278,7 @@ private Q_SLOTS:
         QFETCH(QString, kind);
         QFETCH(QString, because);
         add(QStringLiteral("Walk"));
-        const QString chosen = file(QStringLiteral("chosen.sqlite"));
+        QString chosen = file(QStringLiteral("chosen.sqlite"));
         if (kind == QStringLiteral("text") || kind == QStringLiteral("empty")) {
             QFile f(chosen);
             QVERIFY(f.open(QIODevice::WriteOnly));
@@ -276,6 +289,21 @@ private Q_SLOTS:
             QFile f(chosen);
             QVERIFY(f.open(QIODevice::ReadWrite));
             QVERIFY(f.resize(f.size() / 2));
+        } else if (kind == QStringLiteral("folder")) {
+            QVERIFY(QDir().mkpath(chosen));
+        } else if (kind == QStringLiteral("pipe")) {
+            QCOMPARE(::mkfifo(QFile::encodeName(chosen).constData(), 0600), 0);
+        } else if (kind == QStringLiteral("device")) {
+            chosen = QStringLiteral("/dev/zero");
+        } else if (kind == QStringLiteral("store")) {
+            chosen = storeFile();
+        } else if (kind == QStringLiteral("kept") || kind == QStringLiteral("work")) {
+            // A whole, good store, under the name of one of Lullet's own files.
+            chosen = kind == QStringLiteral("kept")
+                         ? storeFile() + QStringLiteral(".before-restore")
+                         : file(QStringLiteral("data/temp/copy.sqlite"));
+            QVERIFY(QDir().mkpath(QFileInfo(chosen).path()));
+            backUpTo(chosen);
         } else {
             Db other(chosen);
             if (kind == QStringLiteral("foreign")) {
@@ -293,34 +321,92 @@ private Q_SLOTS:
         QSignalSpy refused(&backups(), &Backups::restoreRefused);
         QSignalSpy created(&backups(), &Backups::backupCreated);
         backups().restoreFrom(chosen, QString());
-        QCOMPARE(refused.size(), 1);
+        QTRY_COMPARE(refused.size(), 1);
         QVERIFY2(refused.first().first().toString().contains(because),
                  qPrintable(refused.first().first().toString()));
         QTest::qWait(50);
         QVERIFY(created.isEmpty());
+        QVERIFY(!backups().isRestoring());
         QVERIFY(backups().list().entries().empty());
         QCOMPARE(digest(storeFile()), before);
         QCOMPARE(titles(), QStringList{QStringLiteral("Walk")});
     }
 
-    // The chosen file vanishes while the safety copy is made: the swap fails, the old store is
-    // put back and the program goes on with it.
-    void aFailedSwapPutsTheStoreBack()
+    // A store in write-ahead mode comes with its log: what the check read there is restored,
+    // through SQLite, as one whole file.
+    void aFileWithItsLogIsRestoredWhole()
+    {
+        const QString chosen = file(QStringLiteral("chosen.sqlite"));
+        {
+            Launched other(file(QStringLiteral("other")), at(2026, 11, 23, 10, 15));
+            QVERIFY(other.open());
+            // Still open: what it saved lives in its log, not yet in the file.
+            other.addItem(QStringLiteral("Walk"), at(2026, 11, 23, 12, 0));
+            other.addItem(QStringLiteral("Read"), at(2026, 11, 23, 12, 0));
+            QVERIFY(other.library().save());
+            const QString source = file(QStringLiteral("other/data/Lullet.sqlite"));
+            QVERIFY(QFile::copy(source, chosen));
+            QVERIFY(QFile::copy(source + QStringLiteral("-wal"), chosen + QStringLiteral("-wal")));
+        }
+        QSignalSpy restored(&backups(), &Backups::restored);
+        backups().restoreFrom(chosen, QString());
+        QVERIFY(restored.wait(5000));
+        QCOMPARE(titles(), (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
+    }
+
+    // A file far larger than its database (sparse, or grown by another program) comes in as the
+    // database it holds, not as its apparent size.
+    void aSparseFileIsCopiedAsItsData()
+    {
+        add(QStringLiteral("Walk"));
+        const QString chosen = file(QStringLiteral("chosen.sqlite"));
+        backUpTo(chosen);
+        QFile grown(chosen);
+        QVERIFY(grown.resize(qint64(256) << 20));
+        QSignalSpy restored(&backups(), &Backups::restored);
+        backups().restoreFrom(chosen, QString());
+        QVERIFY(restored.wait(10000));
+        QCOMPARE(titles(), QStringList{QStringLiteral("Walk")});
+        QVERIFY(QFileInfo(storeFile()).size() < (qint64(1) << 20));
+    }
+
+    // The store in use can't be set aside: nothing is restored, no success is told, and the
+    // program goes on with its store.
+    void aStoreThatCannotBeSetAsideIsNotReplaced()
     {
         add(QStringLiteral("Walk"));
         const QString copy = file(QStringLiteral("copy.sqlite"));
         backUpTo(copy);
         add(QStringLiteral("Read"));
+        QVERIFY(QDir().mkpath(storeFile() + QStringLiteral(".before-restore/in the way")));
+        QSignalSpy restored(&backups(), &Backups::restored);
         QSignalSpy failed(&backups(), &Backups::restoreFailed);
         backups().restoreFrom(copy, QString());
-        QVERIFY(QFile::remove(copy));
         QVERIFY(failed.wait(5000));
-        QVERIFY(failed.first().first().toString().contains(QStringLiteral("put back")));
+        QVERIFY(failed.first().first().toString().contains(QStringLiteral("nothing was restored")));
+        QVERIFY(restored.isEmpty());
         QCOMPARE(titles(), (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
         add(QStringLiteral("Stretch"));
         QCOMPARE(titlesIn(storeFile()),
                  (QStringList{QStringLiteral("Read"), QStringLiteral("Stretch"),
                               QStringLiteral("Walk")}));
+    }
+
+    // An old copy whose file can't be deleted at launch stays listed, and that is said.
+    void anUndeletableOldCopyStaysListed()
+    {
+        app().settings.setValue(SettingsKeys::backupOption, 2);
+        const QString stuck =
+            QDir(backups().backupsFolder()).filePath(QStringLiteral("stuck.sqlite"));
+        QVERIFY(QDir().mkpath(stuck + QStringLiteral("/in the way")));
+        app().settings.setValue(
+            SettingsKeys::backupFiles2,
+            BackupInfo::archive({{stuck, at(2026, 10, 1), {}, QStringLiteral("Backup"), {}}}));
+        QSignalSpy failed(&backups(), &Backups::pruneFailed);
+        backups().pruneAtLaunch();
+        QCOMPARE(backups().list().entries().size(), std::size_t(1));
+        QTRY_COMPARE(failed.size(), 1);
+        QVERIFY(failed.first().first().toString().contains(stuck));
     }
 };
 

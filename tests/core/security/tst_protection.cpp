@@ -198,9 +198,46 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(!file.readAll().contains("Kestrel9"));
 
-        protection().switchOff();
+        std::optional<QString> removal;
+        protection().switchOff(this, [&](const QString& e) { removal = e; });
         QVERIFY(!protection().isOn());
-        QTRY_VERIFY(!m_app->secrets.secret);
+        QTRY_COMPARE(removal, std::optional(QString()));
+        QVERIFY(!m_app->secrets.secret);
+    }
+
+    // A keyring that never answers is given up on after a while: the program stays locked, a
+    // switch turned off says that the password stayed, and an answer that comes too late counts
+    // for nothing.
+    void aKeyringThatNeverAnswersIsGivenUpOn()
+    {
+        using namespace std::chrono_literals;
+        launchProtected(QStringLiteral("kestrel"));
+        protection().setKeyringPatience(100ms);
+        m_app->secrets.holding = true;
+        std::optional<QString> why;
+        protection().logIn(QStringLiteral("kestrel"), this,
+                           [&](Protection::Login result, const QString& error) {
+                               QCOMPARE(result, Protection::Login::Unavailable);
+                               why = error;
+                           });
+        QTRY_VERIFY(why);
+        QVERIFY(why->contains(QLatin1String("did not answer")));
+        m_app->secrets.release();
+        QTest::qWait(20);
+        QVERIFY(lock().isLocked());
+
+        m_app->secrets.holding = true;
+        std::optional<QString> removal;
+        protection().switchOff(this, [&](const QString& e) { removal = e; });
+        QTRY_VERIFY(removal);
+        QVERIFY(!removal->isEmpty());
+        QVERIFY(!protection().isOn());
+        m_app->secrets.holding = false;
+        m_app->secrets.unavailable = true;
+        removal.reset();
+        protection().switchOff(this, [&](const QString& e) { removal = e; });
+        QTRY_VERIFY(removal);
+        QVERIFY(!removal->isEmpty());
     }
 
     // Reading what is stored repairs protection that has no password, and only that.

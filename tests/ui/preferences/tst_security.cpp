@@ -289,8 +289,36 @@ private Q_SLOTS:
         QVERIFY(m_app->services().lock.isLocked());
         saveShot(&page, QStringLiteral("login-unreachable"));
         m_app->secrets.unavailable = false;
+
+        // A keyring that never answers: the page gives up after a while, and stays locked.
+        m_app->secrets.holding = true;
+        protection().setKeyringPatience(std::chrono::milliseconds(100));
+        child<QPushButton>(unreachable, "retry")->click();
+        QVERIFY(!field->isEnabled());
+        QTRY_VERIFY(field->isEnabled());
+        QVERIFY(seen(unreachable));
+        QVERIFY(unreachable->findChild<QLabel*>()->text().contains(u"did not answer"));
+        m_app->secrets.release();
+        QVERIFY(m_app->services().lock.isLocked());
         child<QPushButton>(unreachable, "retry")->click();
         QTRY_VERIFY(!m_app->services().lock.isLocked());
+    }
+
+    // Protection switched off while the keyring can't remove the password: off, and said.
+    void switchingOffWhenTheKeyringKeepsThePassword()
+    {
+        launch(true, QStringLiteral("Kestrel9"));
+        SecurityTab tab(protection());
+        tab.show();
+        type(&tab, "currentPassword", QStringLiteral("Kestrel9"));
+        QTRY_VERIFY(seen(child<QLineEdit>(&tab, "currentPassword")));
+        child<QPushButton>(&tab, "continue")->click();
+        m_app->secrets.unavailable = true;
+        Dialogs::answerNext(0);
+        child<QCheckBox>(&tab, "protection")->click();
+        QVERIFY(!protectionOn());
+        QTRY_COMPARE(Dialogs::asked().size(), 1);
+        QVERIFY(Dialogs::asked().first().text.contains(u"could not remove the password"));
     }
 };
 

@@ -242,8 +242,12 @@ private Q_SLOTS:
         m_app->addItem(QStringLiteral("Read"), at(2026, 11, 23, 13, 0));
         QVERIFY(m_app->library().save());
         QSignalSpy restored(&m_app->services().backups, &Backups::restored);
+        // The menu asks before anything is replaced, as the backup settings do.
+        Dialogs::forgetAsked();
+        Dialogs::answerNext(0);
         Dialogs::chooseFileNext(copy);
         Q_EMIT window.restoreRequested();
+        QCOMPARE(Dialogs::asked().front().text, QStringLiteral("Confirm Restore"));
         QVERIFY(restored.wait(5000));
         QVERIFY(view->shownProject() && view->shownProject()->hasContext());
         QCOMPARE(*view->shownProject()->name(), QStringLiteral("Home"));
@@ -257,9 +261,10 @@ private Q_SLOTS:
         notes.close();
         Dialogs::forgetAsked();
         Dialogs::answerNext(0);
+        Dialogs::answerNext(0);
         Dialogs::chooseFileNext(text);
         Q_EMIT window.restoreRequested();
-        QCOMPARE(Dialogs::asked().size(), 2);
+        QCOMPARE(Dialogs::asked().size(), 3);
         QCOMPARE(Dialogs::asked().back().text,
                  QStringLiteral("This file can't be restored. Nothing was changed."));
     }

@@ -2,6 +2,7 @@
 
 #include "core/app/Services.h"
 #include "core/backup/Backups.h"
+#include "core/security/Lock.h"
 #include "ui/widgets/Dialogs.h"
 
 #include <QDir>
@@ -57,9 +58,18 @@ QString BackupCommands::chooseFileToSave(const QString& caption, const QString& 
     return chosen;
 }
 
+bool BackupCommands::refuseWhileLocked(QWidget* from)
+{
+    if (!m_services.lock.isLocked())
+        return false;
+    Dialogs::inform(over(from), tr("Lullet is locked."),
+                    tr("Enter your password first, then back up or restore your data."));
+    return true;
+}
+
 void BackupCommands::backUpNow(QWidget* from)
 {
-    if (m_panelOpen)
+    if (m_panelOpen || refuseWhileLocked(from))
         return;
     m_lastFrom = from;
     const QString chosen =
@@ -76,7 +86,7 @@ bool BackupCommands::confirmRestore()
 
 void BackupCommands::restoreFromFile(QWidget* from)
 {
-    if (m_panelOpen || m_services.backups.isRestoring())
+    if (m_panelOpen || m_services.backups.isRestoring() || refuseWhileLocked(from))
         return;
     m_lastFrom = from;
     if (!confirmRestore())

@@ -37,6 +37,8 @@ private:
     QWidget* over(QWidget* from);
     QString chooseFileToSave(const QString& caption, const QString& proposed);
     bool confirmRestore();
+    // A locked Lullet copies and replaces nothing: the user is told and nothing happens.
+    bool refuseWhileLocked(QWidget* from);
     void startRestore(const QString& path);
 
     const Services& m_services;

@@ -96,17 +96,22 @@ void Shell::connectPresence()
 
 void Shell::connectLock()
 {
-    m_window.setLocked(m_services.lock.isLocked());
-    connect(&m_services.lock, &Lock::unlocked, this, [this] {
-        m_window.setLocked(false);
-        if (m_trayQuickAdd)
-            m_trayQuickAdd->setEnabled(true);
-        // The list that said it was locked has nothing true to say now.
-        if (qobject_cast<RunningListView*>(m_tray->popover() ? m_tray->popover()->content()
-                                                             : nullptr))
-            m_tray->closePopoverImmediate();
-        updateToolTip();
-    });
+    showLockState();
+    // The store is read, and the lock switched on, after the windows are made.
+    connect(&m_services.lock, &Lock::locked, this, &Shell::showLockState);
+    connect(&m_services.lock, &Lock::unlocked, this, &Shell::showLockState);
+}
+
+void Shell::showLockState()
+{
+    const bool locked = m_services.lock.isLocked();
+    m_window.setLocked(locked);
+    if (m_trayQuickAdd)
+        m_trayQuickAdd->setEnabled(!locked);
+    // The running list said otherwise, either way: it has nothing true to say now.
+    if (qobject_cast<RunningListView*>(m_tray->popover() ? m_tray->popover()->content() : nullptr))
+        m_tray->closePopoverImmediate();
+    updateToolTip();
 }
 
 void Shell::connectBackups()

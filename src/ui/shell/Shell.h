@@ -79,6 +79,8 @@ private:
     void connectMonitor();
     void connectBackups();
     void connectLock();
+    // The data's menu entries, the tray's quick add and its list follow the lock.
+    void showLockState();
     void connectContent();
     void connectPresence();
     const Project* selectedProject() const;

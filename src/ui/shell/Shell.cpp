@@ -332,8 +332,10 @@ void Shell::quickAdd()
                         tr("Enter your password first, then add the task."));
         return;
     }
+    // The window's own bar only where the user is looking: a window minimised, covered or on
+    // another desktop would hide the field, and the quick-add window shows wherever the user is.
     MainView* main = m_content ? m_content->mainView() : nullptr;
-    if (m_window.isVisible() && main)
+    if (main && m_window.isVisible() && !m_window.isMinimized() && m_window.isActiveWindow())
         main->showQuickAddBar();
     else
         openQuickAddWindow();

@@ -210,6 +210,13 @@ private Q_SLOTS:
         QVERIFY(quick);
         QTest::keyClick(quick->nameField(), Qt::Key_Escape);
         QVERIFY(!quick->isVisible());
+
+        // A window minimised would hide its own bar: the quick-add window comes instead.
+        shell.bringMainWindowForward();
+        window.showMinimized();
+        Q_EMIT window.quickAddRequested();
+        QVERIFY(quick->isVisible());
+        QVERIFY(!shell.content()->mainView()->quickAddBar()->isVisible());
     }
 
     // From the menu: a copy saved by hand is shown in the file manager; a restore comes back on

@@ -42,6 +42,7 @@ AppController::AppController(const Clock& clock, Settings& settings, const QStri
     , m_generator(clock, m_library)
     , m_catalogue({clock, m_library, m_generator, m_schedule, m_hours, m_texts})
     , m_running(clock, m_library)
+    , m_historyTotals(m_library, clock, m_running)
     , m_monitor({clock, settings, m_library, m_catalogue, m_hours, m_running, m_lock})
     , m_prompts(m_running)
     , m_pause(clock, settings)
@@ -51,10 +52,10 @@ AppController::AppController(const Clock& clock, Settings& settings, const QStri
     , m_postponing(clock, m_library)
     , m_backups({clock, settings, m_store, m_library, m_catalogue, m_running})
     , m_protection(settings, secrets, m_lock)
-    , m_services{clock,       settings,    m_library,     m_schedule,       m_hours,      m_texts,
-                 m_generator, m_catalogue, m_running,     m_lock,           m_monitor,    m_prompts,
-                 m_pause,     m_hold,      m_itemActions, m_projectActions, m_postponing, m_backups,
-                 m_protection}
+    , m_services{clock,         settings,         m_library,    m_schedule, m_hours,
+                 m_texts,       m_generator,      m_catalogue,  m_running,  m_historyTotals,
+                 m_lock,        m_monitor,        m_prompts,    m_pause,    m_hold,
+                 m_itemActions, m_projectActions, m_postponing, m_backups,  m_protection}
 {
     queueMonitorPrompts();
     // Before the minute's prompts are asked for: a pause over, the user back.

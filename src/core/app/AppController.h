@@ -11,6 +11,7 @@
 #include "core/monitor/PromptHold.h"
 #include "core/monitor/PromptQueue.h"
 #include "core/monitor/ReminderPause.h"
+#include "core/presentation/HistoryTotals.h"
 #include "core/scheduling/Catalogue.h"
 #include "core/scheduling/Generator.h"
 #include "core/scheduling/ScheduleTexts.h"
@@ -84,6 +85,7 @@ private:
     Generator m_generator;
     Catalogue m_catalogue;
     RunningItem m_running;
+    HistoryTotals m_historyTotals;
     Lock m_lock;
     Monitor m_monitor;
     PromptQueue m_prompts;

@@ -6,6 +6,7 @@ class Backups;
 class Catalogue;
 class Clock;
 class Generator;
+class HistoryTotals;
 class ItemActions;
 class Library;
 class Lock;
@@ -34,6 +35,8 @@ struct Services {
     Generator& generator;
     Catalogue& catalogue;
     RunningItem& running;
+    // What the history on disk adds to the counts, read once and shared.
+    HistoryTotals& history;
     Lock& lock;
     Monitor& monitor;
     PromptQueue& prompts;

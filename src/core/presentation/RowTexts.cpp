@@ -2,6 +2,8 @@
 
 #include "core/dates/Clock.h"
 #include "core/model/Item.h"
+#include "core/model/RepeatCodes.h"
+#include "core/presentation/DashboardSummary.h"
 
 namespace lullet {
 
@@ -81,11 +83,22 @@ void RowTexts::setTimeUsed(ListRow& row, const Item& item)
     }
 }
 
-void RowTexts::setValues(ListRow& row, const Clock& clock, bool withProjectName)
+void RowTexts::setValues(ListRow& row, const Clock& clock, ProjectName naming)
 {
-    const Item* item = row.representedObject;
-    if (!item)
-        return;
+    if (row.representedObject)
+        setTexts(row, *row.representedObject, clock, naming);
+}
+
+ListRow RowTexts::textsOf(const Item& item, const Clock& clock, ProjectName naming)
+{
+    ListRow row;
+    setTexts(row, item, clock, naming);
+    return row;
+}
+
+void RowTexts::setTexts(ListRow& row, const Item& record, const Clock& clock, ProjectName naming)
+{
+    const Item* item = &record;
     row.type = ListRow::ItemRow;
     row.title = item->title().value_or(QString());
     row.isToDo = item->isToDo();
@@ -100,19 +113,38 @@ void RowTexts::setValues(ListRow& row, const Clock& clock, bool withProjectName)
     const int hours = item->durationHr().value_or(0);
     const int minutes = item->durationMin().value_or(0);
     row.duration = hours == 0 && minutes == 0 ? QString() : hoursAndMinutes(hours, minutes);
-    if (withProjectName) {
-        const Project* project = item->toProject();
+    setProjectName(row, *item, naming);
+}
+
+void RowTexts::setProjectName(ListRow& row, const Item& item, ProjectName naming)
+{
+    const Project* project = item.toProject();
+    switch (naming) {
+    case ProjectName::None:
+        return;
+    case ProjectName::InList:
         row.projectName = project
                               ? QStringLiteral("Lullet  |  ") + project->name().value_or(QString())
                               : QStringLiteral("Lullet");
+        return;
+    case ProjectName::InReport:
+        // A break, an occurrence of a rule, is the program's own rather than a project's.
+        if (item.uniqueId() && *item.uniqueId() != placeholderId()) {
+            row.projectName = QStringLiteral("Lullet");
+            row.title = QStringLiteral("Lullet  |  ") + row.title;
+            return;
+        }
+        row.projectName =
+            project ? project->name().value_or(QString()) : DashboardSummary::notInProjectTitle();
+        return;
     }
 }
 
-ListRow RowTexts::makeRow(Item* item, const Clock& clock, bool withProjectName)
+ListRow RowTexts::makeRow(Item* item, const Clock& clock, ProjectName naming)
 {
     ListRow row;
     row.representedObject = item;
-    setValues(row, clock, withProjectName);
+    setValues(row, clock, naming);
     return row;
 }
 

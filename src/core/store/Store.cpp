@@ -227,8 +227,10 @@ Store::Result Store::openFile()
     // would only hold the store a second time, all day.
     m_db.exec("PRAGMA cache_size = -512");
 
-    if (!m_context)
+    if (!m_context) {
         m_context = std::make_unique<ObjectContext>(m_db);
+        m_history = std::make_unique<HistoryOnDisk>(*m_context, m_db);
+    }
     // The day's work needs the open items and the recent past; older history is read when a
     // list asks for it.
     const Date historyBefore =

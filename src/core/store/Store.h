@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/store/Db.h"
+#include "core/store/HistoryOnDisk.h"
 #include "core/store/ObjectContext.h"
 
 #include <QString>
@@ -75,6 +76,8 @@ public:
     bool isWorkingFile(const QString& path) const;
     Db& db() { return m_db; }
     ObjectContext& context() { return *m_context; }
+    // The history the context leaves on disk.
+    HistoryOnDisk& history() { return *m_history; }
 
 private:
     enum class Inspection {
@@ -109,6 +112,7 @@ private:
     Db m_db;
     // Made once and kept for the run: a replaced store's records must outlive the swap.
     std::unique_ptr<ObjectContext> m_context;
+    std::unique_ptr<HistoryOnDisk> m_history;
     bool m_open = false;
 };
 

@@ -2,7 +2,10 @@
 // as it would with every item in memory.
 #include "core/activity/ProjectActions.h"
 #include "core/model/RepeatCodes.h"
+#include "core/presentation/HistoryTotals.h"
 #include "core/presentation/ListBuilder.h"
+#include "core/presentation/ListLines.h"
+#include "core/presentation/ListTexts.h"
 #include "core/presentation/Sidebar.h"
 #include "core/reports/Report.h"
 #include "core/store/Db.h"
@@ -54,7 +57,7 @@ class TestHistory : public QObject {
     Sidebar sidebar()
     {
         const Services& s = m_app->services();
-        return Sidebar(s.clock, s.library, s.catalogue, s.running);
+        return Sidebar(s.clock, s.library, s.catalogue, s.running, s.history);
     }
 
     SidebarNumbers sidebarNumbers()
@@ -82,12 +85,33 @@ class TestHistory : public QObject {
         return list;
     }
 
-    static QStringList rowTitles(const std::vector<ListRow>& rows)
+    // The titles of a list's items, the history's among them, as the list shows them.
+    QStringList lineTitles(const ListBuilder::Scope& scope)
     {
+        const Services& s = m_app->services();
+        ListLines lines(s.clock, s.library, s.history, s.running);
+        lines.build(scope);
         QStringList list;
-        for (const ListRow& row : rows)
-            list << row.title;
+        for (const ListRow& row :
+             ListTexts(lines, s.library, s.clock, RowTexts::ProjectName::None).allRows()) {
+            if (row.type == ListRow::ItemRow)
+                list << row.title;
+        }
         return list;
+    }
+
+    // The garden's history, read into memory one by one as a user acting on it would.
+    std::vector<Item*> gardenHistory()
+    {
+        const Services& s = m_app->services();
+        ListLines lines(s.clock, s.library, s.history, s.running);
+        lines.build({Segment::Project, project(QStringLiteral("Garden")), false});
+        std::vector<Item*> read;
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            if (!lines.at(i).heading && !lines.at(i).item)
+                read.push_back(lines.itemAt(i));
+        }
+        return read;
     }
 
     Item* finished(const QString& title, Date when, Project* in, int elapsed)
@@ -156,64 +180,57 @@ private Q_SLOTS:
         QVERIFY(library().holdsHistory());
         QCOMPARE(library().items().size(), std::size_t(6));
         const SidebarNumbers held = sidebarNumbers();
-        QVERIFY(library().holdsHistory());
         QCOMPARE(held.counts[3], 59);
-
-        // One project read in: its totals now come from memory, the other's still from disk.
-        (void)ListBuilder::itemsFor({Segment::Project, project(QStringLiteral("Garden"))},
-                                    library(), m_now);
-        QVERIFY(library().holdsHistory());
+        QCOMPARE(held.counts[4], 32);
+        // An item read in to be acted on is counted from memory now, not twice.
+        const std::vector<Item*> garden = gardenHistory();
+        QCOMPARE(garden.size(), std::size_t(30));
+        QCOMPARE(library().items().size(), std::size_t(36));
         QCOMPARE(sidebarNumbers(), held);
-
-        library().loadHistory();
-        QVERIFY(!library().holdsHistory());
-        QCOMPARE(sidebarNumbers(), held);
-        // Each row read once, whatever was read before.
-        const std::vector<Item*>& all = library().items();
-        QCOMPARE(all.size(), std::size_t(61));
-        QSet<qint64> rows;
-        for (const Item* item : all)
-            rows.insert(item->rowId());
-        QCOMPARE(rows.size(), 61);
+        QCOMPARE(library().bringIn(garden.front()->rowId()), garden.front());
+        QCOMPARE(library().items().size(), std::size_t(36));
     }
 
-    void everyListReadsTheHistoryItNeeds()
+    // Completed, a project's list, the "Not in Project" report and search, from the history on
+    // disk: the lists are whole, and none of them reads the history into memory.
+    void everyListShowsTheHistoryWithoutReadingItIn()
     {
         QVERIFY(launch(m_now));
-        library().loadHistory();
-        const QStringList completed =
-            rowTitles(ListBuilder::customListing(Segment::Completed, library(), m_app->clock));
-        const QStringList garden = titles(ListBuilder::itemsFor(
-            {Segment::Project, project(QStringLiteral("Garden"))}, library(), m_now));
-        const int loose =
-            Report::ofNoProject(library(), m_app->clock, m_app->running()).stats.totalCount;
-        QCOMPARE(garden.size(), 32);
-        QCOMPARE(loose, 23);
-
-        QVERIFY(launch(m_now));
-        QCOMPARE(rowTitles(ListBuilder::customListing(Segment::Completed, library(), m_app->clock)),
-                 completed);
-        QVERIFY(launch(m_now));
-        QCOMPARE(titles(ListBuilder::itemsFor({Segment::Project, project(QStringLiteral("Garden"))},
-                                              library(), m_now)),
-                 garden);
-        QVERIFY(!titles(library().items()).contains(QStringLiteral("Loose 3")));
-        QVERIFY(launch(m_now));
-        QCOMPARE(Report::ofNoProject(library(), m_app->clock, m_app->running()).stats.totalCount,
-                 loose);
-        QVERIFY(launch(m_now));
+        // Every finished item with a date: all but "Undated done" of the 59 completed.
+        const QStringList completed = lineTitles({Segment::Completed, nullptr, false});
+        QCOMPARE(completed.size(), 58);
+        QCOMPARE(completed.first(), QStringLiteral("Recent two"));
+        QCOMPARE(completed.last(), QStringLiteral("Loose 0"));
+        QCOMPARE(lineTitles({Segment::Project, project(QStringLiteral("Garden")), false}).size(),
+                 32);
+        const Services& s = m_app->services();
+        const Report loose = Report::ofProject(s.library, s.history, nullptr, s.clock, s.running);
+        QCOMPARE(loose.stats.totalCount, 23);
+        QCOMPARE(loose.stats.completedCount, 22);
         QStringList found;
         for (const SidebarRow& row : sidebar().search(QStringLiteral("loose 1"), {}))
             found << row.name;
         QCOMPARE(found.size(), 11);
         QVERIFY(found.contains(QStringLiteral("Loose 19")));
+        QCOMPARE(library().items().size(), std::size_t(6));
+
+        // The totals of the list's head count the history, as if it were all in memory.
+        ListLines lines(s.clock, s.library, s.history, s.running);
+        lines.build({Segment::Project, project(QStringLiteral("Garden")), false});
+        const TaskStats onDisk = lines.stats();
+        (void)gardenHistory();
+        lines.build({Segment::Project, project(QStringLiteral("Garden")), false});
+        const TaskStats inMemory = lines.stats();
+        QCOMPARE(onDisk.totalCount, inMemory.totalCount);
+        QCOMPARE(onDisk.totalTimeAllotted, inMemory.totalTimeAllotted);
+        QCOMPARE(onDisk.timeCompletedRunning, inMemory.timeCompletedRunning);
     }
 
-    void editsBeforeTheHistoryIsReadAreKept()
+    void editsAndDeletionsAreNeverListedTwice()
     {
         QVERIFY(launch(m_now));
-        // Saved as history, and one of them deleted before the history is read: neither may come
-        // back as a second record.
+        // Saved as history, and one of them deleted and not yet saved: neither may come back
+        // from the disk as a second row.
         Item* kept = nullptr;
         Item* gone = nullptr;
         for (Item* item : library().items()) {
@@ -227,20 +244,18 @@ private Q_SLOTS:
         gone->setDtReminder(at(2026, 9, 1, 9, 0));
         QVERIFY(library().save());
         library().deleteItem(gone);
-        library().loadHistory();
-        QCOMPARE(titles(library().items()).count(QStringLiteral("Recent done")), 1);
-        QVERIFY(!titles(library().items()).contains(QStringLiteral("Recent two")));
+        const QStringList completed = lineTitles({Segment::Completed, nullptr, false});
+        QCOMPARE(completed.count(QStringLiteral("Recent done")), 1);
+        QVERIFY(!completed.contains(QStringLiteral("Recent two")));
         QVERIFY(library().save());
 
         // A project deleted takes its history on disk along.
         QVERIFY(launch(m_now));
         m_app->services().projectActions.deleteProject(*project(QStringLiteral("Kitchen")));
-        QVERIFY(library().save());
         QVERIFY(launch(m_now));
-        const QStringList all = titles(library().allItems());
-        QVERIFY(!all.contains(QStringLiteral("Bake 2")));
-        QVERIFY(!all.contains(QStringLiteral("Recent two")));
-        QCOMPARE(all.size(), 54);
+        const QStringList left = lineTitles({Segment::Completed, nullptr, false});
+        QVERIFY(!left.contains(QStringLiteral("Bake 2")));
+        QCOMPARE(left.size(), 51);
     }
 
     void aProjectCopiedTakesItsHistory()
@@ -256,14 +271,11 @@ private Q_SLOTS:
         QVERIFY(launch(m_now));
         QSignalSpy told(&library(), &Library::readFailed);
         QVERIFY(Db(storePath()).exec("ALTER TABLE ReminderInfo RENAME TO Elsewhere"));
-        library().loadHistory();
+        QVERIFY(lineTitles({Segment::Completed, nullptr, false}).size() < 58);
         (void)sidebar().counts();
         QCOMPARE(told.count(), 1);
-        QVERIFY(library().holdsHistory());
         QVERIFY(Db(storePath()).exec("ALTER TABLE Elsewhere RENAME TO ReminderInfo"));
-        library().loadHistory();
-        QVERIFY(!library().holdsHistory());
-        QCOMPARE(library().items().size(), std::size_t(61));
+        QCOMPARE(lineTitles({Segment::Completed, nullptr, false}).size(), 58);
     }
 
     void valuesReadOtherwiseKeepTheirItemInMemory()
@@ -278,11 +290,11 @@ private Q_SLOTS:
         QVERIFY(launch(m_now));
         const QStringList held = titles(library().items());
         // One reads as unfinished, the other as finished in 1970 by its plain date: the store's
-        // query takes neither for history, so both are read at the launch.
+        // query takes neither for history, so both are read at the launch, and listed once.
         QVERIFY(held.contains(QStringLiteral("Text flag")));
         QVERIFY(held.contains(QStringLiteral("Far date")));
-        library().loadHistory();
-        QCOMPARE(titles(library().items()).count(QStringLiteral("Far date")), 1);
+        QCOMPARE(lineTitles({Segment::Completed, nullptr, false}).count(QStringLiteral("Far date")),
+                 1);
     }
 };
 

@@ -25,7 +25,7 @@ class TestSidebar : public QObject {
     Sidebar sidebar()
     {
         const Services& s = app().services();
-        return Sidebar(s.clock, s.library, s.catalogue, s.running);
+        return Sidebar(s.clock, s.library, s.catalogue, s.running, s.history);
     }
 
     Item* item(const QString& title, std::optional<Date> due, Project* project = nullptr)

@@ -83,7 +83,7 @@ private Q_SLOTS:
         }
         m_app->addItem(QStringLiteral("Buy seeds"), std::nullopt)->setToProject(garden);
 
-        Report report = Report::ofProject(s.library, *garden, s.clock, s.running);
+        Report report = Report::ofProject(s.library, s.history, garden, s.clock, s.running);
         // Upcoming and Completed print their chart under the head.
         report.hoursByDay = {{QStringLiteral("24 Nov"), 1.5}, {QStringLiteral("25 Nov"), 0.25}};
         QCOMPARE(report.stats.totalCount, 61);
@@ -161,8 +161,8 @@ private Q_SLOTS:
     void emptyReportsAndFileNames()
     {
         ReportCommands commands(m_app->services().clock, m_dir->filePath(QStringLiteral("temp")));
-        const Report empty = Report::ofRows(QStringLiteral("Today"), {}, m_app->services().clock,
-                                            m_app->services().running);
+        Report empty;
+        empty.title = QStringLiteral("Today");
         Dialogs::answerNext(0);
         Dialogs::answerNext(0);
         commands.savePdf(empty, nullptr, ReportCommands::emptyListText());

@@ -9,6 +9,11 @@
 # a bare Qt tray program as the floor, it reports: start to tray icon; how long the program stays
 # busy after its window shows (the time it does not answer); resident and proportional memory
 # after settling; CPU share and wakeups a second over the idle period.
+#
+# Then the views a user opens on a large store, from the keyboard as a user would: "Completed",
+# the dashboard and a search, each with how long the window stays busy, the CPU it took and the
+# memory after; the wakeups a second while the pointer moves over a list; and the memory a
+# minute after the window is closed.
 set -euo pipefail
 build=${1:-build}
 seconds=${2:-60}
@@ -87,5 +92,51 @@ measure "bare Qt tray program" "$BUILD/bench/bare_tray"
 fresh; measure "first launch of the day" "$BUILD/src/app/lullet"
 measure "same-day relaunch" "$BUILD/src/app/lullet"
 fresh; measure "launch at login (no window)" "$BUILD/src/app/lullet" --in-tray
+
+
+rssOf() { awk "/VmRSS/ {printf \"%.1f\", \$2 / 1024}" /proc/$1/status; }
+# Until the process has used no CPU for half a second: the time taken and the CPU used.
+settle() { # pid, start
+    local last; last=$(ticks $1); local cpu0=$last; local quietSince; quietSince=$(now)
+    for i in $(seq 600); do
+        sleep 0.05; local t; t=$(ticks $1)
+        [ "$t" -gt "$last" ] && quietSince=$(now)
+        last=$t
+        awk -v a="$quietSince" -v b="$(now)" "BEGIN {exit !(b - a >= 0.5)}" && break
+    done
+    awk -v s="$2" -v q="$quietSince" -v c="$((last - cpu0))" -v hz="$hz" \
+        "BEGIN {printf \"busy %5.2f s  CPU %5.2f s\", q - s, c / hz}"
+}
+view() { # pid, name, keys...
+    local pid=$1 name=$2; shift 2
+    local start; start=$(now); local cpu0; cpu0=$(ticks $pid)
+    xdotool "$@"
+    printf "%-26s %s  RSS %s MiB\n" "$name" "$(settle $pid $start)" "$(rssOf $pid)"
+}
+fresh; "$BUILD/src/app/lullet" >/dev/null 2>&1 & P=$!
+for i in $(seq 300); do shown $P && break; sleep 0.05; done
+sleep 2; settle $P "$(now)" >/dev/null
+w=$(for x in $(xdotool search --onlyvisible --pid $P); do g=$(xdotool getwindowgeometry $x | awk "/Geometry/ {print \$2}"); [ "${g%x*}" -gt 200 ] && echo $x; done | head -n 1)
+eval "$(xdotool getwindowgeometry --shell "$w" | sed "s/^/W/")"
+echo "views ($(rssOf $P) MiB with the window open on Today):"
+# The rows of the sidebar and its search field, where a 600 by 600 window has them.
+row() { echo mousemove $((WX + 40)) $((WY + 41 + 14 * $1)) click 1; }
+view $P "  open Completed" $(row 5)
+view $P "  open the dashboard" $(row 0)
+xdotool mousemove $((WX + 60)) $((WY + 18)) click 1; sleep 0.5
+view $P "  search \"walk\"" type --delay 0 walk
+xdotool key Escape; sleep 1
+view $P "  open Completed again" $(row 5)
+# The pointer over the list, a row at a time, back and forth, for ten seconds.
+switches $P >"$WORK/p0"; s0=$(now)
+for i in $(seq 100); do
+    xdotool mousemove $((WX + 350)) $((WY + 330 + (i % 20) * 12)); sleep 0.1
+done
+switches $P >"$WORK/p1"; s1=$(now)
+awk -v w="$(woken "$WORK/p0" "$WORK/p1")" -v a="$s0" -v b="$s1" \
+    "BEGIN {printf \"  pointer over a list        wakeups %.1f/s\n\", w / (b - a)}"
+xdotool key --window "$w" alt+F4; sleep 60
+echo "  a minute after the window closed: RSS $(rssOf $P) MiB"
+kill -TERM $P; wait $P 2>/dev/null
 kill $T $O $X 2>/dev/null; wait 2>/dev/null
 '

@@ -13,6 +13,7 @@
 #include "ui/desktop/DesktopNotifier.h"
 #include "ui/desktop/DesktopPresence.h"
 #include "ui/desktop/KeyringSecretStore.h"
+#include "ui/desktop/MemoryTrim.h"
 #include "ui/desktop/PlatformChoice.h"
 #include "ui/desktop/PromptSound.h"
 #include "ui/desktop/ScreenSaverInhibitor.h"
@@ -32,7 +33,6 @@
 
 #include <chrono>
 #include <cstdio>
-#include <malloc.h>
 #include <memory>
 #include <sys/stat.h>
 
@@ -128,9 +128,9 @@ void openCore(AppController& core, Shell& shell, MainWindow& window, bool inTray
         QTimer::singleShot(
             0, &window, [&window, notice = opened.message] { Dialogs::inform(&window, notice); });
     core.startMonitoring();
-    // A backstop, once the first lists are built: what reading the store freed goes back to the
-    // system rather than staying resident all day.
-    QTimer::singleShot(1000, qApp, [] { ::malloc_trim(0); });
+    // Once the first lists are built: what reading the store freed goes back to the system
+    // rather than staying resident all day.
+    MemoryTrim::soon();
 }
 
 // Quitting finishes the running item and saves; every way to end the program comes here.

@@ -1,5 +1,7 @@
 #include "ui/main/ViewSwitcher.h"
 
+#include "ui/desktop/MemoryTrim.h"
+
 namespace lullet {
 
 ViewSwitcher::ViewSwitcher(QWidget* parent)
@@ -21,6 +23,8 @@ void ViewSwitcher::showView(View view)
     if (QWidget* old = currentWidget()) {
         removeWidget(old);
         old->deleteLater();
+        // What the view held, a list of the whole history perhaps, goes back to the system.
+        MemoryTrim::soon();
     }
     addWidget(made);
     setCurrentWidget(made);

@@ -13,6 +13,7 @@
 #include "ui/desktop/ActiveWindow.h"
 #include "ui/desktop/DesktopPresence.h"
 #include "ui/desktop/FileManager.h"
+#include "ui/desktop/MemoryTrim.h"
 #include "ui/help/ContactWindow.h"
 #include "ui/help/HelpWindow.h"
 #include "ui/main/MainView.h"
@@ -68,6 +69,8 @@ Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& pres
     connect(m_tray, &Tray::dismissRequested, this, &Shell::dismissPopover);
     connect(&m_window, &MainWindow::quickAddRequested, this, &Shell::quickAdd);
     connect(&m_window, &MainWindow::hidden, this, &Shell::keepWindowGeometry);
+    // Closed, the window's lists are out of sight: what they freed goes back to the system.
+    connect(&m_window, &MainWindow::hidden, this, &MemoryTrim::soon);
     connect(&m_window, &MainWindow::preferencesRequested, this, &Shell::showPreferences);
     connect(&m_window, &MainWindow::helpRequested, this, &Shell::showHelp);
     connect(&m_window, &MainWindow::contactRequested, this, &Shell::showContact);

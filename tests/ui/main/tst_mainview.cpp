@@ -266,7 +266,7 @@ private Q_SLOTS:
         QMenu* exportMenu = anytime->findChild<QToolButton*>(QStringLiteral("export"))->menu();
         QCOMPARE(exportMenu->actions().size(), 3);
         Dialogs::forgetAsked();
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Ok"));
         exportMenu->actions().at(1)->trigger();
         QCOMPARE(Dialogs::asked().size(), 1);
         QCOMPARE(Dialogs::asked().front().information,
@@ -336,7 +336,7 @@ private Q_SLOTS:
         QCOMPARE(panel->list()->indexOfTopLevelItem(panel->list()->currentItem()), 0);
         saveShot(&view, QStringLiteral("add-task-panel"));
 
-        Dialogs::answerNext(1);
+        Dialogs::answerNext(QStringLiteral("No"));
         panel->deleteTask(waiting);
         QCOMPARE(panel->list()->topLevelItemCount(), 2);
         panel->findChild<QPushButton*>(QStringLiteral("done"))->click();

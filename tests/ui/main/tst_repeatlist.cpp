@@ -137,11 +137,11 @@ private Q_SLOTS:
         QCOMPARE(custom->actions().size(), 2);
 
         // "No" keeps it; "Yes" deletes it, and the "Custom breaks" heading goes with it.
-        Dialogs::answerNext(1);
+        Dialogs::answerNext(QStringLiteral("No"));
         custom->actions().at(1)->trigger();
         QCOMPARE(app().library().rules().size(), std::size_t(1));
         QCOMPARE(Dialogs::asked().back().text, QStringLiteral("Are you sure to delete ?"));
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Yes"));
         custom->actions().at(1)->trigger();
         QCoreApplication::processEvents();
         QVERIFY(app().library().rules().empty());

@@ -92,11 +92,9 @@ private Q_SLOTS:
 
         QVERIFY(box("UDStatusBarIcon")->isChecked());
         QSignalSpy quit(&m_app->presence, &DesktopPresence::quitRequested);
-        Dialogs::answerNext(1);
+        Dialogs::answerNext(QStringLiteral("Later"));
         box("UDDockIcon")->click();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("You must now restart app"));
-        QCOMPARE(Dialogs::asked().last().buttons,
-                 QStringList({QStringLiteral("Relaunch Now"), QStringLiteral("Later")}));
         QCOMPARE(quit.count(), 0);
         QVERIFY(!box("UDStatusBarIcon")->isEnabled());
         QVERIFY(box("UDStatusBarIcon")->isChecked());
@@ -106,7 +104,7 @@ private Q_SLOTS:
         box("UDStatusBarIcon")->click();
         QVERIFY(!m_app->presence.trayIconShown());
         // Leaving the taskbar again brings the icon back, and "Relaunch Now" ends this one.
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Relaunch Now"));
         box("UDDockIcon")->click();
         QVERIFY(box("UDStatusBarIcon")->isChecked());
         QCOMPARE(quit.count(), 1);
@@ -169,13 +167,13 @@ private Q_SLOTS:
         QVERIFY(!restore->isEnabled());
         list->setCurrentItem(list->topLevelItem(1));
         QSignalSpy restored(&services().backups, &Backups::restored);
-        Dialogs::answerNext(1);
+        Dialogs::answerNext(QStringLiteral("No"));
         restore->click();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("Confirm Restore"));
         QCOMPARE(Dialogs::asked().last().information,
                  QStringLiteral("All data will be replaced.\nDo you want to proceed?"));
         QVERIFY(!services().backups.isRestoring());
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Yes"));
         restore->click();
         QVERIFY(restored.wait(5000));
         QCOMPARE(list->topLevelItemCount(), 3);
@@ -194,7 +192,7 @@ private Q_SLOTS:
 
         list->setCurrentItem(list->topLevelItem(1));
         const QString doomed = list->currentItem()->data(0, Qt::UserRole).toString();
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Yes"));
         tab.findChild<QPushButton*>(QStringLiteral("delete"))->click();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("Selected backup will be deleted."));
         QCOMPARE(Dialogs::asked().last().information, QStringLiteral("Are you sure to delete ?"));
@@ -203,7 +201,7 @@ private Q_SLOTS:
         QCOMPARE(services().backups.list().entries().size(), std::size_t(2));
 
         const auto remaining = services().backups.list().entries();
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Yes"));
         tab.findChild<QPushButton*>(QStringLiteral("deleteAll"))->click();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("All backups will be deleted."));
         QCOMPARE(list->topLevelItemCount(), 0);

@@ -226,7 +226,7 @@ private Q_SLOTS:
                     ->text()
                     .contains(QLatin1String("locked")));
 
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Ok"));
         shell.quickAdd();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("Lullet is locked."));
         for (QWidget* top : QApplication::topLevelWidgets())

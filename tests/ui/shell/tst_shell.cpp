@@ -120,11 +120,11 @@ private Q_SLOTS:
         QVERIFY(window.isVisible());
     }
 
-    void questionsCanBeAnsweredInAdvance()
+    void questionsAreAnsweredInAdvanceByTheirButtons()
     {
         Dialogs::forgetAsked();
-        Dialogs::answerNext(0);
-        Dialogs::answerNext(1);
+        Dialogs::answerNext(QStringLiteral("Quit anyway"));
+        Dialogs::answerNext(QStringLiteral("Cancel"));
         QVERIFY(Dialogs::confirm(nullptr, QStringLiteral("Could not save"), QStringLiteral("Info"),
                                  QStringLiteral("Quit anyway"), QStringLiteral("Cancel")));
         QVERIFY(!Dialogs::confirm(nullptr, QStringLiteral("Could not save"), QStringLiteral("Info"),
@@ -256,7 +256,7 @@ private Q_SLOTS:
         notes.write("not a store");
         notes.close();
         Dialogs::forgetAsked();
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Ok"));
         Dialogs::chooseFileNext(text);
         Q_EMIT window.restoreRequested();
         QCOMPARE(Dialogs::asked().size(), 2);

@@ -1,22 +1,20 @@
 #include "core/store/Db.h"
-#include "support/TestMain.h"
+#include "support/FolderTest.h"
 
 #include <QDir>
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 
 #include <csignal>
 
 // A process that saves in a loop, killed at random moments: every change it committed is still
 // there, and the file is whole, every time.
-class TestCrashSafety : public QObject {
+class TestCrashSafety : public lullet::test::FolderTest {
     Q_OBJECT
 private Q_SLOTS:
     void killedWhileSavingLosesNothing()
     {
-        QTemporaryDir dir;
-        const QString folder = dir.filePath(QStringLiteral("data"));
+        const QString folder = path(QStringLiteral("data"));
         QRandomGenerator random(20261122);
         int lastCommitted = 0;
         for (int round = 0; round < 50; ++round) {

@@ -1,11 +1,10 @@
 #include "core/store/Db.h"
-#include "support/TestMain.h"
+#include "support/FolderTest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <csignal>
@@ -13,15 +12,16 @@
 #include <vector>
 
 // The real program, started and stopped as the desktop would.
-class TestLifecycle : public QObject {
+class TestLifecycle : public lullet::test::FolderTest {
     Q_OBJECT
 
-    static QProcessEnvironment environmentFor(const QString& home)
+    // The test's folder is the program's home.
+    QProcessEnvironment environment() const
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("HOME"), home);
+        env.insert(QStringLiteral("HOME"), folder());
         // A runtime folder of its own: the test's Lullet must not meet the user's.
-        const QString runtime = QDir(home).filePath(QStringLiteral("runtime"));
+        const QString runtime = path(QStringLiteral("runtime"));
         QDir().mkpath(runtime);
         QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                            QFileDevice::ExeOwner);
@@ -32,10 +32,7 @@ class TestLifecycle : public QObject {
         return env;
     }
 
-    static QString storePath(const QString& home)
-    {
-        return QDir(home).filePath(QStringLiteral(".local/share/Lullet/Lullet.sqlite"));
-    }
+    QString storePath() const { return path(QStringLiteral(".local/share/Lullet/Lullet.sqlite")); }
 
 private Q_SLOTS:
     void sigtermSavesAndExitsCleanly_data()
@@ -48,19 +45,18 @@ private Q_SLOTS:
     void sigtermSavesAndExitsCleanly()
     {
         QFETCH(QStringList, arguments);
-        QTemporaryDir home;
         QProcess lullet;
-        lullet.setProcessEnvironment(environmentFor(home.path()));
+        lullet.setProcessEnvironment(environment());
         lullet.start(QStringLiteral(LULLET_BINARY), arguments);
         QVERIFY(lullet.waitForStarted());
         // Killed while it may still be starting: the request waits for the quit path.
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath(home.path())), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath()), 10000);
         ::kill(pid_t(lullet.processId()), SIGTERM);
         QVERIFY(lullet.waitForFinished(10000));
         QCOMPARE(lullet.exitStatus(), QProcess::NormalExit);
         QCOMPARE(lullet.exitCode(), 0);
 
-        lullet::Db db(storePath(home.path()), true);
+        lullet::Db db(storePath(), true);
         QVERIFY(db.isOpen());
         QCOMPARE(db.queryText("PRAGMA quick_check").value_or(QString()), QStringLiteral("ok"));
         QCOMPARE(db.queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 0);
@@ -68,24 +64,22 @@ private Q_SLOTS:
 
     void aSecondLaunchHandsOverAndEnds()
     {
-        QTemporaryDir home;
         QProcess first;
-        first.setProcessEnvironment(environmentFor(home.path()));
+        first.setProcessEnvironment(environment());
         first.start(QStringLiteral(LULLET_BINARY), {});
         QVERIFY(first.waitForStarted());
-        QTRY_VERIFY_WITH_TIMEOUT(
-            QFile::exists(QDir(home.path()).filePath(QStringLiteral("runtime/lullet.socket"))),
-            10000);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(QStringLiteral("runtime/lullet.socket"))),
+                                 10000);
         for (const QStringList& args :
              {QStringList{}, QStringList{QStringLiteral("--quick-add")}}) {
             QProcess second;
-            second.setProcessEnvironment(environmentFor(home.path()));
+            second.setProcessEnvironment(environment());
             second.start(QStringLiteral(LULLET_BINARY), args);
             QVERIFY(second.waitForFinished(10000));
             QCOMPARE(second.exitCode(), 0);
         }
         QProcess wrong;
-        wrong.setProcessEnvironment(environmentFor(home.path()));
+        wrong.setProcessEnvironment(environment());
         wrong.start(QStringLiteral(LULLET_BINARY), {QStringLiteral("--verbose")});
         QVERIFY(wrong.waitForFinished(10000));
         QCOMPARE(wrong.exitCode(), 2);
@@ -98,12 +92,11 @@ private Q_SLOTS:
     // Five launches at the same moment, again and again: exactly one stays.
     void aBurstOfLaunchesLeavesOne()
     {
-        QTemporaryDir home;
         for (int burst = 0; burst < 6; ++burst) {
             std::vector<std::unique_ptr<QProcess>> launches;
             for (int i = 0; i < 5; ++i) {
                 launches.push_back(std::make_unique<QProcess>());
-                launches.back()->setProcessEnvironment(environmentFor(home.path()));
+                launches.back()->setProcessEnvironment(environment());
                 launches.back()->start(QStringLiteral(LULLET_BINARY), {});
             }
             const auto ended = [&launches] {
@@ -129,27 +122,24 @@ private Q_SLOTS:
 
     void theUsersFilesArePrivate()
     {
-        QTemporaryDir home;
-        QProcessEnvironment env = environmentFor(home.path());
+        QProcessEnvironment env = environment();
         // Without a runtime folder, the socket goes to a private folder of its own.
         env.remove(QStringLiteral("XDG_RUNTIME_DIR"));
         QProcess lullet;
         lullet.setProcessEnvironment(env);
         lullet.start(QStringLiteral(LULLET_BINARY), {});
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath(home.path())), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath()), 10000);
         QTest::qWait(300);
         ::kill(pid_t(lullet.processId()), SIGTERM);
         QVERIFY(lullet.waitForFinished(10000));
         const auto owner = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-        const QString data = QFileInfo(storePath(home.path())).path();
+        const QString data = QFileInfo(storePath()).path();
         QCOMPARE(QFileInfo(data).permissions() & 0x7077,
                  QFileDevice::Permissions(owner | QFileDevice::ExeOwner));
-        QCOMPARE(QFileInfo(storePath(home.path())).permissions() & 0x7077,
-                 QFileDevice::Permissions(owner));
-        const QString settings =
-            QDir(home.path()).filePath(QStringLiteral(".config/Lullet/Lullet.conf"));
+        QCOMPARE(QFileInfo(storePath()).permissions() & 0x7077, QFileDevice::Permissions(owner));
+        const QString settings = path(QStringLiteral(".config/Lullet/Lullet.conf"));
         QCOMPARE(QFileInfo(settings).permissions() & 0x7077, QFileDevice::Permissions(owner));
-        const QString runtime = QDir(home.path()).filePath(QStringLiteral(".cache/lullet"));
+        const QString runtime = path(QStringLiteral(".cache/lullet"));
         QCOMPARE(QFileInfo(runtime).permissions() & 0x7077,
                  QFileDevice::Permissions(owner | QFileDevice::ExeOwner));
     }
@@ -175,8 +165,7 @@ private Q_SLOTS:
         QFETCH(int, status);
         QFETCH(QByteArray, out);
         QFETCH(QByteArray, error);
-        QTemporaryDir home;
-        QProcessEnvironment env = environmentFor(home.path());
+        QProcessEnvironment env = environment();
         env.remove(QStringLiteral("DISPLAY"));
         env.remove(QStringLiteral("WAYLAND_DISPLAY"));
         env.remove(QStringLiteral("QT_QPA_PLATFORM"));
@@ -191,21 +180,20 @@ private Q_SLOTS:
         QVERIFY2(printed.contains(out), printed.constData());
         QVERIFY2(complained.contains(error), complained.constData());
         // Nothing was made in the home folder besides the test's runtime folder.
-        QCOMPARE(QDir(home.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+        QCOMPARE(QDir(folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  QStringList{QStringLiteral("runtime")});
     }
 
     void aFileInPlaceOfTheDataFolderEndsAtOnce()
     {
-        QTemporaryDir home;
-        const QString folder = QDir(home.path()).filePath(QStringLiteral(".local/share/Lullet"));
+        const QString folder = path(QStringLiteral(".local/share/Lullet"));
         QVERIFY(QDir().mkpath(QFileInfo(folder).path()));
         QFile blocker(folder);
         QVERIFY(blocker.open(QIODevice::WriteOnly));
         blocker.close();
 
         QProcess lullet;
-        lullet.setProcessEnvironment(environmentFor(home.path()));
+        lullet.setProcessEnvironment(environment());
         lullet.start(QStringLiteral(LULLET_BINARY), {});
         QVERIFY(lullet.waitForFinished(10000));
         QCOMPARE(lullet.exitCode(), 1);

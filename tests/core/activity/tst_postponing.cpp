@@ -1,26 +1,18 @@
 #include "core/activity/Postponing.h"
-#include "core/dates/CalendarContext.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
+#include "support/LaunchedTest.h"
 
 using namespace lullet;
 using namespace lullet::test;
 
-class TestPostponing : public QObject {
+class TestPostponing : public LaunchedTest {
     Q_OBJECT
+public:
+    TestPostponing()
+        : LaunchedTest({2026, 11, 25, 9, 0})
+    {
+    }
 
 private Q_SLOTS:
-    void initTestCase() { init(); }
-
-    void init() { lullet::test::useTestCalendar(); }
-
     void theEvening_data()
     {
         QTest::addColumn<Date>("now");
@@ -108,19 +100,16 @@ private Q_SLOTS:
 
     void thePanelAndTheMenuWriteTheEffectiveDate()
     {
-        QTemporaryDir dir;
-        Launched app(dir.path(), at(2026, 11, 25, 9, 0));
-        QVERIFY(app.open());
-        Item* item = app.addItem(QStringLiteral("Call"), at(2026, 11, 20, 8, 0));
+        Item* item = app().addItem(QStringLiteral("Call"), at(2026, 11, 20, 8, 0));
         item->setDtReminderPostponed(at(2026, 11, 25, 15, 0));
-        Postponing& postponing = app.services().postponing;
-        QSignalSpy heard(&app.library(), &Library::itemPostponed);
+        Postponing& postponing = services().postponing;
+        QSignalSpy heard(&library(), &Library::itemPostponed);
 
         // From the item's own time today, but at the present hour and minute.
         QVERIFY(postponing.chooseInPanel(item, Postponing::InThreeHours));
         QCOMPARE(*item->dtReminderPostponed(), at(2026, 11, 25, 12, 0));
         QCOMPARE(*item->dtReminder(), at(2026, 11, 20, 8, 0));
-        QVERIFY(!app.context().hasChanges());
+        QVERIFY(!app().context().hasChanges());
         QCOMPARE(heard.count(), 1);
 
         QVERIFY(!postponing.chooseInPanel(item, Postponing::Cancel));

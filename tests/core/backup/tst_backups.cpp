@@ -1,23 +1,12 @@
 #include "core/backup/BackupList.h"
 #include "core/backup/Backups.h"
-#include "core/backup/StoreCopy.h"
-#include "core/dates/CalendarContext.h"
-#include "core/settings/SettingsKeys.h"
 #include "core/store/Db.h"
-#include "core/store/Store.h"
 #include "core/store/StoreSchema.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/LaunchedTest.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -47,29 +36,27 @@ QStringList titlesIn(const QString& storeFile)
 } // namespace
 
 // Copies of the store and restores from them, over a real store in a temporary folder.
-class TestBackups : public QObject {
+class TestBackups : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
-
-    Launched& app() { return *m_app; }
-    Backups& backups() { return app().services().backups; }
-    QString storeFile()
+public:
+    TestBackups()
+        : LaunchedTest({2026, 11, 23, 10, 15, 30})
     {
-        return QDir(m_dir->path()).filePath(QStringLiteral("data/Lullet.sqlite"));
     }
-    QString file(const QString& name) { return QDir(m_dir->path()).filePath(name); }
+
+private:
+    Backups& backups() { return services().backups; }
 
     void add(const QString& title)
     {
         app().addItem(title, at(2026, 11, 23, 12, 0));
-        QVERIFY(app().library().save());
+        QVERIFY(library().save());
     }
 
     QStringList titles()
     {
         QStringList list;
-        for (const Item* item : app().library().items())
+        for (const Item* item : library().items())
             list << item->title().value_or(QString());
         list.sort();
         return list;
@@ -92,28 +79,13 @@ class TestBackups : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase() { lullet::test::useTestCalendar(); }
-
-    void init()
-    {
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 15, 30));
-        QVERIFY(app().open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     // Committed rows still in the live store's log are in the copy, which is one whole file.
     void aCopyIsWholeAndStandsAlone()
     {
         add(QStringLiteral("Walk"));
         add(QStringLiteral("Read"));
-        QVERIFY(QFile::exists(storeFile() + QStringLiteral("-wal")));
-        const QString copy = file(QStringLiteral("copy.sqlite"));
+        QVERIFY(QFile::exists(storePath() + QStringLiteral("-wal")));
+        const QString copy = path(QStringLiteral("copy.sqlite"));
         backUpTo(copy);
         QCOMPARE(titlesIn(copy), (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
         Db db(copy, true);
@@ -121,7 +93,7 @@ private Q_SLOTS:
         QCOMPARE(db.queryInt("PRAGMA application_id"), qint64(StoreSchema::applicationId));
         QVERIFY(!QFile::exists(copy + QStringLiteral("-wal")));
         QVERIFY(!QFile::exists(copy + QStringLiteral("-shm")));
-        QVERIFY(!QFile::exists(file(QStringLiteral("data/temp/tempBkp.sqlite"))));
+        QVERIFY(!QFile::exists(path(QStringLiteral("data/temp/tempBkp.sqlite"))));
         // A copy saved by hand is not listed.
         QVERIFY(backups().list().entries().empty());
 
@@ -151,7 +123,7 @@ private Q_SLOTS:
             QVERIFY2(!name.contains(bad), qPrintable(name));
         QVERIFY(name.startsWith(QStringLiteral("Backup-Nov 23  2026")));
         QVERIFY(backups().proposedFileName().startsWith(QStringLiteral("Lullet Backup-")));
-        QCOMPARE(BackupList::sizeToDisplay(file(QStringLiteral("none"))),
+        QCOMPARE(BackupList::sizeToDisplay(path(QStringLiteral("none"))),
                  QStringLiteral("Zero Byte"));
     }
 
@@ -177,18 +149,18 @@ private Q_SLOTS:
         app().settings.setValue(SettingsKeys::backupOption, option);
         const QString folder = backups().backupsFolder();
         QDir().mkpath(folder);
-        const auto path = [&](const QString& name) {
+        const auto listedAs = [&](const QString& name) {
             return QDir(folder).filePath(name + QStringLiteral(".sqlite"));
         };
         std::vector<BackupInfo> list = {
-            listed(path(QStringLiteral("today")), at(2026, 11, 23, 8, 0)),
-            listed(path(QStringLiteral("six")), at(2026, 11, 17, 0, 0)),
-            listed(path(QStringLiteral("seven")), at(2026, 11, 16, 0, 0)),
-            {path(QStringLiteral("gone")), at(2026, 10, 1), {}, QStringLiteral("Backup"), {}},
-            listed(path(QStringLiteral("undated")), std::nullopt),
+            listed(listedAs(QStringLiteral("today")), at(2026, 11, 23, 8, 0)),
+            listed(listedAs(QStringLiteral("six")), at(2026, 11, 17, 0, 0)),
+            listed(listedAs(QStringLiteral("seven")), at(2026, 11, 16, 0, 0)),
+            {listedAs(QStringLiteral("gone")), at(2026, 10, 1), {}, QStringLiteral("Backup"), {}},
+            listed(listedAs(QStringLiteral("undated")), std::nullopt),
         };
         // Someone else's file, named in the list: never deleted.
-        const QString outside = file(QStringLiteral("mine.sqlite"));
+        const QString outside = path(QStringLiteral("mine.sqlite"));
         list.push_back(listed(outside, at(2026, 1, 1)));
         kept << (option == 0 ? QStringList{QStringLiteral("mine")} : QStringList{});
         app().settings.setValue(SettingsKeys::backupFiles2, BackupInfo::archive(list));
@@ -198,8 +170,8 @@ private Q_SLOTS:
         for (const BackupInfo& info : backups().list().entries())
             names << QFileInfo(info.path).completeBaseName();
         QCOMPARE(names, kept);
-        QCOMPARE(QFile::exists(path(QStringLiteral("seven"))), option == 0);
-        QCOMPARE(QFile::exists(path(QStringLiteral("today"))), option != 2);
+        QCOMPARE(QFile::exists(listedAs(QStringLiteral("seven"))), option == 0);
+        QCOMPARE(QFile::exists(listedAs(QStringLiteral("today"))), option != 2);
         QVERIFY(QFile::exists(outside));
         if (kept.isEmpty())
             QVERIFY(!app().settings.contains(SettingsKeys::backupFiles2));
@@ -209,26 +181,24 @@ private Q_SLOTS:
     // there was, and every list was read anew.
     void aRestoreRoundTrip()
     {
-        Project* home = app().library().newProject();
-        home->setName(QStringLiteral("Home"));
-        app().library().addProject(home);
+        app().addProject(QStringLiteral("Home"));
         add(QStringLiteral("Walk"));
-        const QString copy = file(QStringLiteral("copy.sqlite"));
+        const QString copy = path(QStringLiteral("copy.sqlite"));
         backUpTo(copy);
         add(QStringLiteral("Read"));
-        Item* running = app().library().items().front();
+        Item* running = library().items().front();
         app().running().start(*running);
         QSignalSpy restored(&backups(), &Backups::restored);
-        QSignalSpy reloaded(&app().library(), &Library::itemsChanged);
+        QSignalSpy reloaded(&library(), &Library::itemsChanged);
         backups().restoreFrom(copy, QStringLiteral("Home"));
         QVERIFY(restored.wait(5000));
         QCOMPARE(restored.first().first().toString(), QStringLiteral("Home"));
         QCOMPARE(titles(), QStringList{QStringLiteral("Walk")});
-        QVERIFY(app().library().projectNamed(QStringLiteral("Home")));
+        QVERIFY(library().projectNamed(QStringLiteral("Home")));
         QVERIFY(!app().running().item());
         QVERIFY(!running->hasContext());
         QVERIFY(!reloaded.isEmpty());
-        QVERIFY(!QFile::exists(storeFile() + QStringLiteral(".before-restore")));
+        QVERIFY(!QFile::exists(storePath() + QStringLiteral(".before-restore")));
 
         const std::vector<BackupInfo> list = backups().list().entries();
         QCOMPARE(list.size(), std::size_t(1));
@@ -238,7 +208,7 @@ private Q_SLOTS:
         // The chosen file was copied, not moved; the restored store saves as before.
         QVERIFY(QFile::exists(copy));
         add(QStringLiteral("Stretch"));
-        QCOMPARE(titlesIn(storeFile()),
+        QCOMPARE(titlesIn(storePath()),
                  (QStringList{QStringLiteral("Stretch"), QStringLiteral("Walk")}));
     }
 
@@ -265,7 +235,7 @@ private Q_SLOTS:
         QFETCH(QString, kind);
         QFETCH(QString, because);
         add(QStringLiteral("Walk"));
-        const QString chosen = file(QStringLiteral("chosen.sqlite"));
+        const QString chosen = path(QStringLiteral("chosen.sqlite"));
         if (kind == QStringLiteral("text") || kind == QStringLiteral("empty")) {
             QFile f(chosen);
             QVERIFY(f.open(QIODevice::WriteOnly));
@@ -289,7 +259,7 @@ private Q_SLOTS:
                 other.exec("CREATE TABLE notes (body TEXT)");
             }
         }
-        const QByteArray before = digest(storeFile());
+        const QByteArray before = digest(storePath());
         QSignalSpy refused(&backups(), &Backups::restoreRefused);
         QSignalSpy created(&backups(), &Backups::backupCreated);
         backups().restoreFrom(chosen, QString());
@@ -299,7 +269,7 @@ private Q_SLOTS:
         QTest::qWait(50);
         QVERIFY(created.isEmpty());
         QVERIFY(backups().list().entries().empty());
-        QCOMPARE(digest(storeFile()), before);
+        QCOMPARE(digest(storePath()), before);
         QCOMPARE(titles(), QStringList{QStringLiteral("Walk")});
     }
 
@@ -308,7 +278,7 @@ private Q_SLOTS:
     void aFailedSwapPutsTheStoreBack()
     {
         add(QStringLiteral("Walk"));
-        const QString copy = file(QStringLiteral("copy.sqlite"));
+        const QString copy = path(QStringLiteral("copy.sqlite"));
         backUpTo(copy);
         add(QStringLiteral("Read"));
         QSignalSpy failed(&backups(), &Backups::restoreFailed);
@@ -318,7 +288,7 @@ private Q_SLOTS:
         QVERIFY(failed.first().first().toString().contains(QStringLiteral("put back")));
         QCOMPARE(titles(), (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
         add(QStringLiteral("Stretch"));
-        QCOMPARE(titlesIn(storeFile()),
+        QCOMPARE(titlesIn(storePath()),
                  (QStringList{QStringLiteral("Read"), QStringLiteral("Stretch"),
                               QStringLiteral("Walk")}));
     }

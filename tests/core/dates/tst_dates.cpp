@@ -1,10 +1,7 @@
 #include "core/dates/CalendarContext.h"
-#include "core/dates/Date.h"
 #include "core/dates/WeekdayNames.h"
-#include "support/DatePrinting.h"
+#include "support/CalendarTest.h"
 #include "support/FakeClock.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 
 #include <unicode/calendar.h>
 
@@ -14,24 +11,15 @@
 #include <vector>
 
 using namespace lullet;
-using lullet::test::FakeClock;
+using namespace lullet::test;
 
 namespace {
-Date at(int y, int mo, int d, int h = 0, int mi = 0, int s = 0)
-{
-    return Date::dateFromComponents(y, mo, d, h, mi, s);
-}
 constexpr double hour = 3600;
 } // namespace
 
-class TestDates : public QObject {
+class TestDates : public CalendarTest {
     Q_OBJECT
 private Q_SLOTS:
-    // Data functions run before init(), so the zone is set for them here as well.
-    void initTestCase() { init(); }
-
-    void init() { lullet::test::useTestCalendar(); }
-
     void comparisonsAreInclusive()
     {
         const Date d = at(2026, 11, 22, 10, 15);

@@ -1,20 +1,12 @@
 // A store of months: the history stays on disk at launch, and every list and count must read
 // as it would with every item in memory.
-#include "core/activity/ProjectActions.h"
-#include "core/model/RepeatCodes.h"
 #include "core/presentation/ListBuilder.h"
 #include "core/presentation/Sidebar.h"
 #include "core/reports/Report.h"
 #include "core/store/Db.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/LaunchedTest.h"
 
 #include <QSet>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -30,30 +22,21 @@ struct SidebarNumbers {
 
 } // namespace
 
-class TestHistory : public QObject {
+// Each test function starts from a launch at now() over the store that makeStore() made.
+class TestHistory : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
-
-    const Date m_made = at(2026, 10, 1, 12, 0);
-    const Date m_now = at(2026, 11, 25, 12, 0);
-
-    bool launch(Date now)
+public:
+    TestHistory()
+        : LaunchedTest({2026, 10, 1, 12, 0})
     {
-        m_app.reset();
-        m_app = std::make_unique<Launched>(m_dir->path(), now);
-        return m_app->open();
     }
 
-    Library& library() { return m_app->library(); }
-    QString storePath() const
-    {
-        return QDir(m_dir->path()).filePath(QStringLiteral("data/Lullet.sqlite"));
-    }
+private:
+    static Date now() { return at(2026, 11, 25, 12, 0); }
 
     Sidebar sidebar()
     {
-        const Services& s = m_app->services();
+        const Services& s = services();
         return Sidebar(s.clock, s.library, s.catalogue, s.running);
     }
 
@@ -92,7 +75,7 @@ class TestHistory : public QObject {
 
     Item* finished(const QString& title, Date when, Project* in, int elapsed)
     {
-        Item* item = m_app->addItem(title, when);
+        Item* item = app().addItem(title, when);
         item->setToProject(in);
         item->setHasFinished(true);
         item->setElapsedTime(elapsed);
@@ -103,10 +86,8 @@ class TestHistory : public QObject {
     // memory whatever their age: open, undated, started, or finished lately.
     void makeStore()
     {
-        QVERIFY(launch(m_made));
-        ProjectActions& actions = m_app->services().projectActions;
-        Project* garden = actions.addProject(QStringLiteral("Garden")).project;
-        Project* kitchen = actions.addProject(QStringLiteral("Kitchen")).project;
+        Project* garden = app().addProject(QStringLiteral("Garden"));
+        Project* kitchen = app().addProject(QStringLiteral("Kitchen"));
         for (int i = 0; i < 30; ++i) {
             Item* item = finished(QStringLiteral("Weed %1").arg(i), at(2026, 9, 1 + i, 9, 0),
                                   garden, 600 + 60 * i);
@@ -120,7 +101,7 @@ class TestHistory : public QObject {
         for (int i = 0; i < 20; ++i)
             finished(QStringLiteral("Loose %1").arg(i), at(2026, 8, 1 + i, 8, 0), nullptr, 300);
         // Open and planned: the project's progress is short of whole by its hour.
-        Item* plan = m_app->addItem(QStringLiteral("Plan beds"), std::nullopt);
+        Item* plan = app().addItem(QStringLiteral("Plan beds"), std::nullopt);
         plan->setToProject(garden);
         plan->setDurationHr(1);
         finished(QStringLiteral("Undated done"), at(2026, 9, 2), nullptr, 60)
@@ -130,29 +111,20 @@ class TestHistory : public QObject {
         // Finished at launch time's recent past: within the last two weeks of the relaunch.
         finished(QStringLiteral("Recent done"), at(2026, 11, 20, 9, 0), kitchen, 400);
         finished(QStringLiteral("Recent two"), at(2026, 11, 21, 9, 0), nullptr, 400);
-        m_app->addItem(QStringLiteral("Overdue"), at(2026, 9, 20, 9, 0));
+        app().addItem(QStringLiteral("Overdue"), at(2026, 9, 20, 9, 0));
         QVERIFY(library().save());
-        m_app.reset();
     }
 
 private Q_SLOTS:
-    void initTestCase() { useTestCalendar(); }
-
     void init()
     {
-        m_dir = std::make_unique<QTemporaryDir>();
+        LaunchedTest::init();
         makeStore();
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
+        relaunch(now());
     }
 
     void theHistoryStaysOnDiskAndTheCountsStayTheSame()
     {
-        QVERIFY(launch(m_now));
         QVERIFY(library().holdsHistory());
         QCOMPARE(library().items().size(), std::size_t(6));
         const SidebarNumbers held = sidebarNumbers();
@@ -161,7 +133,7 @@ private Q_SLOTS:
 
         // One project read in: its totals now come from memory, the other's still from disk.
         (void)ListBuilder::itemsFor({Segment::Project, project(QStringLiteral("Garden"))},
-                                    library(), m_now);
+                                    library(), now());
         QVERIFY(library().holdsHistory());
         QCOMPARE(sidebarNumbers(), held);
 
@@ -179,29 +151,26 @@ private Q_SLOTS:
 
     void everyListReadsTheHistoryItNeeds()
     {
-        QVERIFY(launch(m_now));
         library().loadHistory();
         const QStringList completed =
-            rowTitles(ListBuilder::customListing(Segment::Completed, library(), m_app->clock));
+            rowTitles(ListBuilder::customListing(Segment::Completed, library(), clock()));
         const QStringList garden = titles(ListBuilder::itemsFor(
-            {Segment::Project, project(QStringLiteral("Garden"))}, library(), m_now));
-        const int loose =
-            Report::ofNoProject(library(), m_app->clock, m_app->running()).stats.totalCount;
+            {Segment::Project, project(QStringLiteral("Garden"))}, library(), now()));
+        const int loose = Report::ofNoProject(library(), clock(), app().running()).stats.totalCount;
         QCOMPARE(garden.size(), 32);
         QCOMPARE(loose, 23);
 
-        QVERIFY(launch(m_now));
-        QCOMPARE(rowTitles(ListBuilder::customListing(Segment::Completed, library(), m_app->clock)),
+        relaunch(now());
+        QCOMPARE(rowTitles(ListBuilder::customListing(Segment::Completed, library(), clock())),
                  completed);
-        QVERIFY(launch(m_now));
+        relaunch(now());
         QCOMPARE(titles(ListBuilder::itemsFor({Segment::Project, project(QStringLiteral("Garden"))},
-                                              library(), m_now)),
+                                              library(), now())),
                  garden);
         QVERIFY(!titles(library().items()).contains(QStringLiteral("Loose 3")));
-        QVERIFY(launch(m_now));
-        QCOMPARE(Report::ofNoProject(library(), m_app->clock, m_app->running()).stats.totalCount,
-                 loose);
-        QVERIFY(launch(m_now));
+        relaunch(now());
+        QCOMPARE(Report::ofNoProject(library(), clock(), app().running()).stats.totalCount, loose);
+        relaunch(now());
         QStringList found;
         for (const SidebarRow& row : sidebar().search(QStringLiteral("loose 1"), {}))
             found << row.name;
@@ -211,7 +180,6 @@ private Q_SLOTS:
 
     void editsBeforeTheHistoryIsReadAreKept()
     {
-        QVERIFY(launch(m_now));
         // Saved as history, and one of them deleted before the history is read: neither may come
         // back as a second record.
         Item* kept = nullptr;
@@ -233,10 +201,10 @@ private Q_SLOTS:
         QVERIFY(library().save());
 
         // A project deleted takes its history on disk along.
-        QVERIFY(launch(m_now));
-        m_app->services().projectActions.deleteProject(*project(QStringLiteral("Kitchen")));
+        relaunch(now());
+        services().projectActions.deleteProject(*project(QStringLiteral("Kitchen")));
         QVERIFY(library().save());
-        QVERIFY(launch(m_now));
+        relaunch(now());
         const QStringList all = titles(library().allItems());
         QVERIFY(!all.contains(QStringLiteral("Bake 2")));
         QVERIFY(!all.contains(QStringLiteral("Recent two")));
@@ -245,15 +213,13 @@ private Q_SLOTS:
 
     void aProjectCopiedTakesItsHistory()
     {
-        QVERIFY(launch(m_now));
         Project* copy =
-            m_app->services().projectActions.duplicateAsNew(*project(QStringLiteral("Kitchen")));
+            services().projectActions.duplicateAsNew(*project(QStringLiteral("Kitchen")));
         QCOMPARE(copy->toReminders().size(), std::size_t(6));
     }
 
     void aHistoryThatCannotBeReadIsToldOnceAndReadLater()
     {
-        QVERIFY(launch(m_now));
         QSignalSpy told(&library(), &Library::readFailed);
         QVERIFY(Db(storePath()).exec("ALTER TABLE ReminderInfo RENAME TO Elsewhere"));
         library().loadHistory();
@@ -275,7 +241,7 @@ private Q_SLOTS:
             QVERIFY(db.exec("INSERT INTO ReminderInfo (title, hasFinished, dtReminder, "
                             "dtReminderPostponed) VALUES ('Far date', 1, 0, 1e300)"));
         }
-        QVERIFY(launch(m_now));
+        relaunch(now());
         const QStringList held = titles(library().items());
         // One reads as unfinished, the other as finished in 1970 by its plain date: the store's
         // query takes neither for history, so both are read at the launch.

@@ -1,12 +1,8 @@
-#include "core/dates/CalendarContext.h"
 #include "core/model/RepeatCodes.h"
 #include "core/model/Rule.h"
 #include "core/scheduling/RepeatRules.h"
-#include "support/DatePrinting.h"
+#include "support/CalendarTest.h"
 #include "support/FakeClock.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 
 #include <random>
 
@@ -27,14 +23,9 @@ struct TestRule {
 
 } // namespace
 
-class TestRepeatRules : public QObject {
+class TestRepeatRules : public CalendarTest {
     Q_OBJECT
 private Q_SLOTS:
-    // Data functions run before init(), so the zone is set for them here as well.
-    void initTestCase() { init(); }
-
-    void init() { lullet::test::useTestCalendar(); }
-
     void theGrid_data()
     {
         QTest::addColumn<Date>("anchor");

@@ -1,38 +1,21 @@
-#include "core/dates/CalendarContext.h"
 #include "core/scheduling/Catalogue.h"
 #include "core/scheduling/ScheduleTableModel.h"
 #include "core/scheduling/WorkingHours.h"
 #include "core/scheduling/WorkingSchedule.h"
-#include "core/settings/SettingsKeys.h"
-#include "support/DatePrinting.h"
+#include "support/FolderTest.h"
 #include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTime>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
-class TestWorkingHours : public QObject {
+class TestWorkingHours : public FolderTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-
-    QString conf() const { return m_dir->filePath(QStringLiteral("Lullet.conf")); }
+    QString conf() const { return path(QStringLiteral("Lullet.conf")); }
 
 private Q_SLOTS:
-    void initTestCase() { init(); }
-
-    void init()
-    {
-        lullet::test::useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-    }
-
     void theFirstScheduleIsMondayToFridayNineToSix()
     {
         const FakeClock clock(at(2026, 11, 23, 14, 0));
@@ -138,7 +121,7 @@ private Q_SLOTS:
 
     void theEditorTableMovesTheSuggestions()
     {
-        Launched app(m_dir->path(), at(2026, 11, 23, 7, 0));
+        Launched app(folder(), at(2026, 11, 23, 7, 0));
         QVERIFY(app.open());
         Catalogue& catalogue = app.services().catalogue;
         ScheduleTableModel model(app.clock, app.services().schedule, catalogue);

@@ -1,18 +1,9 @@
 #include "core/security/Lock.h"
 #include "core/security/PasswordRules.h"
 #include "core/security/Protection.h"
-#include "core/settings/SettingsKeys.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/LaunchedTest.h"
 
-#include <QDir>
 #include <QFile>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
-#include <optional>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -28,21 +19,25 @@ QVariantMap passwordValues(const Settings& settings)
 
 } // namespace
 
-class TestProtection : public QObject {
+class TestProtection : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+public:
+    TestProtection()
+        : LaunchedTest({2026, 11, 23, 10, 0}, Open::No)
+    {
+    }
 
-    Protection& protection() { return m_app->services().protection; }
-    Lock& lock() { return m_app->services().lock; }
+private:
+    Protection& protection() { return services().protection; }
+    Lock& lock() { return services().lock; }
 
     // A launch on a Monday morning inside the working hours, protected and locked.
     void launchProtected(std::optional<QString> secret)
     {
-        m_app->settings.setDictionary(SettingsKeys::passwordValues,
-                                      {{QString(SettingsKeys::isPassword), true}});
-        m_app->secrets.secret = std::move(secret);
-        QVERIFY(m_app->open());
+        app().settings.setDictionary(SettingsKeys::passwordValues,
+                                     {{QString(SettingsKeys::isPassword), true}});
+        app().secrets.secret = std::move(secret);
+        QVERIFY(app().open());
         QVERIFY(lock().isLocked());
     }
 
@@ -56,19 +51,6 @@ class TestProtection : public QObject {
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 0));
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     void newPasswords_data()
     {
         QTest::addColumn<QString>("password");
@@ -145,15 +127,15 @@ private Q_SLOTS:
     void aMissingPasswordOpensButAnUnreachableKeyringDoesNot()
     {
         launchProtected(std::nullopt);
-        m_app->secrets.unavailable = true;
+        app().secrets.unavailable = true;
         QCOMPARE(logIn(QStringLiteral("anything")), Protection::Login::Unavailable);
         QVERIFY(lock().isLocked());
         QVERIFY(protection().isOn());
 
-        m_app->secrets.unavailable = false;
+        app().secrets.unavailable = false;
         QCOMPARE(logIn(QStringLiteral("anything")), Protection::Login::In);
         QVERIFY(!lock().isLocked());
-        const QVariantMap values = passwordValues(m_app->settings);
+        const QVariantMap values = passwordValues(app().settings);
         QCOMPARE(values.value(SettingsKeys::isPassword).toBool(), false);
         QCOMPARE(values.value(SettingsKeys::password).toString(), QString());
         QVERIFY(values.contains(SettingsKeys::email));
@@ -164,18 +146,18 @@ private Q_SLOTS:
     void theLockHoldsBackOnlyTheIdleQuestion()
     {
         launchProtected(QStringLiteral("kestrel"));
-        m_app->addItem(QStringLiteral("Water"), at(2026, 11, 23, 10, 20))->setShouldRemind(true);
-        m_app->runUntil(at(2026, 11, 23, 10, 45));
-        QCOMPARE(m_app->prompts.kinds(), QStringList{QStringLiteral("reminder")});
+        app().addItem(QStringLiteral("Water"), at(2026, 11, 23, 10, 20))->setShouldRemind(true);
+        app().runUntil(at(2026, 11, 23, 10, 45));
+        QCOMPARE(app().prompts.kinds(), QStringList{QStringLiteral("reminder")});
         QCOMPARE(logIn(QStringLiteral("kestrel")), Protection::Login::In);
-        QTRY_COMPARE(m_app->prompts.kinds(),
+        QTRY_COMPARE(app().prompts.kinds(),
                      (QStringList{QStringLiteral("reminder"), QStringLiteral("idle")}));
-        QVERIFY(m_app->prompts.prompts.back().askNow);
+        QVERIFY(app().prompts.prompts.back().askNow);
     }
 
     void storingTurnsProtectionOnOnlyWhenTheKeyringHoldsIt()
     {
-        QVERIFY(m_app->open());
+        QVERIFY(app().open());
         std::optional<QString> error;
         const auto store = [&](const QString& password) {
             error.reset();
@@ -183,24 +165,24 @@ private Q_SLOTS:
             QTRY_VERIFY(error.has_value());
         };
         protection().switchOn();
-        m_app->secrets.refuseWrites = true;
+        app().secrets.refuseWrites = true;
         store(QStringLiteral("Kestrel9"));
         QVERIFY(!error->isEmpty());
         QVERIFY(!protection().isOn());
 
-        m_app->secrets.refuseWrites = false;
+        app().secrets.refuseWrites = false;
         store(QStringLiteral("Kestrel9"));
         QCOMPARE(*error, QString());
         QVERIFY(protection().isOn());
-        QCOMPARE(m_app->secrets.secret, std::optional(QStringLiteral("Kestrel9")));
-        m_app->settings.sync();
-        QFile file(m_app->settings.filePath());
+        QCOMPARE(app().secrets.secret, std::optional(QStringLiteral("Kestrel9")));
+        app().settings.sync();
+        QFile file(app().settings.filePath());
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(!file.readAll().contains("Kestrel9"));
 
         protection().switchOff();
         QVERIFY(!protection().isOn());
-        QTRY_VERIFY(!m_app->secrets.secret);
+        QTRY_VERIFY(!app().secrets.secret);
     }
 
     // Reading what is stored repairs protection that has no password, and only that.
@@ -213,11 +195,11 @@ private Q_SLOTS:
             protection().readPassword(this, [&](const SecretStore::Reading& r) { reading = r; });
             QTRY_VERIFY(reading.has_value());
         };
-        m_app->secrets.unavailable = true;
+        app().secrets.unavailable = true;
         read();
         QCOMPARE(reading->outcome, SecretStore::Outcome::Unavailable);
         QVERIFY(protection().isOn());
-        m_app->secrets.unavailable = false;
+        app().secrets.unavailable = false;
         read();
         QCOMPARE(reading->outcome, SecretStore::Outcome::NotFound);
         QVERIFY(!protection().isOn());

@@ -2,17 +2,15 @@
 #include "core/store/ObjectContext.h"
 #include "core/store/Store.h"
 #include "core/store/StoreSchema.h"
-#include "support/DatePrinting.h"
 #include "support/FakeClock.h"
-#include "support/TestMain.h"
+#include "support/FolderTest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 using namespace lullet;
-using lullet::test::FakeClock;
+using namespace lullet::test;
 
 namespace {
 
@@ -42,26 +40,19 @@ QStringList asideFiles(const QString& folder)
 
 } // namespace
 
-class TestStore : public QObject {
+class TestStore : public FolderTest {
     Q_OBJECT
-    QTemporaryDir m_dir;
     FakeClock m_clock{Date(1'795'340'000)};
 
-    QString folder() const { return m_dir.filePath(QStringLiteral("data/Lullet")); }
+    QString storeFolder() const { return path(QStringLiteral("data/Lullet")); }
 
 private Q_SLOTS:
-    void init()
-    {
-        QDir(m_dir.path()).removeRecursively();
-        QVERIFY(QDir().mkpath(m_dir.path()));
-    }
-
     void firstRunCreatesTheFolderAndAWalStore()
     {
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         const auto result = store.open();
         QCOMPARE(result.outcome, Store::Outcome::Opened);
-        QVERIFY(QFileInfo(folder()).isDir());
+        QVERIFY(QFileInfo(storeFolder()).isDir());
         QCOMPARE(store.db().queryText("PRAGMA journal_mode").value_or(QString()),
                  QStringLiteral("wal"));
         QCOMPARE(store.db().queryInt("PRAGMA application_id").value_or(0),
@@ -77,7 +68,7 @@ private Q_SLOTS:
     void everyAttributeSurvivesAReload()
     {
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             QCOMPARE(store.open().outcome, Store::Outcome::Opened);
             ObjectContext& ctx = store.context();
             Project* home = ctx.insertProject();
@@ -118,7 +109,7 @@ private Q_SLOTS:
             QVERIFY(!ctx.hasChanges());
             QVERIFY(item->rowId() > 0);
         }
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         ObjectContext& ctx = store.context();
         QCOMPARE(ctx.projects().size(), std::size_t(1));
@@ -166,7 +157,7 @@ private Q_SLOTS:
 
     void onlyRealChangesCount()
     {
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         ObjectContext& ctx = store.context();
         Item* item = ctx.insertItem();
@@ -187,7 +178,7 @@ private Q_SLOTS:
 
     void deletingKeepsMemoryAndRelationshipsInStep()
     {
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         ObjectContext& ctx = store.context();
         Project* work = ctx.insertProject();
@@ -216,7 +207,7 @@ private Q_SLOTS:
 
     void aFailedSaveKeepsEveryChangeForTheNextTry()
     {
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         ObjectContext& ctx = store.context();
         QVERIFY(store.db().exec("CREATE TRIGGER refuse BEFORE INSERT ON ReminderInfo "
@@ -237,15 +228,15 @@ private Q_SLOTS:
 
     void aFileWhereTheFolderShouldBeEndsTheBuild()
     {
-        QVERIFY(QDir().mkpath(m_dir.filePath(QStringLiteral("data"))));
-        writeFile(folder(), "not a folder");
-        Store store(folder(), m_clock);
+        QVERIFY(QDir().mkpath(path(QStringLiteral("data"))));
+        writeFile(storeFolder(), "not a folder");
+        Store store(storeFolder(), m_clock);
         const auto result = store.open();
         QCOMPARE(result.outcome, Store::Outcome::FolderIsFile);
         QCOMPARE(result.message,
                  QStringLiteral("Expected a folder to store application data, found a file %1.")
-                     .arg(folder()));
-        QCOMPARE(readAll(folder()), QByteArray("not a folder"));
+                     .arg(storeFolder()));
+        QCOMPARE(readAll(storeFolder()), QByteArray("not a folder"));
         QVERIFY(!store.isOpen());
     }
 
@@ -272,8 +263,8 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, setupSql);
         QFETCH(QByteArray, garbage);
-        QVERIFY(QDir().mkpath(folder()));
-        const QString path = QDir(folder()).filePath(QStringLiteral("Lullet.sqlite"));
+        QVERIFY(QDir().mkpath(storeFolder()));
+        const QString path = QDir(storeFolder()).filePath(QStringLiteral("Lullet.sqlite"));
         if (!garbage.isEmpty()) {
             writeFile(path, garbage);
             writeFile(path + QStringLiteral("-wal"), "log");
@@ -284,21 +275,21 @@ private Q_SLOTS:
         const QByteArray before = readAll(path);
 
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             const auto result = store.open();
             QCOMPARE(result.outcome, Store::Outcome::MovedAside);
             QVERIFY(!QFile::exists(path));
-            QCOMPARE(asideFiles(folder()).size(), 1);
+            QCOMPARE(asideFiles(storeFolder()).size(), 1);
             QCOMPARE(readAll(result.movedTo), before);
             QVERIFY(result.message.contains(result.movedTo));
             if (!garbage.isEmpty())
                 QCOMPARE(readAll(result.movedTo + QStringLiteral("-wal")), QByteArray("log"));
         }
         // The next launch starts empty, and the moved file is still there.
-        Store next(folder(), m_clock);
+        Store next(storeFolder(), m_clock);
         QCOMPARE(next.open().outcome, Store::Outcome::Opened);
         QVERIFY(next.context().items().empty());
-        QCOMPARE(asideFiles(folder()).size(), 1);
+        QCOMPARE(asideFiles(storeFolder()).size(), 1);
     }
 
     // Only a file that positively is not ours is moved; one that is busy, read-only or lacks
@@ -306,26 +297,26 @@ private Q_SLOTS:
     void aStoreThatIsOnlyInTheWayIsNeverMoved()
     {
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             QCOMPARE(store.open().outcome, Store::Outcome::Opened);
             store.context().insertItem()->setTitle(QStringLiteral("Keep me"));
             QVERIFY(store.context().save());
         }
-        const QString path = QDir(folder()).filePath(QStringLiteral("Lullet.sqlite"));
+        const QString path = QDir(storeFolder()).filePath(QStringLiteral("Lullet.sqlite"));
         {
             // Another program holds the file to itself.
             Db holder(path);
             QVERIFY(holder.exec("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE;"));
-            Store store(folder(), m_clock, 300);
+            Store store(storeFolder(), m_clock, 300);
             const auto result = store.open();
             QCOMPARE(result.outcome, Store::Outcome::InUse);
             QVERIFY2(result.message.contains(QStringLiteral("in use")), qPrintable(result.message));
             QVERIFY(!result.message.contains(QStringLiteral("not an error")));
-            QVERIFY(asideFiles(folder()).isEmpty());
+            QVERIFY(asideFiles(storeFolder()).isEmpty());
         }
         QFile::setPermissions(path, QFileDevice::ReadOwner);
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             const auto result = store.open();
             QCOMPARE(result.outcome, Store::Outcome::ReadOnly);
             QVERIFY(result.message.contains(path));
@@ -336,46 +327,47 @@ private Q_SLOTS:
             QVERIFY(db.exec("DROP TABLE Project"));
         }
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             const auto result = store.open();
             QCOMPARE(result.outcome, Store::Outcome::MissingTables);
             QVERIFY(result.message.contains(path));
             QVERIFY(!result.message.contains(QStringLiteral("not an error")));
         }
-        QVERIFY(asideFiles(folder()).isEmpty());
+        QVERIFY(asideFiles(storeFolder()).isEmpty());
         Db db(path, true);
         QCOMPARE(db.queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 1);
     }
 
     void theFilesAreTheUsersAlone()
     {
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         store.context().insertItem();
         QVERIFY(store.context().save());
-        QCOMPARE(QFileInfo(folder()).permissions() & 0x7077,
+        QCOMPARE(QFileInfo(storeFolder()).permissions() & 0x7077,
                  QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                           QFileDevice::ExeOwner));
         for (const char* name : {"Lullet.sqlite", "Lullet.sqlite-wal", "Lullet.sqlite-shm"})
-            QCOMPARE(QFileInfo(QDir(folder()).filePath(QString::fromLatin1(name))).permissions() &
-                         0x7077,
-                     QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner));
+            QCOMPARE(
+                QFileInfo(QDir(storeFolder()).filePath(QString::fromLatin1(name))).permissions() &
+                    0x7077,
+                QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner));
     }
 
     void impossibleValuesOnDiskReadAsMissing()
     {
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         }
         {
             // Another writer, without our foreign-key checks.
-            Db db(QDir(folder()).filePath(QStringLiteral("Lullet.sqlite")));
+            Db db(QDir(storeFolder()).filePath(QStringLiteral("Lullet.sqlite")));
             QVERIFY(db.exec(
                 "INSERT INTO ReminderInfo (title, dtReminder, dtReminderPostponed, durationHr, "
                 "hasFinished, toProject) VALUES (NULL, 1e300, 'yesterday', 99999999999, 'x', 42)"));
         }
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         QCOMPARE(store.context().items().size(), std::size_t(1));
         const Item* item = store.context().items().front();
@@ -387,7 +379,7 @@ private Q_SLOTS:
 
     void resetDetachesRecordsAndReloads()
     {
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         ObjectContext& ctx = store.context();
         Item* item = ctx.insertItem();

@@ -1,5 +1,5 @@
 #include "core/settings/Settings.h"
-#include "support/TestMain.h"
+#include "support/FolderTest.h"
 #include "ui/desktop/Autostart.h"
 #include "ui/desktop/DesktopPresence.h"
 #include "ui/desktop/PlatformChoice.h"
@@ -9,19 +9,15 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <cstdlib>
 
 using namespace lullet;
+using namespace lullet::test;
 
 // How the program shows itself: the autostart entry, the taskbar and the tray icon.
-class TestPresence : public QObject {
+class TestPresence : public FolderTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-
-    QString path(const QString& name) const { return m_dir->filePath(name); }
-
     static void validate(const QString& entry)
     {
         const QString validator =
@@ -47,12 +43,10 @@ class TestPresence : public QObject {
     }
 
 private Q_SLOTS:
-    void init() { m_dir = std::make_unique<QTemporaryDir>(); }
-
     void cleanup()
     {
         ::unsetenv("XDG_CONFIG_HOME");
-        m_dir.reset();
+        FolderTest::cleanup();
     }
 
     // The entry lives below $XDG_CONFIG_HOME, or ~/.config when that is unset or relative.

@@ -1,11 +1,10 @@
-#include "support/TestMain.h"
+#include "support/FolderTest.h"
 #include "ui/desktop/SingleInstance.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <cerrno>
 #include <chrono>
@@ -20,35 +19,31 @@
 using namespace lullet;
 
 // One instance per user: the claim, the hand-over of requests, and what a stranger can't do.
-class TestSingleInstance : public QObject {
+class TestSingleInstance : public test::FolderTest {
     Q_OBJECT
-    QTemporaryDir m_dir;
-
-    QString folder() const { return m_dir.filePath(QStringLiteral("run")); }
+    QString runtime() const { return path(QStringLiteral("run")); }
 
 private Q_SLOTS:
-    void init() { QDir(folder()).removeRecursively(); }
-
     void oneInstanceTakesTheRequestsOfTheNext()
     {
-        QVERIFY(QDir().mkpath(folder()));
-        QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                            QFileDevice::ExeOwner);
+        QVERIFY(QDir().mkpath(runtime()));
+        QFile::setPermissions(runtime(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                             QFileDevice::ExeOwner);
         // A file left where the socket belongs, as after a crash, is replaced.
-        QFile stale(QDir(folder()).filePath(QStringLiteral("lullet.socket")));
+        QFile stale(QDir(runtime()).filePath(QStringLiteral("lullet.socket")));
         QVERIFY(stale.open(QIODevice::WriteOnly));
         stale.close();
-        SingleInstance first(folder());
+        SingleInstance first(runtime());
         QCOMPARE(first.claim(), SingleInstance::Role::Primary);
         QSignalSpy requests(&first, &SingleInstance::requestReceived);
 
-        SingleInstance second(folder());
+        SingleInstance second(runtime());
         QCOMPARE(second.claim(), SingleInstance::Role::Secondary);
         QVERIFY(second.forward(QStringLiteral("quick-add")));
         QTRY_COMPARE(requests.count(), 1);
         QCOMPARE(requests.at(0).at(0).toString(), QStringLiteral("quick-add"));
         // The live instance's socket is still there for the next launch.
-        SingleInstance third(folder());
+        SingleInstance third(runtime());
         QCOMPARE(third.claim(), SingleInstance::Role::Secondary);
         QVERIFY(third.forward(QStringLiteral("show")));
         QTRY_COMPARE(requests.count(), 2);
@@ -57,21 +52,21 @@ private Q_SLOTS:
     // A relaunch waits for the instance before it to let go, and only so long.
     void aRelaunchWaitsForTheEndingInstance()
     {
-        QVERIFY(QDir().mkpath(folder()));
-        QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                            QFileDevice::ExeOwner);
-        const QByteArray lockPath = QFile::encodeName(folder() + QStringLiteral("/lullet.lock"));
+        QVERIFY(QDir().mkpath(runtime()));
+        QFile::setPermissions(runtime(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                             QFileDevice::ExeOwner);
+        const QByteArray lockPath = QFile::encodeName(runtime() + QStringLiteral("/lullet.lock"));
         const int ending = ::open(lockPath.constData(), O_RDWR | O_CREAT, 0600);
         QVERIFY(ending >= 0);
         QCOMPARE(::flock(ending, LOCK_EX | LOCK_NB), 0);
         using namespace std::chrono_literals;
-        SingleInstance impatient(folder());
+        SingleInstance impatient(runtime());
         QCOMPARE(impatient.claim(100ms), SingleInstance::Role::Secondary);
         std::thread quitting([ending] {
             std::this_thread::sleep_for(300ms);
             ::close(ending);
         });
-        SingleInstance relaunched(folder());
+        SingleInstance relaunched(runtime());
         const SingleInstance::Role role = relaunched.claim(10s);
         quitting.join();
         QCOMPARE(role, SingleInstance::Role::Primary);
@@ -79,7 +74,7 @@ private Q_SLOTS:
 
     void aClientThatNeverEndsItsLineIsCutOff()
     {
-        SingleInstance first(folder());
+        SingleInstance first(runtime());
         QCOMPARE(first.claim(), SingleInstance::Role::Primary);
         QSignalSpy requests(&first, &SingleInstance::requestReceived);
         const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
@@ -107,20 +102,20 @@ private Q_SLOTS:
 
     void aFolderOthersMayWriteIsRefused()
     {
-        QVERIFY(QDir().mkpath(folder()));
-        QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                            QFileDevice::ExeOwner | QFileDevice::WriteOther |
-                                            QFileDevice::ReadOther | QFileDevice::ExeOther);
-        SingleInstance instance(folder());
+        QVERIFY(QDir().mkpath(runtime()));
+        QFile::setPermissions(runtime(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                             QFileDevice::ExeOwner | QFileDevice::WriteOther |
+                                             QFileDevice::ReadOther | QFileDevice::ExeOther);
+        SingleInstance instance(runtime());
         QCOMPARE(instance.claim(), SingleInstance::Role::Failed);
-        QVERIFY(instance.errorMessage().contains(folder()));
+        QVERIFY(instance.errorMessage().contains(runtime()));
     }
 
     void aMissingFolderIsMadePrivate()
     {
-        SingleInstance instance(folder());
+        SingleInstance instance(runtime());
         QCOMPARE(instance.claim(), SingleInstance::Role::Primary);
-        QCOMPARE(QFileInfo(folder()).permissions() & 0x7077,
+        QCOMPARE(QFileInfo(runtime()).permissions() & 0x7077,
                  QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                           QFileDevice::ExeOwner));
     }

@@ -1,34 +1,27 @@
-#include "core/settings/SettingsKeys.h"
-#include "support/LaunchedDesktop.h"
+#include "support/DesktopTest.h"
 #include "support/Shots.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 #include "ui/help/HelpWindow.h"
 #include "ui/help/Links.h"
 #include "ui/help/WelcomeSlides.h"
-#include "ui/shell/MainWindow.h"
-#include "ui/shell/Shell.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QUrlQuery>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
 // The welcome slides, the help window that shows them again, and the project's links.
-class TestHelp : public QObject {
+class TestHelp : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<LaunchedDesktop> m_app;
+public:
+    TestHelp()
+        : DesktopTest({2026, 11, 23, 10, 0})
+    {
+    }
 
+private:
     static QPushButton* button(QWidget* in, const char* name)
     {
         return in->findChild<QPushButton*>(QLatin1String(name));
@@ -36,26 +29,12 @@ class TestHelp : public QObject {
 
     QByteArray settingsFile() const
     {
-        m_app->settings.sync();
-        QFile file(m_app->settings.filePath());
+        app().settings.sync();
+        QFile file(app().settings.filePath());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
-        QVERIFY(m_app->open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     // Previous and Next come and go at the ends; Skip stays, named for leaving on the last.
     void theSlidesTurn()
     {
@@ -96,7 +75,7 @@ private Q_SLOTS:
     void theHelpWindowChangesNoSetting()
     {
         MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
+        Shell shell(services(), window, app().presence, app().notifier);
         shell.setLoaded();
         const QByteArray before = settingsFile();
         shell.showHelp();

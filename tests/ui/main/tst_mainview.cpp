@@ -1,11 +1,6 @@
 #include "core/activity/ItemActions.h"
-#include "core/activity/ProjectActions.h"
-#include "core/dates/CalendarContext.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
+#include "support/DesktopTest.h"
 #include "support/Shots.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 #include "ui/authoring/DateChooser.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/authoring/RuleFormView.h"
@@ -16,16 +11,13 @@
 #include "ui/main/MainView.h"
 #include "ui/main/SidebarView.h"
 #include "ui/main/ViewSwitcher.h"
-#include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/WindowContent.h"
 #include "ui/widgets/BarChart.h"
 #include "ui/widgets/CircularProgress.h"
-#include "ui/widgets/Dialogs.h"
 #include "ui/widgets/ElidedLabel.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QItemSelectionModel>
@@ -34,46 +26,32 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
 // The main window's content: every segment walked, a project added, a search.
-class TestMainView : public QObject {
+class TestMainView : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
-
-    Launched& app() { return *m_app; }
-
-private Q_SLOTS:
-    void initTestCase() { lullet::test::useTestCalendar(); }
-
-    void init()
+public:
+    TestMainView()
+        : DesktopTest({2026, 11, 25, 12, 0}, Open::BeforeWelcome)
     {
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 25, 12, 0));
-        QVERIFY(app().open(false));
-        app().addItem(QStringLiteral("Walk the dog"), at(2026, 11, 25, 18, 0));
     }
 
-    void cleanup()
+private Q_SLOTS:
+    void init()
     {
-        m_app.reset();
-        m_dir.reset();
+        DesktopTest::init();
+        app().addItem(QStringLiteral("Walk the dog"), at(2026, 11, 25, 18, 0));
     }
 
     void everySegmentShowsItsView()
     {
-        MainView view(app().services());
+        MainView view(services());
         view.resize(900, 600);
         view.show();
         QCOMPARE(*view.switcher().current(), View::LulletList);
@@ -98,46 +76,46 @@ private Q_SLOTS:
     void theCountsFollowTheClock()
     {
         app().addItem(QStringLiteral("Plant the bulbs"), at(2026, 11, 26, 9, 0));
-        MainView view(app().services());
-        m_app->clock.set(at(2026, 11, 25, 23, 59, 0));
+        MainView view(services());
+        clock().set(at(2026, 11, 25, 23, 59, 0));
         QCOMPARE(view.sidebar().rows()[2].count, std::optional<int>(1));
-        m_app->runUntil(at(2026, 11, 26, 0, 0, 1));
+        app().runUntil(at(2026, 11, 26, 0, 0, 1));
         QCoreApplication::processEvents();
         QCOMPARE(view.sidebar().rows()[2].count, std::optional<int>(2));
     }
 
     void upcomingGivesWayToTodayWhenAnItemStarts()
     {
-        MainView view(app().services());
+        MainView view(services());
         view.showSegment(Segment::Upcoming);
         QCOMPARE(*view.switcher().current(), View::CustomList);
-        app().services().itemActions.start(*app().library().items().front());
+        services().itemActions.start(*library().items().front());
         QTRY_COMPARE(view.shownSegment(), Segment::Today);
         QTRY_COMPARE(*view.switcher().current(), View::LulletList);
     }
 
     void theWelcomeLeadsToTheMainView()
     {
-        WindowContent container(app().services());
+        WindowContent container(services());
         QVERIFY(container.showsWelcome());
         QVERIFY(!container.findChild<MainView*>());
         QSignalSpy proceeded(&container, &WindowContent::proceededFromWelcome);
         container.findChild<QPushButton*>(QStringLiteral("skip"))->click();
         QCOMPARE(proceeded.count(), 1);
-        QVERIFY(m_app->settings.welcomeDone());
-        QCOMPARE(m_app->settings.integer(SettingsKeys::introPageShown), 1);
+        QVERIFY(app().settings.welcomeDone());
+        QCOMPARE(app().settings.integer(SettingsKeys::introPageShown), 1);
         QVERIFY(container.findChild<MainView*>());
         // With the welcome done, the idle question may come at once.
         QCoreApplication::processEvents();
-        QCOMPARE(m_app->prompts.kinds(), QStringList{QStringLiteral("idle")});
+        QCOMPARE(app().prompts.kinds(), QStringList{QStringLiteral("idle")});
         // Next time the main view comes first.
-        WindowContent again(app().services());
+        WindowContent again(services());
         QVERIFY(!again.showsWelcome());
     }
 
     void theQuickAddBarAndWhereTheTaskShows()
     {
-        MainView view(app().services());
+        MainView view(services());
         view.show();
         QVERIFY(!view.quickAddBar()->isVisible());
         view.showQuickAddBar();
@@ -150,14 +128,14 @@ private Q_SLOTS:
         view.quickAddBar()->nameField()->setText(QStringLiteral("read a book"));
         view.showQuickAddBar();
         QVERIFY(!view.quickAddBar()->isVisible());
-        QCOMPARE(*app().library().items().back()->title(), QStringLiteral("Read a book"));
+        QCOMPARE(*library().items().back()->title(), QStringLiteral("Read a book"));
         QTRY_COMPARE(view.shownSegment(), Segment::Anytime);
         QTRY_COMPARE(view.sidebar().list()->currentRow(), 4);
     }
 
     void aNewProjectIsSelectedAndListed()
     {
-        MainView view(app().services());
+        MainView view(services());
         auto* field = view.findChild<QLineEdit*>(QStringLiteral("newProject"));
         field->setText(QStringLiteral("garden"));
         QTest::keyClick(field, Qt::Key_Return);
@@ -171,13 +149,13 @@ private Q_SLOTS:
 
     void projectsAreRenamedDuplicatedAndDeleted()
     {
-        MainView view(app().services());
+        MainView view(services());
         auto* field = view.findChild<QLineEdit*>(QStringLiteral("newProject"));
         for (const char* name : {"Home", "Work"}) {
             field->setText(QString::fromLatin1(name));
             QTest::keyClick(field, Qt::Key_Return);
         }
-        Project* home = app().library().projects().front();
+        Project* home = library().projects().front();
         view.show();
         // The counts refresh while the user types, as they do each minute: the name typed is
         // what the project gets, and Escape leaves the name as it was.
@@ -211,7 +189,7 @@ private Q_SLOTS:
 
     void aSearchResultLeadsToItsList()
     {
-        MainView view(app().services());
+        MainView view(services());
         auto* search = view.findChild<QLineEdit*>(QStringLiteral("searchField"));
         // The view opens on the sidebar, not with a cursor in the search field.
         view.show();
@@ -247,7 +225,7 @@ private Q_SLOTS:
     void theStartedOnlyFilter()
     {
         app().addItem(QStringLiteral("Call the vet"), at(2026, 11, 25, 17, 0))->setHasStarted(true);
-        MainView view(app().services());
+        MainView view(services());
         view.show();
         auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
         QVERIFY(list);
@@ -265,7 +243,6 @@ private Q_SLOTS:
         auto* anytime = qobject_cast<ItemListView*>(view.switcher().currentWidget());
         QMenu* exportMenu = anytime->findChild<QToolButton*>(QStringLiteral("export"))->menu();
         QCOMPARE(exportMenu->actions().size(), 3);
-        Dialogs::forgetAsked();
         Dialogs::answerNext(QStringLiteral("Ok"));
         exportMenu->actions().at(1)->trigger();
         QCOMPARE(Dialogs::asked().size(), 1);
@@ -276,7 +253,7 @@ private Q_SLOTS:
     // The dashboard counts what the store holds and follows a change at once.
     void theDashboardFollowsTheItems()
     {
-        MainView view(app().services());
+        MainView view(services());
         view.resize(900, 600);
         view.show();
         view.showSegment(Segment::Dashboard);
@@ -288,7 +265,7 @@ private Q_SLOTS:
         QCOMPARE(dashboard->circle(1)->progress(), 0.5);
         QCOMPARE(dashboard->projects()->topLevelItemCount(), 1);
         QCOMPARE(dashboard->projects()->topLevelItem(0)->text(0), QStringLiteral("Not in Project"));
-        app().library().announceItemChanged(
+        library().announceItemChanged(
             app().addItem(QStringLiteral("Plan the party"), at(2026, 12, 20, 18, 0)));
         QCOMPARE(dashboard->chart()->bars().at(11).value, 1.0);
         QCOMPARE(dashboard->projects()->topLevelItem(0)->text(1), QStringLiteral("2"));
@@ -299,7 +276,7 @@ private Q_SLOTS:
     // waiting and goes back to the project's list with the new task selected.
     void theAddTaskPanel()
     {
-        const Services& s = app().services();
+        const Services& s = services();
         Project* home = s.projectActions.addProject(QStringLiteral("Home")).project;
         Item* started = app().addItem(QStringLiteral("Paint the door"), at(2026, 11, 25, 9, 0));
         started->setToProject(home);
@@ -351,18 +328,18 @@ private Q_SLOTS:
     // its size, and a long name gives way with its whole text in the tooltip.
     void theHeaderFitsAtTheDefaultSize()
     {
-        ProjectActions& projects = app().services().projectActions;
+        ProjectActions& projects = services().projectActions;
         Project* club =
             projects.addProject(QStringLiteral("Book club reading list for winter")).project;
         QVERIFY(club);
         Item* first = app().addItem(QStringLiteral("Choose books"), at(2026, 11, 25, 13, 0));
         Item* second = app().addItem(QStringLiteral("Send invites"), at(2026, 11, 25, 14, 0));
-        app().services().itemActions.moveToProject(*first, club);
-        app().services().itemActions.moveToProject(*second, club);
-        app().services().itemActions.finish(*first);
-        m_app->settings.setWelcomeDone();
+        services().itemActions.moveToProject(*first, club);
+        services().itemActions.moveToProject(*second, club);
+        services().itemActions.finish(*first);
+        app().settings.setWelcomeDone();
         MainWindow window;
-        auto* content = new WindowContent(app().services());
+        auto* content = new WindowContent(services());
         window.setCentralWidget(content);
         window.resize(600, 600);
         window.show();
@@ -405,15 +382,15 @@ private Q_SLOTS:
         Item* done = app().addItem(QStringLiteral("Tea"), at(2026, 11, 25, 11, 0));
         done->setElapsedTime(29);
         done->setHasFinished(true);
-        MainView view(app().services());
+        MainView view(services());
         view.resize(900, 600);
         view.show();
-        RunningListView panel(app().services());
-        for (Item* item : app().library().items()) {
+        RunningListView panel(services());
+        for (Item* item : library().items()) {
             if (item->title() == QStringLiteral("Walk the dog"))
-                app().services().itemActions.start(*item);
+                services().itemActions.start(*item);
         }
-        m_app->runUntil(at(2026, 11, 25, 12, 0, 19));
+        app().runUntil(at(2026, 11, 25, 12, 0, 19));
         QCoreApplication::processEvents();
         auto* clock = view.findChild<ElidedLabel*>(QStringLiteral("runningClock"));
         QVERIFY(clock && clock->isVisible());
@@ -426,7 +403,7 @@ private Q_SLOTS:
     // Escape clears the search; the add button opens the quick-add bar, Escape closes it.
     void waysInAndOut()
     {
-        MainView view(app().services());
+        MainView view(services());
         view.show();
         auto* search = view.findChild<QLineEdit*>(QStringLiteral("searchField"));
         search->setFocus();

@@ -1,37 +1,29 @@
-#include "core/dates/CalendarContext.h"
-#include "core/library/Library.h"
 #include "core/scheduling/Catalogue.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
+#include "support/DesktopTest.h"
 #include "support/Shots.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 #include "ui/authoring/RuleFormView.h"
 #include "ui/main/RepeatListModel.h"
 #include "ui/main/RepeatListView.h"
 #include "ui/widgets/Balloon.h"
-#include "ui/widgets/Dialogs.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTableView>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
 // The "Lullets" segment on screen: switching suggestions on, the form, deleting.
-class TestRepeatList : public QObject {
+class TestRepeatList : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+public:
+    TestRepeatList()
+        : DesktopTest({2026, 11, 23, 8, 0})
+    {
+    }
 
-    Launched& app() { return *m_app; }
-
+private:
     static int rowTitled(RepeatListModel& model, const QString& title)
     {
         for (int row = 0; row < model.rowCount(); ++row) {
@@ -42,25 +34,9 @@ class TestRepeatList : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase() { lullet::test::useTestCalendar(); }
-
-    void init()
-    {
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 8, 0));
-        QVERIFY(app().open());
-        Dialogs::forgetAsked();
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     void aSuggestionIsSwitchedOnFromItsRow()
     {
-        RepeatListView view(app().services());
+        RepeatListView view(services());
         view.resize(760, 600);
         view.show();
         RepeatListModel& model = view.model();
@@ -76,18 +52,18 @@ private Q_SLOTS:
         QCOMPARE(model.index(row, 0).data(Qt::CheckStateRole).value<Qt::CheckState>(), Qt::Checked);
         Rule* rule = model.rowAt(row)->representedObject;
         QVERIFY(rule && *rule->isActive());
-        QCOMPARE(app().library().items().size(), std::size_t(1));
+        QCOMPARE(library().items().size(), std::size_t(1));
         QVERIFY(!model.index(row, RepeatListModel::NextColumn).data().toString().isEmpty());
         saveShot(&view, QStringLiteral("repeat-list"));
 
         QVERIFY(model.setData(model.index(row, 0), Qt::Unchecked, Qt::CheckStateRole));
         QVERIFY(!*rule->isActive());
-        QVERIFY(app().library().items().empty());
+        QVERIFY(library().items().empty());
     }
 
     void theFormMakesAndEditsARule()
     {
-        RepeatListView view(app().services());
+        RepeatListView view(services());
         view.show();
         RuleFormView* form = view.openForm(nullptr);
         saveShot(form, QStringLiteral("rule-form"));
@@ -117,12 +93,12 @@ private Q_SLOTS:
         edit->setFields(fields);
         QCOMPARE(edit->submit(), RuleForm::Outcome::Saved);
         QCOMPARE(*rule->notes(), QStringLiteral("stretch the legs"));
-        QCOMPARE(app().library().rules().size(), std::size_t(1));
+        QCOMPARE(library().rules().size(), std::size_t(1));
     }
 
     void onlyCustomRulesCanBeDeleted()
     {
-        RepeatListView view(app().services());
+        RepeatListView view(services());
         RepeatListModel& model = view.model();
         std::unique_ptr<QMenu> suggestion(
             view.buildMenu(model.rowAt(rowTitled(model, QStringLiteral("Water time")))));
@@ -139,12 +115,12 @@ private Q_SLOTS:
         // "No" keeps it; "Yes" deletes it, and the "Custom breaks" heading goes with it.
         Dialogs::answerNext(QStringLiteral("No"));
         custom->actions().at(1)->trigger();
-        QCOMPARE(app().library().rules().size(), std::size_t(1));
+        QCOMPARE(library().rules().size(), std::size_t(1));
         QCOMPARE(Dialogs::asked().back().text, QStringLiteral("Are you sure to delete ?"));
         Dialogs::answerNext(QStringLiteral("Yes"));
         custom->actions().at(1)->trigger();
         QCoreApplication::processEvents();
-        QVERIFY(app().library().rules().empty());
+        QVERIFY(library().rules().empty());
         QCOMPARE(rowTitled(model, QStringLiteral("Mine")), -1);
         QVERIFY(model.rowAt(model.rowCount() - 1)->title != Catalogue::customHeaderTitle());
     }

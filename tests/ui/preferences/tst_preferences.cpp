@@ -1,42 +1,34 @@
-#include "core/activity/RunningItem.h"
 #include "core/backup/Backups.h"
 #include "core/scheduling/ScheduleTableModel.h"
 #include "core/scheduling/WorkingHours.h"
-#include "core/settings/SettingsKeys.h"
-#include "support/LaunchedDesktop.h"
+#include "support/DesktopTest.h"
 #include "support/Shots.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 #include "ui/preferences/BackupCommands.h"
 #include "ui/preferences/BackupTab.h"
 #include "ui/preferences/PreferencesWindow.h"
 #include "ui/preferences/ScheduleTab.h"
-#include "ui/widgets/Dialogs.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <QTreeWidget>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
 // The preferences tabs over a launched core on a fake clock.
-class TestPreferences : public QObject {
+class TestPreferences : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<LaunchedDesktop> m_app;
+public:
+    TestPreferences()
+        : DesktopTest({2026, 11, 23, 10, 0})
+    {
+    }
 
-    const Services& services() { return m_app->services(); }
-
+private:
     void makeLaunchBackup()
     {
         QSignalSpy created(&services().backups, &Backups::backupCreated);
@@ -45,34 +37,19 @@ class TestPreferences : public QObject {
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
-        QVERIFY(m_app->open());
-        Dialogs::forgetAsked();
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     // The period takes effect at once; a stored period none of the choices names stays stored.
     void thePromptPeriod()
     {
-        m_app->settings.setValue(SettingsKeys::promptDuration, 3);
+        app().settings.setValue(SettingsKeys::promptDuration, 3);
         BackupCommands commands(services(), nullptr, [](const QString&) {});
-        PreferencesWindow window(services(), commands, m_app->presence);
+        PreferencesWindow window(services(), commands, app().presence);
         auto* period = window.findChild<QComboBox*>(QStringLiteral("promptDuration"));
         QCOMPARE(period->currentText(), QStringLiteral("1 min"));
-        QCOMPARE(m_app->settings.integer(SettingsKeys::promptDuration), 3);
+        QCOMPARE(app().settings.integer(SettingsKeys::promptDuration), 3);
         const int thirty = period->findText(QStringLiteral("30 mins"));
         period->setCurrentIndex(thirty);
         Q_EMIT period->activated(thirty);
-        QCOMPARE(m_app->settings.integer(SettingsKeys::promptDuration), 30);
+        QCOMPARE(app().settings.integer(SettingsKeys::promptDuration), 30);
         QCOMPARE(services().running.promptPeriod(), 30);
         QCOMPARE(window.height(), 319);
     }
@@ -82,16 +59,16 @@ private Q_SLOTS:
     void theDesktopChoices()
     {
         BackupCommands commands(services(), nullptr, [](const QString&) {});
-        PreferencesWindow window(services(), commands, m_app->presence);
+        PreferencesWindow window(services(), commands, app().presence);
         auto box = [&](const char* name) {
             return window.findChild<QCheckBox*>(QLatin1String(name));
         };
         box("openAtLogIn")->click();
-        QVERIFY(m_app->autostart.isOn());
-        QCOMPARE(m_app->settings.integer(SettingsKeys::openAtLogIn), 1);
+        QVERIFY(app().autostart.isOn());
+        QCOMPARE(app().settings.integer(SettingsKeys::openAtLogIn), 1);
 
         QVERIFY(box("UDStatusBarIcon")->isChecked());
-        QSignalSpy quit(&m_app->presence, &DesktopPresence::quitRequested);
+        QSignalSpy quit(&app().presence, &DesktopPresence::quitRequested);
         Dialogs::answerNext(QStringLiteral("Later"));
         box("UDDockIcon")->click();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("You must now restart app"));
@@ -102,7 +79,7 @@ private Q_SLOTS:
         box("UDDockIcon")->click();
         QVERIFY(box("UDStatusBarIcon")->isEnabled());
         box("UDStatusBarIcon")->click();
-        QVERIFY(!m_app->presence.trayIconShown());
+        QVERIFY(!app().presence.trayIconShown());
         // Leaving the taskbar again brings the icon back, and "Relaunch Now" ends this one.
         Dialogs::answerNext(QStringLiteral("Relaunch Now"));
         box("UDDockIcon")->click();
@@ -116,7 +93,7 @@ private Q_SLOTS:
     void everyTabHasItsButtonAndHeight()
     {
         BackupCommands commands(services(), nullptr, [](const QString&) {});
-        PreferencesWindow window(services(), commands, m_app->presence);
+        PreferencesWindow window(services(), commands, app().presence);
         const std::pair<PreferencesWindow::Tab, int> heights[] = {
             {PreferencesWindow::Tab::Security, 400}, {PreferencesWindow::Tab::Backup, 457},
             {PreferencesWindow::Tab::Schedule, 457}, {PreferencesWindow::Tab::MoreInfo, 457},
@@ -150,7 +127,7 @@ private Q_SLOTS:
     void theBackupList()
     {
         makeLaunchBackup();
-        m_app->clock.advance(60);
+        clock().advance(60);
         makeLaunchBackup();
         QStringList revealed;
         BackupCommands commands(services(), nullptr,
@@ -180,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(list->topLevelItem(0)->text(0), QStringLiteral("Restored Backup"));
 
         // A copy saved elsewhere replaces what stands there.
-        const QString copy = QDir(m_dir->path()).filePath(QStringLiteral("copy.sqlite"));
+        const QString copy = path(QStringLiteral("copy.sqlite"));
         QFile old(copy);
         QVERIFY(old.open(QIODevice::WriteOnly));
         old.write("old");
@@ -205,7 +182,7 @@ private Q_SLOTS:
         tab.findChild<QPushButton*>(QStringLiteral("deleteAll"))->click();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("All backups will be deleted."));
         QCOMPARE(list->topLevelItemCount(), 0);
-        QVERIFY(!m_app->settings.contains(SettingsKeys::backupFiles2));
+        QVERIFY(!app().settings.contains(SettingsKeys::backupFiles2));
         for (const BackupInfo& info : remaining)
             QVERIFY(!QFile::exists(info.path));
     }

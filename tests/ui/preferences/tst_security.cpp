@@ -1,31 +1,21 @@
 #include "core/security/Lock.h"
 #include "core/security/Protection.h"
-#include "core/settings/SettingsKeys.h"
-#include "support/LaunchedDesktop.h"
+#include "support/DesktopTest.h"
 #include "support/Shots.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/ItemListView.h"
 #include "ui/preferences/PreferencesWindow.h"
 #include "ui/preferences/SecurityTab.h"
 #include "ui/shell/LoginPage.h"
-#include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
-#include "ui/shell/Shell.h"
 #include "ui/shell/WindowContent.h"
-#include "ui/widgets/Dialogs.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -49,20 +39,24 @@ bool seen(QWidget* widget)
 } // namespace
 
 // The password settings and the login page, over a fake keyring.
-class TestSecurity : public QObject {
+class TestSecurity : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<LaunchedDesktop> m_app;
+public:
+    TestSecurity()
+        : DesktopTest({2026, 11, 23, 10, 0}, Open::No)
+    {
+    }
 
-    Protection& protection() { return m_app->services().protection; }
+private:
+    Protection& protection() { return services().protection; }
     bool protectionOn() { return protection().isOn(); }
 
     void launch(bool protectedWith, std::optional<QString> secret)
     {
-        m_app->settings.setDictionary(SettingsKeys::passwordValues,
-                                      {{QString(SettingsKeys::isPassword), protectedWith}});
-        m_app->secrets.secret = std::move(secret);
-        QVERIFY(m_app->open());
+        app().settings.setDictionary(SettingsKeys::passwordValues,
+                                     {{QString(SettingsKeys::isPassword), protectedWith}});
+        app().secrets.secret = std::move(secret);
+        QVERIFY(app().open());
     }
 
     void type(QWidget* tab, const char* field, const QString& text)
@@ -71,20 +65,6 @@ class TestSecurity : public QObject {
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
-        Dialogs::forgetAsked();
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     // Off, setting, set, and off again, with the messages in their order.
     void settingAPassword()
     {
@@ -120,12 +100,12 @@ private Q_SLOTS:
         QTRY_COMPARE(message->text(), QStringLiteral("Password protection is set!"));
         QVERIFY(message->styleSheet().contains(QLatin1String("06A0EB")));
         saveShot(&tab, QStringLiteral("security-set"));
-        QCOMPARE(m_app->secrets.secret, std::optional(QStringLiteral("Kestrel9")));
+        QCOMPARE(app().secrets.secret, std::optional(QStringLiteral("Kestrel9")));
         QCOMPARE(done->text(), QStringLiteral("Change"));
         QVERIFY(!child<QLineEdit>(&tab, "newPassword")->isEnabled());
         QVERIFY(protectionOn());
-        m_app->settings.sync();
-        QFile file(m_app->settings.filePath());
+        app().settings.sync();
+        QFile file(app().settings.filePath());
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(!file.readAll().contains("Kestrel9"));
 
@@ -134,11 +114,11 @@ private Q_SLOTS:
         QCOMPARE(done->text(), QStringLiteral("Done"));
         QVERIFY(child<QLineEdit>(&tab, "newPassword")->isEnabled());
         press(QStringLiteral("Falcon77"), QStringLiteral("Falcon77"));
-        QTRY_COMPARE(m_app->secrets.secret, std::optional(QStringLiteral("Falcon77")));
+        QTRY_COMPARE(app().secrets.secret, std::optional(QStringLiteral("Falcon77")));
 
         box->click();
         QVERIFY(!protectionOn());
-        QTRY_VERIFY(!m_app->secrets.secret);
+        QTRY_VERIFY(!app().secrets.secret);
         QVERIFY(!seen(done));
     }
 
@@ -147,7 +127,7 @@ private Q_SLOTS:
     void changingAStoredPassword()
     {
         launch(true, QStringLiteral("Kestrel9"));
-        m_app->secrets.holding = true;
+        app().secrets.holding = true;
         SecurityTab tab(protection());
         tab.show();
         auto* box = child<QCheckBox>(&tab, "protection");
@@ -155,7 +135,7 @@ private Q_SLOTS:
         QVERIFY(seen(status));
         QVERIFY(!box->isEnabled());
         QVERIFY(!seen(child<QLineEdit>(&tab, "currentPassword")));
-        m_app->secrets.release();
+        app().secrets.release();
         QTRY_VERIFY(seen(child<QLineEdit>(&tab, "currentPassword")));
         QVERIFY(box->isChecked());
         QVERIFY(!box->isEnabled());
@@ -173,7 +153,7 @@ private Q_SLOTS:
         QCOMPARE(child<QPushButton>(&tab, "done")->text(), QStringLiteral("Change"));
         QVERIFY(box->isEnabled());
 
-        m_app->secrets.unavailable = true;
+        app().secrets.unavailable = true;
         SecurityTab unreachable(protection());
         QTRY_VERIFY(child<QPushButton>(&unreachable, "retry")->isVisibleTo(&unreachable));
         QVERIFY(child<QLabel>(&unreachable, "keyringStatus")->text().contains(u"keyring"));
@@ -193,7 +173,7 @@ private Q_SLOTS:
         QVERIFY(!protectionOn());
 
         box->click();
-        m_app->secrets.refuseWrites = true;
+        app().secrets.refuseWrites = true;
         type(&tab, "newPassword", QStringLiteral("Kestrel9"));
         type(&tab, "repeatPassword", QStringLiteral("Kestrel9"));
         child<QPushButton>(&tab, "done")->click();
@@ -209,9 +189,9 @@ private Q_SLOTS:
     void theLockHidesTheData()
     {
         launch(true, QStringLiteral("Kestrel9"));
-        m_app->addItem(QStringLiteral("Secret plan"), at(2026, 11, 23, 11));
+        app().addItem(QStringLiteral("Secret plan"), at(2026, 11, 23, 11));
         MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
+        Shell shell(services(), window, app().presence, app().notifier);
         shell.showTray();
         shell.setLoaded();
         shell.bringMainWindowForward();
@@ -220,7 +200,7 @@ private Q_SLOTS:
         QCOMPARE(window.findChildren<ItemListView*>().size(), 0);
         saveShot(&window, QStringLiteral("login-page"));
 
-        RunningListView trayList(m_app->services());
+        RunningListView trayList(services());
         QVERIFY(!trayList.findChild<ItemListView*>());
         QVERIFY(trayList.findChild<QLabel*>(QStringLiteral("runningNow"))
                     ->text()
@@ -282,15 +262,15 @@ private Q_SLOTS:
         QCOMPARE(field->text(), QStringLiteral("Kestrel9 "));
         saveShot(&page, QStringLiteral("login-wrong"));
 
-        m_app->secrets.unavailable = true;
+        app().secrets.unavailable = true;
         submit(QStringLiteral("Kestrel9"));
         auto* unreachable = child<QWidget>(&page, "keyringUnreachable");
         QTRY_VERIFY(seen(unreachable));
-        QVERIFY(m_app->services().lock.isLocked());
+        QVERIFY(services().lock.isLocked());
         saveShot(&page, QStringLiteral("login-unreachable"));
-        m_app->secrets.unavailable = false;
+        app().secrets.unavailable = false;
         child<QPushButton>(unreachable, "retry")->click();
-        QTRY_VERIFY(!m_app->services().lock.isLocked());
+        QTRY_VERIFY(!services().lock.isLocked());
     }
 };
 

@@ -1,63 +1,39 @@
 #include "core/activity/ItemActions.h"
-#include "core/activity/ProjectActions.h"
 #include "core/backup/Backups.h"
-#include "core/dates/CalendarContext.h"
-#include "core/settings/SettingsKeys.h"
-#include "support/LaunchedDesktop.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/DesktopTest.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/MainView.h"
 #include "ui/main/SidebarView.h"
 #include "ui/preferences/BackupCommands.h"
-#include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
-#include "ui/shell/Shell.h"
-#include "ui/shell/Tray.h"
 #include "ui/shell/WindowContent.h"
-#include "ui/widgets/Dialogs.h"
-#include "ui/widgets/Popover.h"
 
-#include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
-class TestShell : public QObject {
+class TestShell : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<LaunchedDesktop> m_app;
+public:
+    TestShell()
+        : DesktopTest({2026, 11, 23, 10, 0})
+    {
+    }
 
 private Q_SLOTS:
-    void init()
-    {
-        lullet::test::useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     // The icon comes before the store is read: its panel says so, and the window asked for
     // meanwhile opens, with its content, once the store is read.
     void theTrayComesBeforeTheStore()
     {
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
+        relaunch(at(2026, 11, 23, 10, 0), Open::No);
+        ShellWindows ui(app(), false);
+        MainWindow& window = ui.window;
+        Shell& shell = ui.shell;
         shell.showTray();
         Q_EMIT shell.tray().clicked();
         QVERIFY(shell.tray().popover());
@@ -68,7 +44,7 @@ private Q_SLOTS:
         QVERIFY(!window.isVisible());
         QVERIFY(!shell.content());
 
-        QVERIFY(m_app->open());
+        QVERIFY(app().open());
         shell.setLoaded();
         QVERIFY(window.isVisible());
         QVERIFY(shell.content());
@@ -82,47 +58,38 @@ private Q_SLOTS:
 
     void welcomeSizeIsFixed()
     {
-        QVERIFY(m_app->open(false));
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.prepareMainWindow(false);
-        QCOMPARE(window.maximumSize(), QSize(800, 600));
-        QCOMPARE(window.size(), QSize(800, 600));
-        QVERIFY(!(window.windowFlags() & Qt::WindowMinimizeButtonHint));
+        app().settings.setValue(SettingsKeys::isShowFirst, 0);
+        ShellWindows ui(app());
+        ui.shell.prepareMainWindow(false);
+        QCOMPARE(ui.window.maximumSize(), QSize(800, 600));
+        QCOMPARE(ui.window.size(), QSize(800, 600));
+        QVERIFY(!(ui.window.windowFlags() & Qt::WindowMinimizeButtonHint));
     }
 
     void workingSizeUnlessLocked()
     {
-        QVERIFY(m_app->open());
-        MainWindow window;
-        window.resize(700, 600);
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.prepareMainWindow(true);
-        QCOMPARE(window.minimumSize(), QSize(600, 600));
-        QCOMPARE(window.size(), QSize(700, 600));
-        shell.prepareMainWindow(false);
-        QCOMPARE(window.size(), QSize(600, 600));
-        QVERIFY(window.maximumWidth() >= 600);
+        ShellWindows ui(app());
+        ui.window.resize(700, 600);
+        ui.shell.prepareMainWindow(true);
+        QCOMPARE(ui.window.minimumSize(), QSize(600, 600));
+        QCOMPARE(ui.window.size(), QSize(700, 600));
+        ui.shell.prepareMainWindow(false);
+        QCOMPARE(ui.window.size(), QSize(600, 600));
+        QVERIFY(ui.window.maximumWidth() >= 600);
     }
 
     void aSecondLaunchBringsBackAMinimisedWindow()
     {
-        QVERIFY(m_app->open());
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        window.showMinimized();
-        QVERIFY(window.isMinimized());
-        shell.bringMainWindowForward();
-        QVERIFY(!window.isMinimized());
-        QVERIFY(window.isVisible());
+        ShellWindows ui(app());
+        ui.window.showMinimized();
+        QVERIFY(ui.window.isMinimized());
+        ui.shell.bringMainWindowForward();
+        QVERIFY(!ui.window.isMinimized());
+        QVERIFY(ui.window.isVisible());
     }
 
     void questionsAreAnsweredInAdvanceByTheirButtons()
     {
-        Dialogs::forgetAsked();
         Dialogs::answerNext(QStringLiteral("Quit anyway"));
         Dialogs::answerNext(QStringLiteral("Cancel"));
         QVERIFY(Dialogs::confirm(nullptr, QStringLiteral("Could not save"), QStringLiteral("Info"),
@@ -136,10 +103,9 @@ private Q_SLOTS:
 
     void theTrayMenuCanQuitAndOpen()
     {
-        QVERIFY(m_app->open());
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
+        ShellWindows ui(app());
+        MainWindow& window = ui.window;
+        Shell& shell = ui.shell;
         shell.showTray();
         bool quit = false;
         connect(&shell, &Shell::quitRequested, this, [&] { quit = true; });
@@ -166,34 +132,26 @@ private Q_SLOTS:
     // The window comes back where the user left it, and at its size.
     void theWindowKeepsItsPlace()
     {
-        QVERIFY(m_app->open());
         {
-            MainWindow window;
-            Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-            shell.setLoaded();
-            shell.bringMainWindowForward();
-            window.setGeometry(QRect(120, 90, 700, 640));
-            window.close();
+            ShellWindows ui(app());
+            ui.shell.bringMainWindowForward();
+            ui.window.setGeometry(QRect(120, 90, 700, 640));
+            ui.window.close();
         }
-        QVERIFY(!m_app->settings.value(SettingsKeys::mainWindowGeometry).toByteArray().isEmpty());
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.bringMainWindowForward();
-        QCOMPARE(window.size(), QSize(700, 640));
-        QCOMPARE(window.geometry().topLeft(), QPoint(120, 90));
+        QVERIFY(!app().settings.value(SettingsKeys::mainWindowGeometry).toByteArray().isEmpty());
+        ShellWindows ui(app());
+        ui.shell.bringMainWindowForward();
+        QCOMPARE(ui.window.size(), QSize(700, 640));
+        QCOMPARE(ui.window.geometry().topLeft(), QPoint(120, 90));
     }
 
     // Quick add from the window's menu and the tray's menu, with the platform's "new" key.
     void quickAddFromTheMenus()
     {
-        QVERIFY(m_app->open());
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.showTray();
+        ShellWindows ui(app());
+        ui.shell.showTray();
         int withShortcut = 0;
-        for (QMenu* menu : window.findChildren<QMenu*>()) {
+        for (QMenu* menu : ui.window.findChildren<QMenu*>()) {
             for (QAction* action : menu->actions()) {
                 if (action->text().remove(u'&') == QStringLiteral("Quick Add") &&
                     action->shortcut() == QKeySequence(QKeySequence::New))
@@ -201,7 +159,7 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(withShortcut, 2);
-        Q_EMIT window.quickAddRequested();
+        Q_EMIT ui.window.quickAddRequested();
         QuickAddView* quick = nullptr;
         for (QWidget* w : QApplication::topLevelWidgets()) {
             if (w->isVisible() && qobject_cast<QuickAddView*>(w))
@@ -216,41 +174,38 @@ private Q_SLOTS:
     // the project shown before, by name; a refused file is said and changes nothing.
     void backUpAndRestoreFromTheMenu()
     {
-        QVERIFY(m_app->open());
-        Project* home = m_app->services().projectActions.addProject(QStringLiteral("Home")).project;
-        Item* walk = m_app->addItem(QStringLiteral("Walk"), at(2026, 11, 23, 12, 0));
-        m_app->services().itemActions.moveToProject(*walk, home);
-        QVERIFY(m_app->library().save());
-        MainWindow window;
-        const QString copy = QDir(m_dir->path()).filePath(QStringLiteral("mine.sqlite"));
+        Project* home = app().addProject(QStringLiteral("Home"));
+        Item* walk = app().addItem(QStringLiteral("Walk"), at(2026, 11, 23, 12, 0));
+        services().itemActions.moveToProject(*walk, home);
+        QVERIFY(library().save());
+        const QString copy = path(QStringLiteral("mine.sqlite"));
         {
             QStringList revealed;
-            BackupCommands commands(m_app->services(), &window,
-                                    [&](const QString& path) { revealed << path; });
-            Dialogs::forgetAsked();
+            BackupCommands commands(services(), nullptr,
+                                    [&](const QString& file) { revealed << file; });
             Dialogs::chooseFileNext(copy);
             commands.backUpNow();
             QTRY_COMPARE(revealed, QStringList{copy});
             QVERIFY(Dialogs::asked().front().information.endsWith(QStringLiteral(".sqlite")));
         }
 
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.bringMainWindowForward();
-        MainView* view = shell.content()->mainView();
+        // Made after the copy, so that the shell does not show it in the file manager.
+        ShellWindows ui(app());
+        ui.shell.bringMainWindowForward();
+        MainView* view = ui.shell.content()->mainView();
         view->showProjectNamed(QStringLiteral("Home"));
-        m_app->addItem(QStringLiteral("Read"), at(2026, 11, 23, 13, 0));
-        QVERIFY(m_app->library().save());
-        QSignalSpy restored(&m_app->services().backups, &Backups::restored);
+        app().addItem(QStringLiteral("Read"), at(2026, 11, 23, 13, 0));
+        QVERIFY(library().save());
+        QSignalSpy restored(&services().backups, &Backups::restored);
         Dialogs::chooseFileNext(copy);
-        Q_EMIT window.restoreRequested();
+        Q_EMIT ui.window.restoreRequested();
         QVERIFY(restored.wait(5000));
         QVERIFY(view->shownProject() && view->shownProject()->hasContext());
         QCOMPARE(*view->shownProject()->name(), QStringLiteral("Home"));
-        QCOMPARE(m_app->library().items().size(), std::size_t(1));
+        QCOMPARE(library().items().size(), std::size_t(1));
 
         // A text file is refused, and the user is told why.
-        const QString text = QDir(m_dir->path()).filePath(QStringLiteral("notes.txt"));
+        const QString text = path(QStringLiteral("notes.txt"));
         QFile notes(text);
         QVERIFY(notes.open(QIODevice::WriteOnly));
         notes.write("not a store");
@@ -258,7 +213,7 @@ private Q_SLOTS:
         Dialogs::forgetAsked();
         Dialogs::answerNext(QStringLiteral("Ok"));
         Dialogs::chooseFileNext(text);
-        Q_EMIT window.restoreRequested();
+        Q_EMIT ui.window.restoreRequested();
         QCOMPARE(Dialogs::asked().size(), 2);
         QCOMPARE(Dialogs::asked().back().text,
                  QStringLiteral("This file can't be restored. Nothing was changed."));

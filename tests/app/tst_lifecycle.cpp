@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <csignal>
 #include <memory>
+#include <optional>
 #include <vector>
 
 // The real program, started and stopped as the desktop would.
@@ -34,6 +35,24 @@ class TestLifecycle : public lullet::test::FolderTest {
 
     QString storePath() const { return path(QStringLiteral(".local/share/Lullet/Lullet.sqlite")); }
 
+    std::unique_ptr<QProcess> launch(const QStringList& arguments,
+                                     std::optional<QProcessEnvironment> env = std::nullopt) const
+    {
+        auto lullet = std::make_unique<QProcess>();
+        lullet->setProcessEnvironment(env.value_or(environment()));
+        lullet->start(QStringLiteral(LULLET_BINARY), arguments);
+        return lullet;
+    }
+
+    // Ends the program as the desktop does at logout: it must quit cleanly.
+    static void terminate(QProcess& lullet)
+    {
+        ::kill(pid_t(lullet.processId()), SIGTERM);
+        QVERIFY(lullet.waitForFinished(10000));
+        QCOMPARE(lullet.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(lullet.exitCode(), 0);
+    }
+
 private Q_SLOTS:
     void sigtermSavesAndExitsCleanly_data()
     {
@@ -45,16 +64,11 @@ private Q_SLOTS:
     void sigtermSavesAndExitsCleanly()
     {
         QFETCH(QStringList, arguments);
-        QProcess lullet;
-        lullet.setProcessEnvironment(environment());
-        lullet.start(QStringLiteral(LULLET_BINARY), arguments);
-        QVERIFY(lullet.waitForStarted());
+        const auto lullet = launch(arguments);
+        QVERIFY(lullet->waitForStarted());
         // Killed while it may still be starting: the request waits for the quit path.
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath()), 10000);
-        ::kill(pid_t(lullet.processId()), SIGTERM);
-        QVERIFY(lullet.waitForFinished(10000));
-        QCOMPARE(lullet.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(lullet.exitCode(), 0);
+        terminate(*lullet);
 
         lullet::Db db(storePath(), true);
         QVERIFY(db.isOpen());
@@ -64,29 +78,21 @@ private Q_SLOTS:
 
     void aSecondLaunchHandsOverAndEnds()
     {
-        QProcess first;
-        first.setProcessEnvironment(environment());
-        first.start(QStringLiteral(LULLET_BINARY), {});
-        QVERIFY(first.waitForStarted());
+        const auto first = launch({});
+        QVERIFY(first->waitForStarted());
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(QStringLiteral("runtime/lullet.socket"))),
                                  10000);
         for (const QStringList& args :
              {QStringList{}, QStringList{QStringLiteral("--quick-add")}}) {
-            QProcess second;
-            second.setProcessEnvironment(environment());
-            second.start(QStringLiteral(LULLET_BINARY), args);
-            QVERIFY(second.waitForFinished(10000));
-            QCOMPARE(second.exitCode(), 0);
+            const auto second = launch(args);
+            QVERIFY(second->waitForFinished(10000));
+            QCOMPARE(second->exitCode(), 0);
         }
-        QProcess wrong;
-        wrong.setProcessEnvironment(environment());
-        wrong.start(QStringLiteral(LULLET_BINARY), {QStringLiteral("--verbose")});
-        QVERIFY(wrong.waitForFinished(10000));
-        QCOMPARE(wrong.exitCode(), 2);
-        QCOMPARE(first.state(), QProcess::Running);
-        ::kill(pid_t(first.processId()), SIGTERM);
-        QVERIFY(first.waitForFinished(10000));
-        QCOMPARE(first.exitCode(), 0);
+        const auto wrong = launch({QStringLiteral("--verbose")});
+        QVERIFY(wrong->waitForFinished(10000));
+        QCOMPARE(wrong->exitCode(), 2);
+        QCOMPARE(first->state(), QProcess::Running);
+        terminate(*first);
     }
 
     // Five launches at the same moment, again and again: exactly one stays.
@@ -94,11 +100,8 @@ private Q_SLOTS:
     {
         for (int burst = 0; burst < 6; ++burst) {
             std::vector<std::unique_ptr<QProcess>> launches;
-            for (int i = 0; i < 5; ++i) {
-                launches.push_back(std::make_unique<QProcess>());
-                launches.back()->setProcessEnvironment(environment());
-                launches.back()->start(QStringLiteral(LULLET_BINARY), {});
-            }
+            for (int i = 0; i < 5; ++i)
+                launches.push_back(launch({}));
             const auto ended = [&launches] {
                 return std::count_if(launches.begin(), launches.end(), [](const auto& launch) {
                     return launch->state() == QProcess::NotRunning;
@@ -114,9 +117,7 @@ private Q_SLOTS:
                 else
                     QCOMPARE(launch->exitCode(), 0);
             }
-            ::kill(pid_t(survivor->processId()), SIGTERM);
-            QVERIFY(survivor->waitForFinished(10000));
-            QCOMPARE(survivor->exitCode(), 0);
+            terminate(*survivor);
         }
     }
 
@@ -125,13 +126,10 @@ private Q_SLOTS:
         QProcessEnvironment env = environment();
         // Without a runtime folder, the socket goes to a private folder of its own.
         env.remove(QStringLiteral("XDG_RUNTIME_DIR"));
-        QProcess lullet;
-        lullet.setProcessEnvironment(env);
-        lullet.start(QStringLiteral(LULLET_BINARY), {});
+        const auto lullet = launch({}, env);
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath()), 10000);
         QTest::qWait(300);
-        ::kill(pid_t(lullet.processId()), SIGTERM);
-        QVERIFY(lullet.waitForFinished(10000));
+        terminate(*lullet);
         const auto owner = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
         const QString data = QFileInfo(storePath()).path();
         QCOMPARE(QFileInfo(data).permissions() & 0x7077,
@@ -169,14 +167,12 @@ private Q_SLOTS:
         env.remove(QStringLiteral("DISPLAY"));
         env.remove(QStringLiteral("WAYLAND_DISPLAY"));
         env.remove(QStringLiteral("QT_QPA_PLATFORM"));
-        QProcess lullet;
-        lullet.setProcessEnvironment(env);
-        lullet.start(QStringLiteral(LULLET_BINARY), {option});
-        QVERIFY(lullet.waitForFinished(10000));
-        QCOMPARE(lullet.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(lullet.exitCode(), status);
-        const QByteArray printed = lullet.readAllStandardOutput();
-        const QByteArray complained = lullet.readAllStandardError();
+        const auto lullet = launch({option}, env);
+        QVERIFY(lullet->waitForFinished(10000));
+        QCOMPARE(lullet->exitStatus(), QProcess::NormalExit);
+        QCOMPARE(lullet->exitCode(), status);
+        const QByteArray printed = lullet->readAllStandardOutput();
+        const QByteArray complained = lullet->readAllStandardError();
         QVERIFY2(printed.contains(out), printed.constData());
         QVERIFY2(complained.contains(error), complained.constData());
         // Nothing was made in the home folder besides the test's runtime folder.
@@ -186,20 +182,14 @@ private Q_SLOTS:
 
     void aFileInPlaceOfTheDataFolderEndsAtOnce()
     {
-        const QString folder = path(QStringLiteral(".local/share/Lullet"));
-        QVERIFY(QDir().mkpath(QFileInfo(folder).path()));
-        QFile blocker(folder);
-        QVERIFY(blocker.open(QIODevice::WriteOnly));
-        blocker.close();
-
-        QProcess lullet;
-        lullet.setProcessEnvironment(environment());
-        lullet.start(QStringLiteral(LULLET_BINARY), {});
-        QVERIFY(lullet.waitForFinished(10000));
-        QCOMPARE(lullet.exitCode(), 1);
-        QVERIFY(QString::fromUtf8(lullet.readAllStandardError())
+        QVERIFY(QDir().mkpath(path(QStringLiteral(".local/share"))));
+        const QString blocker = writeFile(QStringLiteral(".local/share/Lullet"), {});
+        const auto lullet = launch({});
+        QVERIFY(lullet->waitForFinished(10000));
+        QCOMPARE(lullet->exitCode(), 1);
+        QVERIFY(QString::fromUtf8(lullet->readAllStandardError())
                     .contains(QStringLiteral("Expected a folder to store application data")));
-        QVERIFY(QFileInfo(folder).isFile());
+        QVERIFY(QFileInfo(blocker).isFile());
     }
 };
 

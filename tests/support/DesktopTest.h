@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Children.h"
 #include "support/LaunchedDesktop.h"
 #include "support/LaunchedTest.h"
 #include "support/ShellWindows.h"
@@ -10,12 +11,11 @@
 namespace lullet::test {
 
 // A launched test with the desktop side of the program: the tray, notifications and the
-// autostart entry. No question from an earlier test function is remembered or answered.
+// autostart entry, the shell and its windows, and the dialogs. No question from an earlier test
+// function is remembered or answered.
 class DesktopTest : public LaunchedTest {
     Q_OBJECT
 protected:
-    using LaunchedTest::LaunchedTest;
-
     LaunchedDesktop& app() const { return static_cast<LaunchedDesktop&>(LaunchedTest::app()); }
     std::unique_ptr<Launched> makeLaunch(const QString& folder, Date now) override;
 

@@ -2,6 +2,8 @@
 
 #include "support/CalendarTest.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -13,7 +15,22 @@ class FolderTest : public CalendarTest {
     Q_OBJECT
 protected:
     QString folder() const { return m_dir->path(); }
-    QString path(const QString& name) const { return m_dir->filePath(name); }
+    QString path(const QString& name) const { return QDir(m_dir->path()).filePath(name); }
+
+    // Writes a file of that name in the folder (or at that path), and gives its path.
+    QString writeFile(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("%s could not be written", qUtf8Printable(file.fileName()));
+        return file.fileName();
+    }
+
+    static QByteArray readFile(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
 
 protected Q_SLOTS:
     void init()

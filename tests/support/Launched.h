@@ -15,8 +15,18 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QStringList>
 
 namespace lullet::test {
+
+// The titles of items, in their order.
+inline QStringList titlesOf(const std::vector<Item*>& items)
+{
+    QStringList titles;
+    for (const Item* item : items)
+        titles << item->title().value_or(QString());
+    return titles;
+}
 
 // One launch of the program over a folder: the store and the settings file live in that folder,
 // the clock is fake, and the prompts the monitor asks for are recorded instead of shown.

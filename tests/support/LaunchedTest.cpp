@@ -18,7 +18,7 @@ std::unique_ptr<Launched> LaunchedTest::makeLaunch(const QString& folder, Date n
 void LaunchedTest::init()
 {
     FolderTest::init();
-    relaunch(m_launch.date(), m_open);
+    relaunch(launchedAt(), openedAs());
 }
 
 void LaunchedTest::cleanup()

@@ -8,18 +8,17 @@
 namespace lullet::test {
 
 // A test class whose every test function has a launch of its own, over a folder of its own, on
-// a fake clock that starts at the moment the class names.
+// a fake clock that starts at the moment the class names. Through the launch the test knows
+// every service of the core, the records and their codes, and the settings with their keys.
 class LaunchedTest : public FolderTest {
     Q_OBJECT
 public:
     enum class Open { No, BeforeWelcome, AfterWelcome };
 
 protected:
-    explicit LaunchedTest(WallTime launch, Open open = Open::AfterWelcome)
-        : m_launch(launch)
-        , m_open(open)
-    {
-    }
+    // Where each test function's launch starts its clock, and how far it opens the store.
+    virtual Date launchedAt() const = 0;
+    virtual Open openedAs() const { return Open::AfterWelcome; }
 
     // Ends this launch, and launches again over the same folder at `now`.
     void relaunch(Date now, Open open = Open::AfterWelcome);
@@ -37,8 +36,6 @@ protected Q_SLOTS:
     void cleanup();
 
 private:
-    WallTime m_launch;
-    Open m_open;
     std::unique_ptr<Launched> m_app;
 };
 

@@ -1,37 +1,18 @@
-#include "core/activity/ItemActions.h"
-#include "core/backup/Backups.h"
 #include "core/library/ItemOrder.h"
 #include "core/monitor/IdlePrompt.h"
 #include "core/monitor/ReminderPrompt.h"
 #include "core/monitor/TimeOverPrompt.h"
-#include "core/scheduling/WorkingHours.h"
-#include "core/security/Lock.h"
 #include "core/store/Db.h"
 #include "support/LaunchedTest.h"
-
-#include <QFile>
 
 using namespace lullet;
 using namespace lullet::test;
 
-namespace {
-
-QByteArray fileText(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-} // namespace
-
 // The start and the stop of the program, and the shared lists it keeps.
 class TestAppController : public LaunchedTest {
     Q_OBJECT
-public:
-    TestAppController()
-        : LaunchedTest({2026, 11, 23, 9}, Open::No)
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 9); }
+    Open openedAs() const override { return Open::No; }
 
 private Q_SLOTS:
     void launchRoundsTheIdleClockToTheNearestMinute_data()
@@ -66,12 +47,10 @@ private Q_SLOTS:
         QVERIFY(app().open(false));
         QCOMPARE(app().settings.promptDuration(), 15);
         QCOMPARE(app().running().promptPeriod(), 15);
-        QCOMPARE(app().settings.integer(SettingsKeys::remindMe), 2);
-        QVERIFY(app().settings.boolean(SettingsKeys::automaticBackup));
         QVERIFY(!app().settings.contains(SettingsKeys::promptDuration));
         QVERIFY(app().settings.contains(SettingsKeys::disableAutoPrompt));
         app().settings.sync();
-        const QByteArray written = fileText(path(QStringLiteral("Lullet.conf")));
+        const QByteArray written = readFile(path(QStringLiteral("Lullet.conf")));
         QVERIFY2(written.contains("disableAutoPrompt=0"), written.constData());
         for (const char* key : {"isShowFirst", "openAtLogIn", "isRating", "remindMe",
                                 "promptDuration", "automaticBackup", "backupOption"})
@@ -91,7 +70,7 @@ private Q_SLOTS:
                                {{QString(SettingsKeys::isPassword), true},
                                 {QString(SettingsKeys::password), QStringLiteral("hunter2")}});
         settings.sync();
-        QVERIFY(!fileText(settings.filePath()).contains("hunter2"));
+        QVERIFY(!readFile(settings.filePath()).contains("hunter2"));
         const QVariantMap read = settings.dictionary(SettingsKeys::passwordValues);
         QCOMPARE(read.value(SettingsKeys::isPassword).toBool(), true);
         QCOMPARE(read.value(SettingsKeys::password).toString(), QString());
@@ -99,19 +78,17 @@ private Q_SLOTS:
             SettingsKeys::passwordValues,
             QVariantMap{{QString(SettingsKeys::password), QStringLiteral("hunter3")}});
         settings.sync();
-        QVERIFY(!fileText(settings.filePath()).contains("hunter3"));
+        QVERIFY(!readFile(settings.filePath()).contains("hunter3"));
 
         // A password an earlier program wrote is gone as soon as the settings are read.
-        QFile file(path(QStringLiteral("old.conf")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("[General]\npasswordValues=\"{\\\"isPassword\\\":true,"
-                   "\\\"password\\\":\\\"hunter4\\\"}\"\n");
-        file.close();
+        const QString conf = writeFile(QStringLiteral("old.conf"),
+                                       "[General]\npasswordValues=\"{\\\"isPassword\\\":true,"
+                                       "\\\"password\\\":\\\"hunter4\\\"}\"\n");
         {
-            Settings old(file.fileName());
+            Settings old(conf);
             QVERIFY(old.passwordProtected());
         }
-        QVERIFY(!fileText(file.fileName()).contains("hunter4"));
+        QVERIFY(!readFile(conf).contains("hunter4"));
     }
 
     void aProtectedProgramStartsLockedAfterTheWelcome_data()
@@ -263,7 +240,7 @@ private Q_SLOTS:
 
     void aStoreThatCannotBeOpenedEndsTheLaunch()
     {
-        QVERIFY(QFile(path(QStringLiteral("data"))).open(QIODevice::WriteOnly));
+        writeFile(QStringLiteral("data"), {});
         QCOMPARE(app().core.open().outcome, Store::Outcome::FolderIsFile);
         QCOMPARE(app().core.prepareToQuit(), AppController::QuitReply::Now);
     }
@@ -290,13 +267,11 @@ private Q_SLOTS:
         noValue->setHasFinished(std::nullopt);
         library().save();
         library().loadItems();
-        QStringList order;
-        for (const Item* r : library().items())
-            order << *r->title();
-        QCOMPARE(order, (QStringList{QStringLiteral("no value"), QStringLiteral("soon"),
-                                     QStringLiteral("later"), QStringLiteral("postponed"),
-                                     QStringLiteral("anytime"), QStringLiteral("done late"),
-                                     QStringLiteral("done early")}));
+        QCOMPARE(titlesOf(library().items()),
+                 (QStringList{QStringLiteral("no value"), QStringLiteral("soon"),
+                              QStringLiteral("later"), QStringLiteral("postponed"),
+                              QStringLiteral("anytime"), QStringLiteral("done late"),
+                              QStringLiteral("done early")}));
         // The lists read the finished ones the other way round.
         std::vector<Item*> forList = library().items();
         ItemOrder::sortForList(forList);

@@ -1,5 +1,4 @@
 #include "core/backup/BackupList.h"
-#include "core/backup/Backups.h"
 #include "core/store/Db.h"
 #include "core/store/StoreSchema.h"
 #include "support/LaunchedTest.h"
@@ -38,13 +37,8 @@ QStringList titlesIn(const QString& storeFile)
 // Copies of the store and restores from them, over a real store in a temporary folder.
 class TestBackups : public LaunchedTest {
     Q_OBJECT
-public:
-    TestBackups()
-        : LaunchedTest({2026, 11, 23, 10, 15, 30})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 15, 30); }
 
-private:
     Backups& backups() { return services().backups; }
 
     void add(const QString& title)
@@ -55,18 +49,14 @@ private:
 
     QStringList titles()
     {
-        QStringList list;
-        for (const Item* item : library().items())
-            list << item->title().value_or(QString());
+        QStringList list = titlesOf(library().items());
         list.sort();
         return list;
     }
 
     BackupInfo listed(const QString& path, std::optional<Date> created)
     {
-        QFile f(path);
-        f.open(QIODevice::WriteOnly);
-        f.write("x");
+        writeFile(path, "x");
         return {path, created, QStringLiteral("1 byte"), QStringLiteral("Backup"), {}};
     }
 
@@ -216,18 +206,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("kind");
         QTest::addColumn<QString>("because");
-        QTest::newRow("text") << "text"
-                              << "not a database";
-        QTest::newRow("empty") << "empty"
-                               << "not a database";
-        QTest::newRow("truncated") << "truncated"
-                                   << "damaged";
-        QTest::newRow("foreign") << "foreign"
-                                 << "another program";
-        QTest::newRow("newer") << "newer"
-                               << "newer version";
-        QTest::newRow("no tables") << "tables"
-                                   << "lacks the tables";
+        QTest::newRow("text") << QStringLiteral("text") << QStringLiteral("not a database");
+        QTest::newRow("empty") << QStringLiteral("empty") << QStringLiteral("not a database");
+        QTest::newRow("truncated") << QStringLiteral("truncated") << QStringLiteral("damaged");
+        QTest::newRow("foreign") << QStringLiteral("foreign") << QStringLiteral("another program");
+        QTest::newRow("newer") << QStringLiteral("newer") << QStringLiteral("newer version");
+        QTest::newRow("no tables")
+            << QStringLiteral("tables") << QStringLiteral("lacks the tables");
     }
 
     void aRefusedFileChangesNothing()
@@ -237,10 +222,9 @@ private Q_SLOTS:
         add(QStringLiteral("Walk"));
         const QString chosen = path(QStringLiteral("chosen.sqlite"));
         if (kind == QStringLiteral("text") || kind == QStringLiteral("empty")) {
-            QFile f(chosen);
-            QVERIFY(f.open(QIODevice::WriteOnly));
-            if (kind == QStringLiteral("text"))
-                f.write("Dear diary, today I backed up nothing at all.\n");
+            writeFile(chosen, kind == QStringLiteral("text")
+                                  ? "Dear diary, today I backed up nothing at all.\n"
+                                  : QByteArray());
         } else if (kind == QStringLiteral("truncated")) {
             backUpTo(chosen);
             QFile f(chosen);

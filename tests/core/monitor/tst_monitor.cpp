@@ -1,7 +1,4 @@
 #include "core/monitor/IdlePrompt.h"
-#include "core/scheduling/Catalogue.h"
-#include "core/scheduling/WorkingSchedule.h"
-#include "core/security/Lock.h"
 #include "support/LaunchedTest.h"
 
 using namespace lullet;
@@ -10,13 +7,8 @@ using namespace lullet::test;
 // A working day on the fake clock: the monitor runs second by second, headless.
 class TestMonitor : public LaunchedTest {
     Q_OBJECT
-public:
-    TestMonitor()
-        : LaunchedTest({2026, 11, 23, 10, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
-private:
     PromptRecorder& host() { return app().prompts; }
 
     void runUntil(Date until) { app().runUntil(until); }

@@ -1,10 +1,8 @@
-#include "core/activity/ItemActions.h"
 #include "core/monitor/IdlePrompt.h"
 #include "core/monitor/ReminderPrompt.h"
 #include "core/monitor/TimeOverPrompt.h"
 #include "core/monitor/TodoPrompt.h"
 #include "core/presentation/ProjectChoices.h"
-#include "core/scheduling/Catalogue.h"
 #include "support/Heard.h"
 #include "support/LaunchedTest.h"
 
@@ -14,13 +12,8 @@ using namespace lullet::test;
 // What each prompt's answers do to the records, and what they announce.
 class TestPrompts : public LaunchedTest {
     Q_OBJECT
-public:
-    TestPrompts()
-        : LaunchedTest({2026, 11, 23, 10, 15, 20})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 15, 20); }
 
-private:
     std::unique_ptr<Heard> m_heard;
 
     Date now() const { return clock().now(); }

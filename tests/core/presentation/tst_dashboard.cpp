@@ -7,14 +7,9 @@ using namespace lullet::test;
 // The dashboard's counting: the circles with their quirks, the months, the project rows.
 class TestDashboard : public LaunchedTest {
     Q_OBJECT
-public:
     // Monday 23 November 2026, noon.
-    TestDashboard()
-        : LaunchedTest({2026, 11, 23, 12, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 12, 0); }
 
-private:
     DashboardSummary summary()
     {
         const Services& s = services();

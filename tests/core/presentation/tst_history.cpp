@@ -25,13 +25,8 @@ struct SidebarNumbers {
 // Each test function starts from a launch at now() over the store that makeStore() made.
 class TestHistory : public LaunchedTest {
     Q_OBJECT
-public:
-    TestHistory()
-        : LaunchedTest({2026, 10, 1, 12, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 10, 1, 12, 0); }
 
-private:
     static Date now() { return at(2026, 11, 25, 12, 0); }
 
     Sidebar sidebar()
@@ -56,14 +51,6 @@ private:
     }
 
     Project* project(const QString& name) { return library().projectNamed(name); }
-
-    static QStringList titles(const std::vector<Item*>& items)
-    {
-        QStringList list;
-        for (const Item* item : items)
-            list << item->title().value_or(QString());
-        return list;
-    }
 
     static QStringList rowTitles(const std::vector<ListRow>& rows)
     {
@@ -154,7 +141,7 @@ private Q_SLOTS:
         library().loadHistory();
         const QStringList completed =
             rowTitles(ListBuilder::customListing(Segment::Completed, library(), clock()));
-        const QStringList garden = titles(ListBuilder::itemsFor(
+        const QStringList garden = titlesOf(ListBuilder::itemsFor(
             {Segment::Project, project(QStringLiteral("Garden"))}, library(), now()));
         const int loose = Report::ofNoProject(library(), clock(), app().running()).stats.totalCount;
         QCOMPARE(garden.size(), 32);
@@ -164,10 +151,10 @@ private Q_SLOTS:
         QCOMPARE(rowTitles(ListBuilder::customListing(Segment::Completed, library(), clock())),
                  completed);
         relaunch(now());
-        QCOMPARE(titles(ListBuilder::itemsFor({Segment::Project, project(QStringLiteral("Garden"))},
-                                              library(), now())),
+        QCOMPARE(titlesOf(ListBuilder::itemsFor(
+                     {Segment::Project, project(QStringLiteral("Garden"))}, library(), now())),
                  garden);
-        QVERIFY(!titles(library().items()).contains(QStringLiteral("Loose 3")));
+        QVERIFY(!titlesOf(library().items()).contains(QStringLiteral("Loose 3")));
         relaunch(now());
         QCOMPARE(Report::ofNoProject(library(), clock(), app().running()).stats.totalCount, loose);
         relaunch(now());
@@ -196,8 +183,8 @@ private Q_SLOTS:
         QVERIFY(library().save());
         library().deleteItem(gone);
         library().loadHistory();
-        QCOMPARE(titles(library().items()).count(QStringLiteral("Recent done")), 1);
-        QVERIFY(!titles(library().items()).contains(QStringLiteral("Recent two")));
+        QCOMPARE(titlesOf(library().items()).count(QStringLiteral("Recent done")), 1);
+        QVERIFY(!titlesOf(library().items()).contains(QStringLiteral("Recent two")));
         QVERIFY(library().save());
 
         // A project deleted takes its history on disk along.
@@ -205,7 +192,7 @@ private Q_SLOTS:
         services().projectActions.deleteProject(*project(QStringLiteral("Kitchen")));
         QVERIFY(library().save());
         relaunch(now());
-        const QStringList all = titles(library().allItems());
+        const QStringList all = titlesOf(library().allItems());
         QVERIFY(!all.contains(QStringLiteral("Bake 2")));
         QVERIFY(!all.contains(QStringLiteral("Recent two")));
         QCOMPARE(all.size(), 54);
@@ -242,13 +229,13 @@ private Q_SLOTS:
                             "dtReminderPostponed) VALUES ('Far date', 1, 0, 1e300)"));
         }
         relaunch(now());
-        const QStringList held = titles(library().items());
+        const QStringList held = titlesOf(library().items());
         // One reads as unfinished, the other as finished in 1970 by its plain date: the store's
         // query takes neither for history, so both are read at the launch.
         QVERIFY(held.contains(QStringLiteral("Text flag")));
         QVERIFY(held.contains(QStringLiteral("Far date")));
         library().loadHistory();
-        QCOMPARE(titles(library().items()).count(QStringLiteral("Far date")), 1);
+        QCOMPARE(titlesOf(library().items()).count(QStringLiteral("Far date")), 1);
     }
 };
 

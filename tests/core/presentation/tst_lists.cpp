@@ -1,9 +1,7 @@
-#include "core/activity/ItemActions.h"
 #include "core/presentation/ListBuilder.h"
 #include "core/presentation/RowTexts.h"
 #include "core/presentation/RunningStatus.h"
 #include "core/presentation/TaskStats.h"
-#include "core/scheduling/Catalogue.h"
 #include "support/LaunchedTest.h"
 
 #include <tuple>
@@ -13,13 +11,8 @@ using namespace lullet::test;
 
 class TestLists : public LaunchedTest {
     Q_OBJECT
-public:
-    TestLists()
-        : LaunchedTest({2026, 11, 25, 12, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 25, 12, 0); }
 
-private:
     ItemActions& actions() { return services().itemActions; }
 
     Item* item(const QString& title, std::optional<Date> due, int remindBefore = 0)
@@ -32,17 +25,14 @@ private:
 
     QStringList titles(const ListBuilder::Scope& scope)
     {
-        QStringList list;
-        for (const Item* r : ListBuilder::itemsFor(scope, library(), clock().now()))
-            list << *r->title();
-        return list;
+        return titlesOf(ListBuilder::itemsFor(scope, library(), clock().now()));
     }
 
     QString timeText(Item* r) { return RowTexts::makeRow(r, clock(), true).time; }
     static QString timeOf(Date d) { return d.toString(DateStyle::None, DateStyle::Short); }
 
 private Q_SLOTS:
-    void todayHoldsTheOverdueAndWhatIsWithinItsWindow()
+    void todayHoldsTheOverdueAndWhatIsWithinItsWindowAndTellsWhen()
     {
         Item* yesterday = item(QStringLiteral("Overdue"), at(2026, 11, 24, 9, 0));
         Item* inThree = item(QStringLiteral("In three"), at(2026, 11, 28, 9, 0), 3);
@@ -64,10 +54,8 @@ private Q_SLOTS:
                  QStringLiteral("In 3 days at ") + timeOf(*inThree->dtReminder()));
         QCOMPARE(titles({Segment::Anytime, nullptr, false}),
                  QStringList{QStringLiteral("Anytime")});
-    }
 
-    void dueTodayTellsHowLate()
-    {
+        // Due today: how late, or the time alone.
         Item* late = item(QStringLiteral("Late"), at(2026, 11, 25, 10, 30));
         QCOMPARE(timeText(late),
                  QStringLiteral("Due from 1 hr 30 min at ") + timeOf(*late->dtReminder()));

@@ -1,7 +1,5 @@
-#include "core/activity/ProjectActions.h"
 #include "core/presentation/RuleForm.h"
 #include "core/presentation/TaskForm.h"
-#include "core/scheduling/Catalogue.h"
 #include "support/LaunchedTest.h"
 
 using namespace lullet;
@@ -10,13 +8,8 @@ using namespace lullet::test;
 // The rule form's Done: what it stores, and when the rule's open occurrence must go.
 class TestRuleForm : public LaunchedTest {
     Q_OBJECT
-public:
-    TestRuleForm()
-        : LaunchedTest({2026, 11, 23, 9, 0, 17})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 9, 0, 17); }
 
-private:
     RuleForm form()
     {
         const Services& s = services();

@@ -6,13 +6,8 @@ using namespace lullet::test;
 
 class TestSidebar : public LaunchedTest {
     Q_OBJECT
-public:
-    TestSidebar()
-        : LaunchedTest({2026, 11, 25, 12, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 25, 12, 0); }
 
-private:
     ProjectActions& projects() { return services().projectActions; }
     Sidebar sidebar()
     {

@@ -1,5 +1,3 @@
-#include "core/scheduling/Catalogue.h"
-#include "core/scheduling/Generator.h"
 #include "support/LaunchedTest.h"
 
 using namespace lullet;
@@ -7,13 +5,8 @@ using namespace lullet::test;
 
 class TestGeneration : public LaunchedTest {
     Q_OBJECT
-public:
-    TestGeneration()
-        : LaunchedTest({2026, 11, 23, 10, 30})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 30); }
 
-private:
     Generator& generator() { return services().generator; }
     Catalogue& catalogue() { return services().catalogue; }
 

@@ -1,6 +1,4 @@
-#include "core/security/Lock.h"
 #include "core/security/PasswordRules.h"
-#include "core/security/Protection.h"
 #include "support/LaunchedTest.h"
 
 #include <QFile>
@@ -21,13 +19,9 @@ QVariantMap passwordValues(const Settings& settings)
 
 class TestProtection : public LaunchedTest {
     Q_OBJECT
-public:
-    TestProtection()
-        : LaunchedTest({2026, 11, 23, 10, 0}, Open::No)
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
+    Open openedAs() const override { return Open::No; }
 
-private:
     Protection& protection() { return services().protection; }
     Lock& lock() { return services().lock; }
 
@@ -60,27 +54,25 @@ private Q_SLOTS:
         const auto tooShort =
             std::optional(QStringLiteral("Password should be minimum 4 character"));
         const auto differ = std::optional(QStringLiteral("Passwords does not match"));
-        QTest::newRow("both empty") << ""
-                                    << "" << empty;
-        QTest::newRow("repeat only blanks") << "abcd"
-                                            << " \t " << empty;
-        QTest::newRow("three and blanks") << "  abc \t"
-                                          << "abc" << tooShort;
+        QTest::newRow("both empty") << QString() << QString() << empty;
+        QTest::newRow("repeat only blanks")
+            << QStringLiteral("abcd") << QStringLiteral(" \t ") << empty;
+        QTest::newRow("three and blanks")
+            << QStringLiteral("  abc \t") << QStringLiteral("abc") << tooShort;
         // Four characters as seen, seven code units: e with a combining accent, and a family.
         QTest::newRow("accents count once") << QStringLiteral("e\u0301e\u0301e\u0301")
                                             << QStringLiteral("e\u0301e\u0301e\u0301") << tooShort;
         QTest::newRow("graphemes")
             << QStringLiteral("e\u0301ab\U0001F468\u200D\U0001F469\u200D\U0001F467")
             << QStringLiteral("e\u0301ab\U0001F468\u200D\U0001F469\u200D\U0001F467") << noProblem;
-        QTest::newRow("differ") << "abcd"
-                                << "abce" << differ;
+        QTest::newRow("differ") << QStringLiteral("abcd") << QStringLiteral("abce") << differ;
         // Blanks at the ends go before the two are compared; a line end is no blank.
-        QTest::newRow("blanks at the ends") << " abcd\t"
-                                            << "abcd" << noProblem;
-        QTest::newRow("line end stays") << "abcd\n"
-                                        << "abcd" << differ;
-        QTest::newRow("inner blank stays") << "ab cd"
-                                           << "abcd" << differ;
+        QTest::newRow("blanks at the ends")
+            << QStringLiteral(" abcd\t") << QStringLiteral("abcd") << noProblem;
+        QTest::newRow("line end stays")
+            << QStringLiteral("abcd\n") << QStringLiteral("abcd") << differ;
+        QTest::newRow("inner blank stays")
+            << QStringLiteral("ab cd") << QStringLiteral("abcd") << differ;
     }
 
     void newPasswords()
@@ -176,9 +168,7 @@ private Q_SLOTS:
         QVERIFY(protection().isOn());
         QCOMPARE(app().secrets.secret, std::optional(QStringLiteral("Kestrel9")));
         app().settings.sync();
-        QFile file(app().settings.filePath());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY(!file.readAll().contains("Kestrel9"));
+        QVERIFY(!readFile(app().settings.filePath()).contains("Kestrel9"));
 
         protection().switchOff();
         QVERIFY(!protection().isOn());

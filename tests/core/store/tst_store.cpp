@@ -14,19 +14,6 @@ using namespace lullet::test;
 
 namespace {
 
-QByteArray readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
-
 QStringList asideFiles(const QString& folder)
 {
     QStringList stores;
@@ -45,8 +32,10 @@ class TestStore : public FolderTest {
     FakeClock m_clock{Date(1'795'340'000)};
 
     QString storeFolder() const { return path(QStringLiteral("data/Lullet")); }
+    QString storeFile() const { return path(QStringLiteral("data/Lullet/Lullet.sqlite")); }
 
 private Q_SLOTS:
+    // The folder and the files are the user's alone.
     void firstRunCreatesTheFolderAndAWalStore()
     {
         Store store(storeFolder(), m_clock);
@@ -61,8 +50,12 @@ private Q_SLOTS:
                  StoreSchema::latestVersion());
         store.context().insertProject()->setName(QStringLiteral("Home"));
         QVERIFY(store.context().save());
-        QVERIFY(QFile::exists(store.storePath() + QStringLiteral("-wal")));
-        QVERIFY(QFile::exists(store.storePath() + QStringLiteral("-shm")));
+        const auto owner = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+        QCOMPARE(QFileInfo(storeFolder()).permissions() & 0x7077,
+                 QFileDevice::Permissions(owner | QFileDevice::ExeOwner));
+        for (const QString& suffix : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")})
+            QCOMPARE(QFileInfo(storeFile() + suffix).permissions() & 0x7077,
+                     QFileDevice::Permissions(owner));
     }
 
     void everyAttributeSurvivesAReload()
@@ -174,6 +167,14 @@ private Q_SLOTS:
         QVERIFY(!ctx.hasChanges());
         QVERIFY(!scratch->hasContext());
         QCOMPARE(store.db().queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 1);
+
+        // A reset detaches the records, which keep their values, and reads the store anew.
+        ctx.reset();
+        QVERIFY(!item->hasContext());
+        QCOMPARE(*item->title(), QStringLiteral("Coffee"));
+        QCOMPARE(ctx.items().size(), std::size_t(1));
+        QVERIFY(ctx.items().front() != item);
+        QCOMPARE(*ctx.items().front()->title(), QStringLiteral("Coffee"));
     }
 
     void deletingKeepsMemoryAndRelationshipsInStep()
@@ -236,7 +237,7 @@ private Q_SLOTS:
         QCOMPARE(result.message,
                  QStringLiteral("Expected a folder to store application data, found a file %1.")
                      .arg(storeFolder()));
-        QCOMPARE(readAll(storeFolder()), QByteArray("not a folder"));
+        QCOMPARE(readFile(storeFolder()), QByteArray("not a folder"));
         QVERIFY(!store.isOpen());
     }
 
@@ -264,7 +265,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, setupSql);
         QFETCH(QByteArray, garbage);
         QVERIFY(QDir().mkpath(storeFolder()));
-        const QString path = QDir(storeFolder()).filePath(QStringLiteral("Lullet.sqlite"));
+        const QString path = storeFile();
         if (!garbage.isEmpty()) {
             writeFile(path, garbage);
             writeFile(path + QStringLiteral("-wal"), "log");
@@ -272,7 +273,7 @@ private Q_SLOTS:
             Db db(path);
             QVERIFY(db.exec(setupSql.constData()));
         }
-        const QByteArray before = readAll(path);
+        const QByteArray before = readFile(path);
 
         {
             Store store(storeFolder(), m_clock);
@@ -280,10 +281,10 @@ private Q_SLOTS:
             QCOMPARE(result.outcome, Store::Outcome::MovedAside);
             QVERIFY(!QFile::exists(path));
             QCOMPARE(asideFiles(storeFolder()).size(), 1);
-            QCOMPARE(readAll(result.movedTo), before);
+            QCOMPARE(readFile(result.movedTo), before);
             QVERIFY(result.message.contains(result.movedTo));
             if (!garbage.isEmpty())
-                QCOMPARE(readAll(result.movedTo + QStringLiteral("-wal")), QByteArray("log"));
+                QCOMPARE(readFile(result.movedTo + QStringLiteral("-wal")), QByteArray("log"));
         }
         // The next launch starts empty, and the moved file is still there.
         Store next(storeFolder(), m_clock);
@@ -302,7 +303,7 @@ private Q_SLOTS:
             store.context().insertItem()->setTitle(QStringLiteral("Keep me"));
             QVERIFY(store.context().save());
         }
-        const QString path = QDir(storeFolder()).filePath(QStringLiteral("Lullet.sqlite"));
+        const QString path = storeFile();
         {
             // Another program holds the file to itself.
             Db holder(path);
@@ -338,22 +339,6 @@ private Q_SLOTS:
         QCOMPARE(db.queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 1);
     }
 
-    void theFilesAreTheUsersAlone()
-    {
-        Store store(storeFolder(), m_clock);
-        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
-        store.context().insertItem();
-        QVERIFY(store.context().save());
-        QCOMPARE(QFileInfo(storeFolder()).permissions() & 0x7077,
-                 QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                          QFileDevice::ExeOwner));
-        for (const char* name : {"Lullet.sqlite", "Lullet.sqlite-wal", "Lullet.sqlite-shm"})
-            QCOMPARE(
-                QFileInfo(QDir(storeFolder()).filePath(QString::fromLatin1(name))).permissions() &
-                    0x7077,
-                QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner));
-    }
-
     void impossibleValuesOnDiskReadAsMissing()
     {
         {
@@ -362,7 +347,7 @@ private Q_SLOTS:
         }
         {
             // Another writer, without our foreign-key checks.
-            Db db(QDir(storeFolder()).filePath(QStringLiteral("Lullet.sqlite")));
+            Db db(storeFile());
             QVERIFY(db.exec(
                 "INSERT INTO ReminderInfo (title, dtReminder, dtReminderPostponed, durationHr, "
                 "hasFinished, toProject) VALUES (NULL, 1e300, 'yesterday', 99999999999, 'x', 42)"));
@@ -375,22 +360,6 @@ private Q_SLOTS:
         QVERIFY(!item->dtReminder());
         QVERIFY(!item->durationHr());
         QVERIFY(!item->toProject());
-    }
-
-    void resetDetachesRecordsAndReloads()
-    {
-        Store store(storeFolder(), m_clock);
-        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
-        ObjectContext& ctx = store.context();
-        Item* item = ctx.insertItem();
-        item->setTitle(QStringLiteral("Stretch"));
-        QVERIFY(ctx.save());
-        ctx.reset();
-        QVERIFY(!item->hasContext());
-        QCOMPARE(*item->title(), QStringLiteral("Stretch"));
-        QCOMPARE(ctx.items().size(), std::size_t(1));
-        QVERIFY(ctx.items().front() != item);
-        QCOMPARE(*ctx.items().front()->title(), QStringLiteral("Stretch"));
     }
 };
 

@@ -13,13 +13,8 @@ using namespace lullet::test;
 
 class TestQuickAdd : public DesktopTest {
     Q_OBJECT
-public:
-    TestQuickAdd()
-        : DesktopTest({2026, 11, 23, 10, 15, 30})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 15, 30); }
 
-private:
     QuickAddForm form() { return QuickAddForm(clock(), library()); }
 
 private Q_SLOTS:
@@ -30,7 +25,6 @@ private Q_SLOTS:
         QVERIFY(quick.timeLabel().startsWith(QStringLiteral("at 10:25")));
         QCOMPARE(ProjectChoices(library(), QStringLiteral("No Project")).titles(),
                  QStringList{QStringLiteral("No Project")});
-        QCOMPARE(QuickAddForm::durationChoices().size(), 14);
         clock().advance(120);
         QVERIFY(!quick.add(QStringLiteral("  "), nullptr));
         Item* item = quick.add(QStringLiteral("buy milk"), nullptr);
@@ -66,14 +60,13 @@ private Q_SLOTS:
         QuickAddView window(services());
         QuickAddView bar(services());
         QSignalSpy added(&window, &QuickAddView::added);
-        window.findChild<QPushButton*>(QStringLiteral("chooseDate"))->click();
-        auto* chooser = window.findChild<DateChooser*>();
-        QVERIFY(chooser);
+        child<QPushButton>(&window, "chooseDate")->click();
+        auto* chooser = child<DateChooser>(&window);
         Q_EMIT chooser->chosen(at(2026, 11, 24, 8, 0));
         QCOMPARE(*window.form().date(), at(2026, 11, 24, 8, 0));
         QCOMPARE(*bar.form().date(), at(2026, 11, 23, 10, 25, 30));
         window.nameField()->setText(QStringLiteral("call mum"));
-        window.findChild<QPushButton*>(QStringLiteral("add"))->click();
+        child<QPushButton>(&window, "add")->click();
         QCOMPARE(added.count(), 1);
         QCOMPARE(*library().items().front()->dtReminder(), at(2026, 11, 24, 8, 0));
     }
@@ -97,16 +90,15 @@ private Q_SLOTS:
         QuickAddView window(services());
         window.show();
         QSignalSpy dismissed(&window, &QuickAddView::dismissed);
-        window.findChild<QPushButton*>(QStringLiteral("chooseDate"))->click();
-        auto* chooser = window.findChild<DateChooser*>();
-        QVERIFY(chooser);
-        auto* time = chooser->findChild<QTimeEdit*>(QStringLiteral("time"));
-        auto* field = time->findChild<QLineEdit*>();
+        child<QPushButton>(&window, "chooseDate")->click();
+        auto* chooser = child<DateChooser>(&window);
+        auto* time = child<QTimeEdit>(chooser, "time");
+        auto* field = child<QLineEdit>(time);
         QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(4, field->height() / 2));
         QCoreApplication::processEvents();
         QTest::keyClicks(time, QStringLiteral("0845"));
         QCOMPARE(time->time(), QTime(8, 45));
-        chooser->findChild<QPushButton*>(QStringLiteral("set"))->click();
+        child<QPushButton>(chooser, "set")->click();
         QCOMPARE(window.form().date()->hour(), 8);
         QCOMPARE(window.form().date()->minute(), 45);
         QTest::keyClick(window.nameField(), Qt::Key_Escape);

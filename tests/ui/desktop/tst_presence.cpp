@@ -87,9 +87,7 @@ private Q_SLOTS:
     // A folder that can't be made is said, and the switch stays off.
     void anEntryThatCantBeWrittenIsSaid()
     {
-        QFile blocker(path(QStringLiteral("config")));
-        QVERIFY(blocker.open(QIODevice::WriteOnly));
-        blocker.close();
+        writeFile(QStringLiteral("config"), {});
         Settings settings(path(QStringLiteral("Lullet.conf")));
         Autostart autostart(path(QStringLiteral("config/autostart/lullet.desktop")),
                             QStringLiteral("/usr/bin/lullet"));
@@ -173,18 +171,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("display");
         QTest::addColumn<QString>("platform");
         QTest::addColumn<QByteArray>("chosen");
-        QTest::newRow("X11") << ""
-                             << ":0"
-                             << "" << QByteArray();
-        QTest::newRow("Wayland with XWayland") << "wayland-0"
-                                               << ":0"
-                                               << "" << QByteArray("xcb");
-        QTest::newRow("Wayland alone") << "wayland-0"
-                                       << ""
-                                       << "" << QByteArray();
-        QTest::newRow("the user's choice") << "wayland-0"
-                                           << ":0"
-                                           << "wayland" << QByteArray();
+        QTest::newRow("X11") << QString() << QStringLiteral(":0") << QString() << QByteArray();
+        QTest::newRow("Wayland with XWayland")
+            << QStringLiteral("wayland-0") << QStringLiteral(":0") << QString()
+            << QByteArray("xcb");
+        QTest::newRow("Wayland alone")
+            << QStringLiteral("wayland-0") << QString() << QString() << QByteArray();
+        QTest::newRow("the user's choice") << QStringLiteral("wayland-0") << QStringLiteral(":0")
+                                           << QStringLiteral("wayland") << QByteArray();
     }
 
     void theSessionChoosesThePlatform()

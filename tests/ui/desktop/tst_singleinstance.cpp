@@ -30,9 +30,7 @@ private Q_SLOTS:
         QFile::setPermissions(runtime(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                              QFileDevice::ExeOwner);
         // A file left where the socket belongs, as after a crash, is replaced.
-        QFile stale(QDir(runtime()).filePath(QStringLiteral("lullet.socket")));
-        QVERIFY(stale.open(QIODevice::WriteOnly));
-        stale.close();
+        writeFile(QStringLiteral("run/lullet.socket"), {});
         SingleInstance first(runtime());
         QCOMPARE(first.claim(), SingleInstance::Role::Primary);
         QSignalSpy requests(&first, &SingleInstance::requestReceived);

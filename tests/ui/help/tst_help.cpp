@@ -15,23 +15,12 @@ using namespace lullet::test;
 // The welcome slides, the help window that shows them again, and the project's links.
 class TestHelp : public DesktopTest {
     Q_OBJECT
-public:
-    TestHelp()
-        : DesktopTest({2026, 11, 23, 10, 0})
-    {
-    }
-
-private:
-    static QPushButton* button(QWidget* in, const char* name)
-    {
-        return in->findChild<QPushButton*>(QLatin1String(name));
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
     QByteArray settingsFile() const
     {
         app().settings.sync();
-        QFile file(app().settings.filePath());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return readFile(app().settings.filePath());
     }
 
 private Q_SLOTS:
@@ -42,9 +31,9 @@ private Q_SLOTS:
         slides.resize(800, 600);
         slides.show();
         QSignalSpy skipped(&slides, &WelcomeSlides::skipped);
-        QPushButton* previous = button(&slides, "previous");
-        QPushButton* next = button(&slides, "next");
-        QPushButton* skip = button(&slides, "skip");
+        QPushButton* previous = child<QPushButton>(&slides, "previous");
+        QPushButton* next = child<QPushButton>(&slides, "next");
+        QPushButton* skip = child<QPushButton>(&slides, "skip");
         QVERIFY(!previous->isVisible());
         slides.previous();
         QCOMPARE(slides.index(), 0);
@@ -83,8 +72,8 @@ private Q_SLOTS:
         QVERIFY(help && help->isVisible());
         shell.showHelp();
         QCOMPARE(shell.help(), help);
-        button(help, "next")->click();
-        button(help, "skip")->click();
+        child<QPushButton>(help, "next")->click();
+        child<QPushButton>(help, "skip")->click();
         QTRY_VERIFY(!shell.help());
         QVERIFY(window.isVisible());
         shell.showHelp();

@@ -1,5 +1,3 @@
-#include "core/activity/ItemActions.h"
-#include "core/scheduling/Catalogue.h"
 #include "support/DesktopTest.h"
 #include "support/Shots.h"
 #include "ui/main/ItemListModel.h"
@@ -22,13 +20,8 @@ using namespace lullet::test;
 // The day's list on screen, driven through its rows.
 class TestListView : public DesktopTest {
     Q_OBJECT
-public:
-    TestListView()
-        : DesktopTest({2026, 11, 25, 12, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 25, 12, 0); }
 
-private:
     Item* item(const QString& title, std::optional<Date> due)
     {
         Item* r = app().addItem(title, due);
@@ -236,14 +229,12 @@ private Q_SLOTS:
         const auto time = [](Date d) { return d.toString(DateStyle::None, DateStyle::Short); };
         QCOMPARE(evening->text(),
                  QStringLiteral("Tomorrow eve\nThu 26 Nov ") + time(at(2026, 11, 26, 19, 0)));
-        QCOMPARE(panel->findChild<QPushButton*>(QStringLiteral("choice4"))->text(),
+        QCOMPARE(child<QPushButton>(panel, "choice4")->text(),
                  QStringLiteral("Friday\nFri 27 Nov ") + time(at(2026, 11, 27, 9, 0)));
-        QCOMPARE(panel->findChild<QPushButton*>(QStringLiteral("choice7"))->text(),
-                 QStringLiteral("No date"));
-        QCOMPARE(panel->findChild<QLabel*>(QStringLiteral("postponeTitle"))->text(),
-                 QStringLiteral("Postpone Plan"));
+        QCOMPARE(child<QPushButton>(panel, "choice7")->text(), QStringLiteral("No date"));
+        QCOMPARE(child<QLabel>(panel, "postponeTitle")->text(), QStringLiteral("Postpone Plan"));
         // A free date keeps the panel open; a named choice closes it.
-        panel->findChild<QPushButton*>(QStringLiteral("choice9"))->click();
+        child<QPushButton>(panel, "choice9")->click();
         QVERIFY(panel->findChild<QDateTimeEdit*>()->isVisible());
         panel->postponeToChosenDate();
         QVERIFY(alive);

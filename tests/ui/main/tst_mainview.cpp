@@ -1,4 +1,3 @@
-#include "core/activity/ItemActions.h"
 #include "support/DesktopTest.h"
 #include "support/Shots.h"
 #include "ui/authoring/DateChooser.h"
@@ -36,10 +35,15 @@ using namespace lullet::test;
 // The main window's content: every segment walked, a project added, a search.
 class TestMainView : public DesktopTest {
     Q_OBJECT
-public:
-    TestMainView()
-        : DesktopTest({2026, 11, 25, 12, 0}, Open::BeforeWelcome)
+    Date launchedAt() const override { return at(2026, 11, 25, 12, 0); }
+    Open openedAs() const override { return Open::BeforeWelcome; }
+
+    static ItemListView* shownList(MainView& view)
     {
+        auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
+        if (!list)
+            qFatal("The view shows no list");
+        return list;
     }
 
 private Q_SLOTS:
@@ -100,7 +104,7 @@ private Q_SLOTS:
         QVERIFY(container.showsWelcome());
         QVERIFY(!container.findChild<MainView*>());
         QSignalSpy proceeded(&container, &WindowContent::proceededFromWelcome);
-        container.findChild<QPushButton*>(QStringLiteral("skip"))->click();
+        child<QPushButton>(&container, "skip")->click();
         QCOMPARE(proceeded.count(), 1);
         QVERIFY(app().settings.welcomeDone());
         QCOMPARE(app().settings.integer(SettingsKeys::introPageShown), 1);
@@ -113,18 +117,21 @@ private Q_SLOTS:
         QVERIFY(!again.showsWelcome());
     }
 
+    // The add button opens the quick-add bar and Escape closes it; asked for again while open,
+    // it adds the task typed.
     void theQuickAddBarAndWhereTheTaskShows()
     {
         MainView view(services());
         view.show();
         QVERIFY(!view.quickAddBar()->isVisible());
-        view.showQuickAddBar();
+        child<QToolButton>(&view, "addTask")->click();
         QVERIFY(view.quickAddBar()->isVisible());
+        QTest::keyClick(view.quickAddBar()->nameField(), Qt::Key_Escape);
+        QVERIFY(!view.quickAddBar()->isVisible());
+        view.showQuickAddBar();
         // Without a date the task belongs to "Anytime", where the view moves.
-        view.quickAddBar()->findChild<QPushButton*>(QStringLiteral("chooseDate"))->click();
-        auto* chooser = view.quickAddBar()->findChild<DateChooser*>();
-        QVERIFY(chooser);
-        Q_EMIT chooser->unset();
+        child<QPushButton>(view.quickAddBar(), "chooseDate")->click();
+        Q_EMIT child<DateChooser>(view.quickAddBar())->unset();
         view.quickAddBar()->nameField()->setText(QStringLiteral("read a book"));
         view.showQuickAddBar();
         QVERIFY(!view.quickAddBar()->isVisible());
@@ -136,7 +143,7 @@ private Q_SLOTS:
     void aNewProjectIsSelectedAndListed()
     {
         MainView view(services());
-        auto* field = view.findChild<QLineEdit*>(QStringLiteral("newProject"));
+        auto* field = child<QLineEdit>(&view, "newProject");
         field->setText(QStringLiteral("garden"));
         QTest::keyClick(field, Qt::Key_Return);
         QCOMPARE(view.shownSegment(), Segment::Project);
@@ -150,7 +157,7 @@ private Q_SLOTS:
     void projectsAreRenamedDuplicatedAndDeleted()
     {
         MainView view(services());
-        auto* field = view.findChild<QLineEdit*>(QStringLiteral("newProject"));
+        auto* field = child<QLineEdit>(&view, "newProject");
         for (const char* name : {"Home", "Work"}) {
             field->setText(QString::fromLatin1(name));
             QTest::keyClick(field, Qt::Key_Return);
@@ -187,13 +194,18 @@ private Q_SLOTS:
         QCOMPARE(view.sidebar().rows().size(), std::size_t(9));
     }
 
+    // Escape clears the search; a result leads to its list.
     void aSearchResultLeadsToItsList()
     {
         MainView view(services());
-        auto* search = view.findChild<QLineEdit*>(QStringLiteral("searchField"));
+        auto* search = child<QLineEdit>(&view, "searchField");
         // The view opens on the sidebar, not with a cursor in the search field.
         view.show();
         QCOMPARE(view.focusWidget(), view.sidebar().list());
+        search->setFocus();
+        QTest::keyClicks(search, QStringLiteral("dog"));
+        QTest::keyClick(search, Qt::Key_Escape);
+        QVERIFY(search->text().isEmpty());
         search->setText(QStringLiteral("today, walk"));
         QStringList shown;
         for (int i = 0; i < view.sidebar().list()->count(); ++i)
@@ -212,8 +224,7 @@ private Q_SLOTS:
         QCOMPARE(rows->currentRow(), int(Segment::Today));
         QCOMPARE(rows->selectedItems(), QList<QListWidgetItem*>{rows->item(int(Segment::Today))});
         // The list opens with the result selected, below the other task of the day.
-        auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        QVERIFY(list);
+        ItemListView* list = shownList(view);
         const QModelIndexList selected = list->table()->selectionModel()->selectedRows();
         QCOMPARE(selected.size(), 1);
         QCOMPARE(list->model().index(selected.front().row(), 1).data().toString(),
@@ -227,21 +238,18 @@ private Q_SLOTS:
         app().addItem(QStringLiteral("Call the vet"), at(2026, 11, 25, 17, 0))->setHasStarted(true);
         MainView view(services());
         view.show();
-        auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        QVERIFY(list);
+        ItemListView* list = shownList(view);
         const int all = list->model().rowCount();
-        list->findChild<QCheckBox*>(QStringLiteral("showRunningOnly"))->click();
+        child<QCheckBox>(list, "showRunningOnly")->click();
         QCOMPARE(list->model().rowCount(), 1);
         QVERIFY(list->model().rowCount() < all);
-        QCOMPARE(list->findChild<QLabel*>(QStringLiteral("taskCount"))->text(),
-                 QStringLiteral("Tasks: 1"));
-        list->findChild<QCheckBox*>(QStringLiteral("showRunningOnly"))->click();
+        QCOMPARE(child<QLabel>(list, "taskCount")->text(), QStringLiteral("Tasks: 1"));
+        child<QCheckBox>(list, "showRunningOnly")->click();
         QCOMPARE(list->model().rowCount(), all);
 
         // An empty list has nothing to export, and says so.
         view.showSegment(Segment::Anytime);
-        auto* anytime = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        QMenu* exportMenu = anytime->findChild<QToolButton*>(QStringLiteral("export"))->menu();
+        QMenu* exportMenu = child<QToolButton>(shownList(view), "export")->menu();
         QCOMPARE(exportMenu->actions().size(), 3);
         Dialogs::answerNext(QStringLiteral("Ok"));
         exportMenu->actions().at(1)->trigger();
@@ -276,21 +284,18 @@ private Q_SLOTS:
     // waiting and goes back to the project's list with the new task selected.
     void theAddTaskPanel()
     {
-        const Services& s = services();
-        Project* home = s.projectActions.addProject(QStringLiteral("Home")).project;
+        Project* home = app().addProject(QStringLiteral("Home"));
         Item* started = app().addItem(QStringLiteral("Paint the door"), at(2026, 11, 25, 9, 0));
         started->setToProject(home);
         started->setHasStarted(true);
         Item* waiting = app().addItem(QStringLiteral("Fix the tap"), at(2026, 11, 26, 9, 0));
         waiting->setToProject(home);
-        MainView view(s);
+        MainView view(services());
         view.resize(900, 600);
         view.show();
         view.showProjectNamed(QStringLiteral("Home"));
-        auto* projectList = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        QVERIFY(projectList);
-        projectList->select(waiting);
-        projectList->findChild<QAction*>(QStringLiteral("addTasks"))->trigger();
+        shownList(view)->select(waiting);
+        child<QAction>(shownList(view), "addTasks")->trigger();
         QTRY_COMPARE(*view.switcher().current(), View::AddTaskList);
         auto* panel = qobject_cast<AddTaskView*>(view.switcher().currentWidget());
         QCOMPARE(panel->list()->topLevelItemCount(), 1);
@@ -299,11 +304,10 @@ private Q_SLOTS:
 
         RuleFormView* form = panel->openForm(nullptr);
         QVERIFY(form->isVisible());
-        QVERIFY(!form->findChild<QComboBox*>(QStringLiteral("unit"))->isVisible());
-        form->findChild<QComboBox*>(QStringLiteral("name"))
-            ->setCurrentText(QStringLiteral("Buy bulbs"));
+        QVERIFY(!child<QComboBox>(form, "unit")->isVisible());
+        child<QComboBox>(form, "name")->setCurrentText(QStringLiteral("Buy bulbs"));
         saveShot(form, QStringLiteral("task-form"));
-        form->findChild<QPushButton*>(QStringLiteral("done"))->click();
+        child<QPushButton>(form, "done")->click();
         Item* bulbs = form->savedTask();
         QVERIFY(bulbs);
         QCOMPARE(bulbs->toProject(), home);
@@ -316,22 +320,18 @@ private Q_SLOTS:
         Dialogs::answerNext(QStringLiteral("No"));
         panel->deleteTask(waiting);
         QCOMPARE(panel->list()->topLevelItemCount(), 2);
-        panel->findChild<QPushButton*>(QStringLiteral("done"))->click();
+        child<QPushButton>(panel, "done")->click();
         QTRY_COMPARE(*view.switcher().current(), View::ProjectList);
-        projectList = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        const QModelIndexList selected = projectList->table()->selectionModel()->selectedRows();
+        const QModelIndexList selected = shownList(view)->table()->selectionModel()->selectedRows();
         QCOMPARE(selected.size(), 1);
-        QCOMPARE(projectList->model().rowOf(bulbs), selected.front().row());
+        QCOMPARE(shownList(view)->model().rowOf(bulbs), selected.front().row());
     }
 
     // At the default window size a project's header shows every count whole, the badge keeps
     // its size, and a long name gives way with its whole text in the tooltip.
     void theHeaderFitsAtTheDefaultSize()
     {
-        ProjectActions& projects = services().projectActions;
-        Project* club =
-            projects.addProject(QStringLiteral("Book club reading list for winter")).project;
-        QVERIFY(club);
+        Project* club = app().addProject(QStringLiteral("Book club reading list for winter"));
         Item* first = app().addItem(QStringLiteral("Choose books"), at(2026, 11, 25, 13, 0));
         Item* second = app().addItem(QStringLiteral("Send invites"), at(2026, 11, 25, 14, 0));
         services().itemActions.moveToProject(*first, club);
@@ -347,8 +347,8 @@ private Q_SLOTS:
         MainView& view = *content->mainView();
         view.showProjectNamed(club->name().value_or(QString()));
         QCoreApplication::processEvents();
-        auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        QVERIFY(list && list->isVisible());
+        ItemListView* list = shownList(view);
+        QVERIFY(list->isVisible());
         const QRect inside = list->rect();
         for (const char* name :
              {"taskCount", "completedCount", "dueCount", "todayCount", "timeUsed", "status",
@@ -359,9 +359,8 @@ private Q_SLOTS:
             const QRect where(widget->mapTo(list, QPoint(0, 0)), widget->size());
             QVERIFY2(inside.contains(where), name);
         }
-        QCOMPARE(list->findChild<QLabel*>(QStringLiteral("completedCount"))->text(),
-                 QStringLiteral("Complete: 1"));
-        auto* name = list->findChild<ElidedLabel*>(QStringLiteral("listName"));
+        QCOMPARE(child<QLabel>(list, "completedCount")->text(), QStringLiteral("Complete: 1"));
+        auto* name = child<ElidedLabel>(list, "listName");
         QCOMPARE(name->text(), QStringLiteral("Book club reading list for winter"));
         if (name->isElided())
             QCOMPARE(name->toolTip(), name->text());
@@ -392,28 +391,11 @@ private Q_SLOTS:
         }
         app().runUntil(at(2026, 11, 25, 12, 0, 19));
         QCoreApplication::processEvents();
-        auto* clock = view.findChild<ElidedLabel*>(QStringLiteral("runningClock"));
-        QVERIFY(clock && clock->isVisible());
+        auto* clock = child<ElidedLabel>(&view, "runningClock");
+        QVERIFY(clock->isVisible());
         QCOMPARE(clock->text(), QStringLiteral("Running: Walk the dog  00:00:19"));
-        QVERIFY(panel.findChild<QLabel*>(QStringLiteral("runningNow")));
-        QCOMPARE(panel.findChild<QLabel*>(QStringLiteral("runningNow"))->text(),
+        QCOMPARE(child<QLabel>(&panel, "runningNow")->text(),
                  QStringLiteral("Walk the dog  00:00:19"));
-    }
-
-    // Escape clears the search; the add button opens the quick-add bar, Escape closes it.
-    void waysInAndOut()
-    {
-        MainView view(services());
-        view.show();
-        auto* search = view.findChild<QLineEdit*>(QStringLiteral("searchField"));
-        search->setFocus();
-        QTest::keyClicks(search, QStringLiteral("dog"));
-        QTest::keyClick(search, Qt::Key_Escape);
-        QVERIFY(search->text().isEmpty());
-        view.findChild<QToolButton*>(QStringLiteral("addTask"))->click();
-        QVERIFY(view.quickAddBar()->isVisible());
-        QTest::keyClick(view.quickAddBar()->nameField(), Qt::Key_Escape);
-        QVERIFY(!view.quickAddBar()->isVisible());
     }
 };
 

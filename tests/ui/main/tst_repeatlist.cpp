@@ -1,4 +1,3 @@
-#include "core/scheduling/Catalogue.h"
 #include "support/DesktopTest.h"
 #include "support/Shots.h"
 #include "ui/authoring/RuleFormView.h"
@@ -17,13 +16,8 @@ using namespace lullet::test;
 // The "Lullets" segment on screen: switching suggestions on, the form, deleting.
 class TestRepeatList : public DesktopTest {
     Q_OBJECT
-public:
-    TestRepeatList()
-        : DesktopTest({2026, 11, 23, 8, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 8, 0); }
 
-private:
     static int rowTitled(RepeatListModel& model, const QString& title)
     {
         for (int row = 0; row < model.rowCount(); ++row) {
@@ -71,9 +65,9 @@ private Q_SLOTS:
         auto* name = form->findChild<QComboBox*>(QStringLiteral("name"));
         QVERIFY(Balloon::of(name));
         name->setCurrentText(QStringLiteral("Knee bends"));
-        form->findChild<QLineEdit*>(QStringLiteral("repeatCount"))->setText(QStringLiteral("0"));
+        child<QLineEdit>(form, "repeatCount")->setText(QStringLiteral("0"));
         QCOMPARE(form->submit(), RuleForm::Outcome::NoRepeatCount);
-        form->findChild<QLineEdit*>(QStringLiteral("repeatCount"))->setText(QStringLiteral("45"));
+        child<QLineEdit>(form, "repeatCount")->setText(QStringLiteral("45"));
         QCOMPARE(form->submit(), RuleForm::Outcome::Saved);
         QCoreApplication::processEvents();
 
@@ -105,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(suggestion->actions().size(), 1);
 
         RuleFormView* form = view.openForm(nullptr);
-        form->findChild<QComboBox*>(QStringLiteral("name"))->setCurrentText(QStringLiteral("Mine"));
+        child<QComboBox>(form, "name")->setCurrentText(QStringLiteral("Mine"));
         QCOMPARE(form->submit(), RuleForm::Outcome::Saved);
         QCoreApplication::processEvents();
         const CatalogueRow* mine = model.rowAt(rowTitled(model, QStringLiteral("Mine")));

@@ -1,6 +1,4 @@
-#include "core/backup/Backups.h"
 #include "core/scheduling/ScheduleTableModel.h"
-#include "core/scheduling/WorkingHours.h"
 #include "support/DesktopTest.h"
 #include "support/Shots.h"
 #include "ui/preferences/BackupCommands.h"
@@ -22,13 +20,8 @@ using namespace lullet::test;
 // The preferences tabs over a launched core on a fake clock.
 class TestPreferences : public DesktopTest {
     Q_OBJECT
-public:
-    TestPreferences()
-        : DesktopTest({2026, 11, 23, 10, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
-private:
     void makeLaunchBackup()
     {
         QSignalSpy created(&services().backups, &Backups::backupCreated);
@@ -38,12 +31,13 @@ private:
 
 private Q_SLOTS:
     // The period takes effect at once; a stored period none of the choices names stays stored.
-    void thePromptPeriod()
+    // Every tab is on the toolbar, and the window takes its height.
+    void thePromptPeriodAndTheTabs()
     {
         app().settings.setValue(SettingsKeys::promptDuration, 3);
         BackupCommands commands(services(), nullptr, [](const QString&) {});
         PreferencesWindow window(services(), commands, app().presence);
-        auto* period = window.findChild<QComboBox*>(QStringLiteral("promptDuration"));
+        auto* period = child<QComboBox>(&window, "promptDuration");
         QCOMPARE(period->currentText(), QStringLiteral("1 min"));
         QCOMPARE(app().settings.integer(SettingsKeys::promptDuration), 3);
         const int thirty = period->findText(QStringLiteral("30 mins"));
@@ -51,7 +45,18 @@ private Q_SLOTS:
         Q_EMIT period->activated(thirty);
         QCOMPARE(app().settings.integer(SettingsKeys::promptDuration), 30);
         QCOMPARE(services().running.promptPeriod(), 30);
-        QCOMPARE(window.height(), 319);
+        const std::pair<PreferencesWindow::Tab, int> heights[] = {
+            {PreferencesWindow::Tab::Security, 400}, {PreferencesWindow::Tab::Backup, 457},
+            {PreferencesWindow::Tab::Schedule, 457}, {PreferencesWindow::Tab::MoreInfo, 457},
+            {PreferencesWindow::Tab::General, 319},
+        };
+        for (const auto& [tab, height] : heights) {
+            window.tabAction(tab)->trigger();
+            QCOMPARE(window.currentTab(), tab);
+            QCOMPARE(window.height(), height);
+            if (tab == PreferencesWindow::Tab::MoreInfo)
+                saveShot(&window, QStringLiteral("preferences-more-info"));
+        }
     }
 
     // The desktop choices: the entry for a start at login, and leaving the taskbar asks to
@@ -60,9 +65,7 @@ private Q_SLOTS:
     {
         BackupCommands commands(services(), nullptr, [](const QString&) {});
         PreferencesWindow window(services(), commands, app().presence);
-        auto box = [&](const char* name) {
-            return window.findChild<QCheckBox*>(QLatin1String(name));
-        };
+        auto box = [&](const char* name) { return child<QCheckBox>(&window, name); };
         box("openAtLogIn")->click();
         QVERIFY(app().autostart.isOn());
         QCOMPARE(app().settings.integer(SettingsKeys::openAtLogIn), 1);
@@ -87,25 +90,6 @@ private Q_SLOTS:
         QCOMPARE(quit.count(), 1);
         window.resize(560, 319);
         saveShot(&window, QStringLiteral("preferences-general"));
-    }
-
-    // Every tab is on the toolbar, and the window takes its height.
-    void everyTabHasItsButtonAndHeight()
-    {
-        BackupCommands commands(services(), nullptr, [](const QString&) {});
-        PreferencesWindow window(services(), commands, app().presence);
-        const std::pair<PreferencesWindow::Tab, int> heights[] = {
-            {PreferencesWindow::Tab::Security, 400}, {PreferencesWindow::Tab::Backup, 457},
-            {PreferencesWindow::Tab::Schedule, 457}, {PreferencesWindow::Tab::MoreInfo, 457},
-            {PreferencesWindow::Tab::General, 319},
-        };
-        for (const auto& [tab, height] : heights) {
-            window.tabAction(tab)->trigger();
-            QCOMPARE(window.currentTab(), tab);
-            QCOMPARE(window.height(), height);
-            if (tab == PreferencesWindow::Tab::MoreInfo)
-                saveShot(&window, QStringLiteral("preferences-more-info"));
-        }
     }
 
     // A day switched off counts at once: no idle question on it.
@@ -140,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(newest, services().backups.list().entries().front().path);
         saveShot(&tab, QStringLiteral("preferences-backup"));
 
-        auto* restore = tab.findChild<QPushButton*>(QStringLiteral("restore"));
+        auto* restore = child<QPushButton>(&tab, "restore");
         QVERIFY(!restore->isEnabled());
         list->setCurrentItem(list->topLevelItem(1));
         QSignalSpy restored(&services().backups, &Backups::restored);
@@ -157,11 +141,7 @@ private Q_SLOTS:
         QCOMPARE(list->topLevelItem(0)->text(0), QStringLiteral("Restored Backup"));
 
         // A copy saved elsewhere replaces what stands there.
-        const QString copy = path(QStringLiteral("copy.sqlite"));
-        QFile old(copy);
-        QVERIFY(old.open(QIODevice::WriteOnly));
-        old.write("old");
-        old.close();
+        const QString copy = writeFile(QStringLiteral("copy.sqlite"), "old");
         Dialogs::chooseFileNext(copy);
         commands.saveCopyOf(newest);
         QCOMPARE(revealed, QStringList{copy});
@@ -170,7 +150,7 @@ private Q_SLOTS:
         list->setCurrentItem(list->topLevelItem(1));
         const QString doomed = list->currentItem()->data(0, Qt::UserRole).toString();
         Dialogs::answerNext(QStringLiteral("Yes"));
-        tab.findChild<QPushButton*>(QStringLiteral("delete"))->click();
+        child<QPushButton>(&tab, "delete")->click();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("Selected backup will be deleted."));
         QCOMPARE(Dialogs::asked().last().information, QStringLiteral("Are you sure to delete ?"));
         QVERIFY(!QFile::exists(doomed));
@@ -179,7 +159,7 @@ private Q_SLOTS:
 
         const auto remaining = services().backups.list().entries();
         Dialogs::answerNext(QStringLiteral("Yes"));
-        tab.findChild<QPushButton*>(QStringLiteral("deleteAll"))->click();
+        child<QPushButton>(&tab, "deleteAll")->click();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("All backups will be deleted."));
         QCOMPARE(list->topLevelItemCount(), 0);
         QVERIFY(!app().settings.contains(SettingsKeys::backupFiles2));

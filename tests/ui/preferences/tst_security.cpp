@@ -1,5 +1,3 @@
-#include "core/security/Lock.h"
-#include "core/security/Protection.h"
 #include "support/DesktopTest.h"
 #include "support/Shots.h"
 #include "ui/authoring/QuickAddView.h"
@@ -22,14 +20,6 @@ using namespace lullet::test;
 
 namespace {
 
-template <typename T> T* child(QWidget* parent, const char* name)
-{
-    T* found = parent->findChild<T*>(QLatin1String(name));
-    if (!found)
-        qFatal("no %s", name);
-    return found;
-}
-
 // What the user sees of a widget: shown within its window.
 bool seen(QWidget* widget)
 {
@@ -41,13 +31,9 @@ bool seen(QWidget* widget)
 // The password settings and the login page, over a fake keyring.
 class TestSecurity : public DesktopTest {
     Q_OBJECT
-public:
-    TestSecurity()
-        : DesktopTest({2026, 11, 23, 10, 0}, Open::No)
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
+    Open openedAs() const override { return Open::No; }
 
-private:
     Protection& protection() { return services().protection; }
     bool protectionOn() { return protection().isOn(); }
 
@@ -59,7 +45,7 @@ private:
         QVERIFY(app().open());
     }
 
-    void type(QWidget* tab, const char* field, const QString& text)
+    static void type(QWidget* tab, const char* field, const QString& text)
     {
         child<QLineEdit>(tab, field)->setText(text);
     }
@@ -89,10 +75,7 @@ private Q_SLOTS:
             type(&tab, "repeatPassword", repeat);
             done->click();
         };
-        press(QString(), QString());
-        QCOMPARE(message->text(), QStringLiteral("Please insert values in text fields"));
-        press(QStringLiteral(" Kes\t"), QStringLiteral("Kes"));
-        QCOMPARE(message->text(), QStringLiteral("Password should be minimum 4 character"));
+        // The rules' every refusal is tested with them; here one, said in red.
         press(QStringLiteral("Kestrel9"), QStringLiteral("Kestrel8"));
         QCOMPARE(message->text(), QStringLiteral("Passwords does not match"));
         QVERIFY(message->styleSheet().contains(QLatin1String("E34947")));
@@ -104,10 +87,6 @@ private Q_SLOTS:
         QCOMPARE(done->text(), QStringLiteral("Change"));
         QVERIFY(!child<QLineEdit>(&tab, "newPassword")->isEnabled());
         QVERIFY(protectionOn());
-        app().settings.sync();
-        QFile file(app().settings.filePath());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY(!file.readAll().contains("Kestrel9"));
 
         // "Change" opens the fields again, and only Done stores.
         done->click();
@@ -202,9 +181,7 @@ private Q_SLOTS:
 
         RunningListView trayList(services());
         QVERIFY(!trayList.findChild<ItemListView*>());
-        QVERIFY(trayList.findChild<QLabel*>(QStringLiteral("runningNow"))
-                    ->text()
-                    .contains(QLatin1String("locked")));
+        QVERIFY(child<QLabel>(&trayList, "runningNow")->text().contains(QLatin1String("locked")));
 
         Dialogs::answerNext(QStringLiteral("Ok"));
         shell.quickAdd();

@@ -41,13 +41,8 @@ Balloon* shownBalloon()
 // Each prompt on screen, driven by its buttons as a user would.
 class TestPromptViews : public DesktopTest {
     Q_OBJECT
-public:
-    TestPromptViews()
-        : DesktopTest({2026, 11, 23, 10, 15, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 15, 0); }
 
-private:
     Item* item(const QString& title, Date due, int minutes = 0)
     {
         Item* r = app().addItem(title, due);
@@ -63,8 +58,7 @@ private Q_SLOTS:
         ReminderPromptView alone(services(), due, nullptr);
         QSignalSpy answered(&alone, &PromptView::answered);
         alone.show();
-        QVERIFY(
-            !alone.findChild<QPushButton*>(QStringLiteral("finishPrevious"))->isVisibleTo(&alone));
+        QVERIFY(!child<QPushButton>(&alone, "finishPrevious")->isVisibleTo(&alone));
         click(&alone, "start");
         QCOMPARE(app().running().item(), due);
         QCOMPARE(*due->timeLimit(), 600);
@@ -155,7 +149,7 @@ private Q_SLOTS:
         Project* today = app().addProject(QStringLiteral("Today"));
         IdlePromptView prompt(services(), at(2026, 11, 23, 10, 0), false, today);
         prompt.show();
-        QCOMPARE(prompt.findChild<QComboBox*>(QStringLiteral("projects"))->currentIndex(), 1);
+        QCOMPARE(child<QComboBox>(&prompt, "projects")->currentIndex(), 1);
         prompt.answerField()->setText(QStringLiteral("planning"));
         auto* alreadyDone = prompt.findChild<QPushButton*>(QStringLiteral("alreadyDone"));
         alreadyDone->click();

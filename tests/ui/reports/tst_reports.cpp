@@ -25,13 +25,8 @@ public Q_SLOTS:
 // Reports: what they hold, and the PDF read back as a reader would.
 class TestReports : public DesktopTest {
     Q_OBJECT
-public:
-    TestReports()
-        : DesktopTest({2026, 11, 23, 10, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
-private:
     static QString pdfText(const QString& path)
     {
         QProcess reader;

@@ -63,13 +63,8 @@ private:
 // window manager, a second window that has the focus, and keys typed through the X server.
 class TestPromptFocus : public DesktopTest {
     Q_OBJECT
-public:
-    TestPromptFocus()
-        : DesktopTest({2026, 11, 23, 10, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
-private:
     std::unique_ptr<WindowManager> m_manager;
     std::unique_ptr<ShellWindows> m_ui;
     std::unique_ptr<QLineEdit> m_editor;

@@ -1,5 +1,3 @@
-#include "core/activity/ItemActions.h"
-#include "core/backup/Backups.h"
 #include "support/DesktopTest.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/MainView.h"
@@ -19,11 +17,7 @@ using namespace lullet::test;
 
 class TestShell : public DesktopTest {
     Q_OBJECT
-public:
-    TestShell()
-        : DesktopTest({2026, 11, 23, 10, 0})
-    {
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
 private Q_SLOTS:
     // The icon comes before the store is read: its panel says so, and the window asked for
@@ -66,26 +60,32 @@ private Q_SLOTS:
         QVERIFY(!(ui.window.windowFlags() & Qt::WindowMinimizeButtonHint));
     }
 
-    void workingSizeUnlessLocked()
+    // At least 600 by 600 once past the welcome, brought back when minimised, and back where
+    // the user left it, at its size, in the next run.
+    void theWindowsSizeAndPlace()
     {
+        {
+            ShellWindows ui(app());
+            ui.window.resize(700, 600);
+            ui.shell.prepareMainWindow(true);
+            QCOMPARE(ui.window.minimumSize(), QSize(600, 600));
+            QCOMPARE(ui.window.size(), QSize(700, 600));
+            ui.shell.prepareMainWindow(false);
+            QCOMPARE(ui.window.size(), QSize(600, 600));
+            QVERIFY(ui.window.maximumWidth() >= 600);
+            ui.window.showMinimized();
+            QVERIFY(ui.window.isMinimized());
+            ui.shell.bringMainWindowForward();
+            QVERIFY(!ui.window.isMinimized());
+            QVERIFY(ui.window.isVisible());
+            ui.window.setGeometry(QRect(120, 90, 700, 640));
+            ui.window.close();
+        }
+        QVERIFY(!app().settings.value(SettingsKeys::mainWindowGeometry).toByteArray().isEmpty());
         ShellWindows ui(app());
-        ui.window.resize(700, 600);
-        ui.shell.prepareMainWindow(true);
-        QCOMPARE(ui.window.minimumSize(), QSize(600, 600));
-        QCOMPARE(ui.window.size(), QSize(700, 600));
-        ui.shell.prepareMainWindow(false);
-        QCOMPARE(ui.window.size(), QSize(600, 600));
-        QVERIFY(ui.window.maximumWidth() >= 600);
-    }
-
-    void aSecondLaunchBringsBackAMinimisedWindow()
-    {
-        ShellWindows ui(app());
-        ui.window.showMinimized();
-        QVERIFY(ui.window.isMinimized());
         ui.shell.bringMainWindowForward();
-        QVERIFY(!ui.window.isMinimized());
-        QVERIFY(ui.window.isVisible());
+        QCOMPARE(ui.window.size(), QSize(700, 640));
+        QCOMPARE(ui.window.geometry().topLeft(), QPoint(120, 90));
     }
 
     void questionsAreAnsweredInAdvanceByTheirButtons()
@@ -101,61 +101,21 @@ private Q_SLOTS:
                  (QStringList{QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}));
     }
 
-    void theTrayMenuCanQuitAndOpen()
-    {
-        ShellWindows ui(app());
-        MainWindow& window = ui.window;
-        Shell& shell = ui.shell;
-        shell.showTray();
-        bool quit = false;
-        connect(&shell, &Shell::quitRequested, this, [&] { quit = true; });
-        QMenu* trayMenu = nullptr;
-        for (QMenu* m : window.findChildren<QMenu*>()) {
-            for (QAction* a : m->actions()) {
-                if (a->text() == QStringLiteral("Quit Lullet") && m->title().isEmpty())
-                    trayMenu = m;
-            }
-        }
-        QVERIFY(trayMenu);
-        for (QAction* a : trayMenu->actions()) {
-            if (a->text() == QStringLiteral("Open Lullet"))
-                a->trigger();
-        }
-        QVERIFY(window.isVisible());
-        for (QAction* a : trayMenu->actions()) {
-            if (a->text() == QStringLiteral("Quit Lullet"))
-                a->trigger();
-        }
-        QVERIFY(quit);
-    }
-
-    // The window comes back where the user left it, and at its size.
-    void theWindowKeepsItsPlace()
-    {
-        {
-            ShellWindows ui(app());
-            ui.shell.bringMainWindowForward();
-            ui.window.setGeometry(QRect(120, 90, 700, 640));
-            ui.window.close();
-        }
-        QVERIFY(!app().settings.value(SettingsKeys::mainWindowGeometry).toByteArray().isEmpty());
-        ShellWindows ui(app());
-        ui.shell.bringMainWindowForward();
-        QCOMPARE(ui.window.size(), QSize(700, 640));
-        QCOMPARE(ui.window.geometry().topLeft(), QPoint(120, 90));
-    }
-
-    // Quick add from the window's menu and the tray's menu, with the platform's "new" key.
-    void quickAddFromTheMenus()
+    // Quick add from the window's menu and the tray's menu, with the platform's "new" key; the
+    // tray's menu opens the window and quits.
+    void theMenus()
     {
         ShellWindows ui(app());
         ui.shell.showTray();
         int withShortcut = 0;
+        QMenu* trayMenu = nullptr;
         for (QMenu* menu : ui.window.findChildren<QMenu*>()) {
             for (QAction* action : menu->actions()) {
                 if (action->text().remove(u'&') == QStringLiteral("Quick Add") &&
                     action->shortcut() == QKeySequence(QKeySequence::New))
                     ++withShortcut;
+                if (action->text() == QStringLiteral("Quit Lullet") && menu->title().isEmpty())
+                    trayMenu = menu;
             }
         }
         QCOMPARE(withShortcut, 2);
@@ -168,6 +128,17 @@ private Q_SLOTS:
         QVERIFY(quick);
         QTest::keyClick(quick->nameField(), Qt::Key_Escape);
         QVERIFY(!quick->isVisible());
+
+        QVERIFY(trayMenu);
+        QSignalSpy quit(&ui.shell, &Shell::quitRequested);
+        for (const QString& text : {QStringLiteral("Open Lullet"), QStringLiteral("Quit Lullet")}) {
+            for (QAction* action : trayMenu->actions()) {
+                if (action->text() == text)
+                    action->trigger();
+            }
+            QCOMPARE(quit.count(), text == QStringLiteral("Quit Lullet") ? 1 : 0);
+        }
+        QVERIFY(ui.window.isVisible());
     }
 
     // From the menu: a copy saved by hand is shown in the file manager; a restore comes back on
@@ -205,11 +176,7 @@ private Q_SLOTS:
         QCOMPARE(library().items().size(), std::size_t(1));
 
         // A text file is refused, and the user is told why.
-        const QString text = path(QStringLiteral("notes.txt"));
-        QFile notes(text);
-        QVERIFY(notes.open(QIODevice::WriteOnly));
-        notes.write("not a store");
-        notes.close();
+        const QString text = writeFile(QStringLiteral("notes.txt"), "not a store");
         Dialogs::forgetAsked();
         Dialogs::answerNext(QStringLiteral("Ok"));
         Dialogs::chooseFileNext(text);

@@ -135,10 +135,8 @@ private Q_SLOTS:
         QVERIFY(actions().finish(*second));
         QVERIFY(*second->hasFinished() && !*second->hasStarted());
         QVERIFY(!app().running().item());
-    }
 
-    void aToDoStartIsDoneWithItsNext()
-    {
+        // A to-do's start is its confirmation, and makes its next occurrence.
         services().catalogue.registerRule(
             app().addRule(QStringLiteral("Water"), RepeatUnit::Hour, 1, at(2026, 11, 25, 9, 0)));
         Item* occurrence = library().items().front();

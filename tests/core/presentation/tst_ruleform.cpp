@@ -43,8 +43,22 @@ class TestRuleForm : public LaunchedTest {
     }
 
 private Q_SLOTS:
+    // Refusals change nothing; a new rule is stored with its id and its occurrence, and the
+    // notice's menu row as that row.
     void aNewRuleIsStoredWithItsIdAndOccurrence()
     {
+        RuleForm f = form();
+        RuleForm::Fields fields = f.blankFields();
+        fields.title = QStringLiteral("   ");
+        QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::BlankName);
+        fields.title = QStringLiteral("Review");
+        for (const QString& count : {QString(), QStringLiteral("0")}) {
+            fields.repeatCount = count;
+            QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::NoRepeatCount);
+        }
+        QVERIFY(library().rules().empty());
+        QVERIFY(library().items().empty());
+
         Rule* rule = timedRule();
         QVERIFY(rule);
         QCOMPARE(*rule->uniqueId(), QStringLiteral("Stretch_1795420817.0"));
@@ -54,21 +68,15 @@ private Q_SLOTS:
         QCOMPARE(*rule->dtReminder(), at(2026, 11, 23, 10, 0));
         QCOMPARE(openOf(rule).size(), std::size_t(1));
         QCOMPARE(*openOf(rule).front()->dtReminder(), at(2026, 11, 23, 10, 0));
-    }
 
-    void refusalsChangeNothing()
-    {
-        RuleForm f = form();
-        RuleForm::Fields fields = f.blankFields();
-        fields.title = QStringLiteral("   ");
-        QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::BlankName);
-        fields.title = QStringLiteral("Stretch");
-        for (const QString& count : {QString(), QStringLiteral("0")}) {
-            fields.repeatCount = count;
-            QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::NoRepeatCount);
-        }
-        QVERIFY(library().rules().empty());
-        QVERIFY(library().items().empty());
+        fields = f.blankFields();
+        fields.title = QStringLiteral("Review");
+        fields.remindBeforeRow = 8; // "10 days"
+        QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::Saved);
+        rule = library().rules().back();
+        QCOMPARE(*rule->remindBefore(), 8);
+        QCOMPARE(RuleForm::fieldsOf(*rule).remindBeforeRow, 8);
+        QCOMPARE(RemindBefore::labels().at(8), QStringLiteral("10 days"));
     }
 
     // Only a change of the schedule replaces the open occurrence; notes or a new time of day on
@@ -112,19 +120,6 @@ private Q_SLOTS:
         fields.active = false;
         QCOMPARE(f.done(fields, rule, false), RuleForm::Outcome::Saved);
         QVERIFY(openOf(rule).empty());
-    }
-
-    void theNoticeRowIsStoredAsItsRow()
-    {
-        RuleForm::Fields fields = form().blankFields();
-        fields.title = QStringLiteral("Review");
-        fields.remindBeforeRow = 8; // "10 days"
-        RuleForm f = form();
-        QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::Saved);
-        Rule* rule = library().rules().back();
-        QCOMPARE(*rule->remindBefore(), 8);
-        QCOMPARE(RuleForm::fieldsOf(*rule).remindBeforeRow, 8);
-        QCOMPARE(RemindBefore::labels().at(8), QStringLiteral("10 days"));
     }
 
     // A suggestion's defaults fill the form; stored from there it stays a suggestion's rule.

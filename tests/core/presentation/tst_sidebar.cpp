@@ -84,20 +84,18 @@ private Q_SLOTS:
 
     void aSearchResultLeadsToItsList()
     {
+        const auto segmentOf = [this](const Item* item) {
+            return Sidebar::segmentFor(*item, clock().now());
+        };
         Project* home = library().newProject();
-        QCOMPARE(Sidebar::segmentFor(*item(QStringLiteral("In project"), std::nullopt, home),
-                                     clock().now()),
+        QCOMPARE(segmentOf(item(QStringLiteral("In project"), std::nullopt, home)),
                  Segment::Project);
         Item* done = item(QStringLiteral("Done"), at(2026, 11, 20));
         done->setHasFinished(true);
-        QCOMPARE(Sidebar::segmentFor(*done, clock().now()), Segment::Completed);
-        QCOMPARE(Sidebar::segmentFor(*item(QStringLiteral("No date"), std::nullopt), clock().now()),
-                 Segment::Anytime);
-        QCOMPARE(Sidebar::segmentFor(*item(QStringLiteral("Late"), at(2026, 11, 1)), clock().now()),
-                 Segment::Today);
-        QCOMPARE(
-            Sidebar::segmentFor(*item(QStringLiteral("Later"), at(2026, 11, 27)), clock().now()),
-            Segment::Upcoming);
+        QCOMPARE(segmentOf(done), Segment::Completed);
+        QCOMPARE(segmentOf(item(QStringLiteral("No date"), std::nullopt)), Segment::Anytime);
+        QCOMPARE(segmentOf(item(QStringLiteral("Late"), at(2026, 11, 1))), Segment::Today);
+        QCOMPARE(segmentOf(item(QStringLiteral("Later"), at(2026, 11, 27))), Segment::Upcoming);
     }
 
     void projectsAreNamedDeletedAndDuplicated()

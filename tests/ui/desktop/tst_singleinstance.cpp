@@ -23,12 +23,18 @@ class TestSingleInstance : public test::FolderTest {
     Q_OBJECT
     QString runtime() const { return path(QStringLiteral("run")); }
 
-private Q_SLOTS:
-    void oneInstanceTakesTheRequestsOfTheNext()
+    // The runtime folder, the user's alone unless others are given rights to it too.
+    void makeRuntime(QFileDevice::Permissions others = {}) const
     {
         QVERIFY(QDir().mkpath(runtime()));
         QFile::setPermissions(runtime(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                             QFileDevice::ExeOwner);
+                                             QFileDevice::ExeOwner | others);
+    }
+
+private Q_SLOTS:
+    void oneInstanceTakesTheRequestsOfTheNext()
+    {
+        makeRuntime();
         // A file left where the socket belongs, as after a crash, is replaced.
         writeFile(QStringLiteral("run/lullet.socket"), {});
         SingleInstance first(runtime());
@@ -50,9 +56,7 @@ private Q_SLOTS:
     // A relaunch waits for the instance before it to let go, and only so long.
     void aRelaunchWaitsForTheEndingInstance()
     {
-        QVERIFY(QDir().mkpath(runtime()));
-        QFile::setPermissions(runtime(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                             QFileDevice::ExeOwner);
+        makeRuntime();
         const QByteArray lockPath = QFile::encodeName(runtime() + QStringLiteral("/lullet.lock"));
         const int ending = ::open(lockPath.constData(), O_RDWR | O_CREAT, 0600);
         QVERIFY(ending >= 0);
@@ -100,10 +104,7 @@ private Q_SLOTS:
 
     void aFolderOthersMayWriteIsRefused()
     {
-        QVERIFY(QDir().mkpath(runtime()));
-        QFile::setPermissions(runtime(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                             QFileDevice::ExeOwner | QFileDevice::WriteOther |
-                                             QFileDevice::ReadOther | QFileDevice::ExeOther);
+        makeRuntime(QFileDevice::WriteOther | QFileDevice::ReadOther | QFileDevice::ExeOther);
         SingleInstance instance(runtime());
         QCOMPARE(instance.claim(), SingleInstance::Role::Failed);
         QVERIFY(instance.errorMessage().contains(runtime()));

@@ -84,15 +84,17 @@ private Q_SLOTS:
         QCOMPARE(*later->dtReminderPostponed(), at(2026, 11, 23, 10, 45));
     }
 
-    void theMoreTimeMenuExtendsTheRunningItem()
+    // The time-over prompt's menu extends the running item, its Finish ends it; the to-do
+    // prompt confirms or leaves alone.
+    void theTimeOverAndToDoPrompts()
     {
         Item* r = item(QStringLiteral("Nap"), at(2026, 11, 23, 10, 0), 20);
         app().running().start(*r);
         TimeOverPromptView prompt(services(), r);
-        auto* more = prompt.findChild<QPushButton*>(QStringLiteral("moreTime"));
-        QVERIFY(more && more->menu());
+        QMenu* more = child<QPushButton>(&prompt, "moreTime")->menu();
+        QVERIFY(more);
         QAction* fifteen = nullptr;
-        for (QAction* a : more->menu()->actions()) {
+        for (QAction* a : more->actions()) {
             if (a->data().toInt() == 15)
                 fifteen = a;
         }
@@ -103,17 +105,14 @@ private Q_SLOTS:
         click(&again, "finish");
         QVERIFY(*r->hasFinished());
         QVERIFY(!app().running().item());
-    }
 
-    void theToDoPromptConfirmsOrLeavesAlone()
-    {
         Item* todo = item(QStringLiteral("Water"), at(2026, 11, 23, 10, 15));
         todo->setRepeatOption(RepeatEnd::toDoMarker);
-        TodoPromptView prompt(services(), todo);
-        click(&prompt, "dismiss");
+        TodoPromptView dismissed(services(), todo);
+        click(&dismissed, "dismiss");
         QVERIFY(!*todo->hasFinished());
-        TodoPromptView again(services(), todo);
-        click(&again, "done");
+        TodoPromptView done(services(), todo);
+        click(&done, "done");
         QVERIFY(*todo->hasFinished());
     }
 
@@ -141,8 +140,13 @@ private Q_SLOTS:
         QCOMPARE(*app().running().item()->title(), QStringLiteral("Reading"));
         // A valid answer takes its balloon away.
         QTRY_VERIFY(!shownBalloon());
+        // A balloon left alone closes by itself.
+        QPointer<Balloon> brief = Balloon::show(QStringLiteral("Nope"), prompt.answerField(), 20);
+        QVERIFY(brief && brief->isVisible());
+        QTRY_VERIFY(!brief);
     }
 
+    // A double click records one item, in the project chosen by its place in the menu.
     void aDoubleClickRecordsOneItemInTheProjectChosenByPlace()
     {
         // A project may be named like the menu's first entry.
@@ -151,11 +155,11 @@ private Q_SLOTS:
         prompt.show();
         QCOMPARE(child<QComboBox>(&prompt, "projects")->currentIndex(), 1);
         prompt.answerField()->setText(QStringLiteral("planning"));
-        auto* alreadyDone = prompt.findChild<QPushButton*>(QStringLiteral("alreadyDone"));
+        auto* alreadyDone = child<QPushButton>(&prompt, "alreadyDone");
         alreadyDone->click();
         alreadyDone->click();
-        QCOMPARE(app().library().items().size(), std::size_t(1));
-        QCOMPARE(app().library().items().front()->toProject(), today);
+        QCOMPARE(library().items().size(), std::size_t(1));
+        QCOMPARE(library().items().front()->toProject(), today);
     }
 
     // "Later" puts the question off: closed unanswered, its gap kept for the next question, and
@@ -239,15 +243,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!reminderShown());
         QTRY_COMPARE(server.closed.size(), std::size_t(2));
         QCOMPARE(server.shown.size(), std::size_t(2));
-    }
-
-    void aBalloonClosesByItself()
-    {
-        QLineEdit field;
-        field.show();
-        QPointer<Balloon> balloon = Balloon::show(QStringLiteral("Nope"), &field, 20);
-        QVERIFY(balloon && balloon->isVisible());
-        QTRY_VERIFY(!balloon);
     }
 
     // Prompts take turns in the popover: a reminder waits for the one on show to be answered or

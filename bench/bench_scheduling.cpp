@@ -1,4 +1,5 @@
-// The next date of long-lived minute rules, and the launch pass over rules and a large store.
+// The next date of long-lived minute rules and of rules anchored far in the past, and the launch
+// pass over rules and a large store.
 #include "BenchClock.h"
 #include "BenchLaunch.h"
 #include "core/dates/CalendarContext.h"
@@ -15,6 +16,7 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <vector>
 
 using namespace lullet;
 using namespace lullet::bench;
@@ -41,6 +43,33 @@ int main(int argc, char* argv[])
     });
     std::printf("%-48s %10.3f ms   (the walk: %.0f times slower)\n", "  the same by walking",
                 walked / 1e6, walked / direct);
+
+    // A damaged store may anchor rules thousands of years back; a launch asks each for its next
+    // date twice (its row and its text).
+    std::vector<Rule> ancient(100);
+    for (std::size_t i = 0; i < ancient.size(); ++i) {
+        ancient[i].setDtReminder(Date::dateFromComponents(-1000, 1 + int(i % 12), 1 + int(i % 31),
+                                                          int(i % 24), int(i % 60)));
+        ancient[i].setRepeatInterval(1 + int(i % 3));
+    }
+    const auto everyRule = [&](int unit, auto next) {
+        for (Rule& r : ancient) {
+            r.setRepeatIntervalType(unit);
+            sink = sink + next(r, clock)->timeIntervalSince1970();
+        }
+    };
+    const double monthly =
+        medianNanos(21, [&] { everyRule(RepeatUnit::Month, RepeatRules::nextDate); });
+    report("nextDate, 100 monthly rules from 1001 BC", monthly, 1e6);
+    const double crawled =
+        medianNanos(1, [&] { everyRule(RepeatUnit::Month, RepeatRules::walkToNextDate); });
+    std::printf("%-48s %10.3f ms   (the walk: %.0f times slower)\n", "  the same by walking",
+                crawled / 1e6, crawled / monthly);
+    // A day step stops at each of the zone's changes of offset since the anchor: about 140 in
+    // Berlin since 1893, against some 1.1 million steps of the walk.
+    const double daily =
+        medianNanos(21, [&] { everyRule(RepeatUnit::Day, RepeatRules::nextDate); });
+    report("nextDate, 100 daily rules from 1001 BC", daily, 40e6);
 
     BenchLaunch launch(now);
     Catalogue& catalogue = launch.launched.services().catalogue;

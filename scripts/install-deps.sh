@@ -11,7 +11,8 @@ packages=(
   openbox xdotool x11-utils
   qtkeychain-qt6-dev libsecret-1-0 gnome-keyring
   desktop-file-utils poppler-utils xdg-utils
-  appstream librsvg2-bin dpkg-dev libxcb1-dev
+  appstream librsvg2-bin dpkg-dev libxcb1-dev libxcb-screensaver0-dev
+  libcanberra-dev sound-theme-freedesktop
 )
 
 missing=()

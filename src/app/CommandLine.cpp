@@ -1,13 +1,29 @@
 #include "app/CommandLine.h"
 
+#include <cctype>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 namespace lullet {
 
 namespace {
 
-constexpr const char* usage = "Usage: lullet [--quick-add] [--in-tray] [--help] [--version]\n";
+constexpr const char* usage = "Usage: lullet [--quick-add] [--in-tray] [--pause [MINUTES]] "
+                              "[--resume] [--help] [--version]\n";
+
+// A whole number of minutes, from 1 to a year's.
+bool isMinutes(const char* text)
+{
+    if (!text || !*text || std::strlen(text) > 6)
+        return false;
+    for (const char* c = text; *c; ++c) {
+        if (!std::isdigit(static_cast<unsigned char>(*c)))
+            return false;
+    }
+    const long minutes = std::strtol(text, nullptr, 10);
+    return minutes >= 1 && minutes <= 366L * 24 * 60;
+}
 
 void printHelp()
 {
@@ -17,6 +33,10 @@ void printHelp()
                "\n"
                "  --quick-add  open the quick-add window of the running Lullet\n"
                "  --in-tray    start in the tray without opening the window\n"
+               "  --pause [MINUTES]\n"
+               "               pause the reminders of the running Lullet for MINUTES, or until\n"
+               "               resumed\n"
+               "  --resume     resume the reminders\n"
                "  --help       show this help and exit\n"
                "  --version    show the version and exit\n"
                "\n"
@@ -34,6 +54,12 @@ int CommandLine::parse(int argc, char* argv[], CommandLine& into)
             into.quickAdd = true;
         } else if (std::strcmp(option, "--in-tray") == 0) {
             into.inTray = true;
+        } else if (std::strcmp(option, "--pause") == 0) {
+            into.pause = true;
+            if (i + 1 < argc && isMinutes(argv[i + 1]))
+                into.pauseMinutes = int(std::strtol(argv[++i], nullptr, 10));
+        } else if (std::strcmp(option, "--resume") == 0) {
+            into.resume = true;
         } else if (std::strcmp(option, "--relaunch") == 0) {
             // Only the program gives this to itself; help keeps quiet about it.
             into.relaunch = true;

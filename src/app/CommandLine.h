@@ -11,6 +11,11 @@ struct CommandLine {
     bool inTray = false;
     // Started by the instance before it, which is ending: its lock is waited for.
     bool relaunch = false;
+    // A meeting tool's or a script's: the reminders pause, for that many minutes or (0) until
+    // resumed; or they resume.
+    bool pause = false;
+    int pauseMinutes = 0;
+    bool resume = false;
 
     // Fills `into` and returns -1 when the program should go on; otherwise the exit status, once
     // help, the version or the usage line has been printed.

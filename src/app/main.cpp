@@ -4,6 +4,7 @@
 #include "core/dates/Clock.h"
 #include "core/library/Library.h"
 #include "core/monitor/Monitor.h"
+#include "core/monitor/ReminderPause.h"
 #include "core/scheduling/WorkingSchedule.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
@@ -13,7 +14,9 @@
 #include "ui/desktop/DesktopPresence.h"
 #include "ui/desktop/KeyringSecretStore.h"
 #include "ui/desktop/PlatformChoice.h"
+#include "ui/desktop/PromptSound.h"
 #include "ui/desktop/ScreenSaverInhibitor.h"
+#include "ui/desktop/SessionPresence.h"
 #include "ui/desktop/SingleInstance.h"
 #include "ui/desktop/TerminationSignals.h"
 #include "ui/desktop/TrayIconPainter.h"
@@ -22,6 +25,7 @@
 #include "ui/widgets/Dialogs.h"
 
 #include <QApplication>
+#include <QDBusConnection>
 #include <QIcon>
 #include <QSystemTrayIcon>
 #include <QTimer>
@@ -44,6 +48,38 @@ int endLaunch(const QString& why)
     if (platform != QLatin1String("offscreen") && platform != QLatin1String("minimal"))
         Dialogs::inform(nullptr, why);
     return 1;
+}
+
+// What a second launch asks of the running program.
+QString requestOf(const CommandLine& options)
+{
+    if (options.quickAdd)
+        return QLatin1String(SingleInstance::quickAddRequest);
+    if (options.pause && options.pauseMinutes > 0)
+        return QLatin1String(SingleInstance::pauseRequest) + u' ' +
+               QString::number(options.pauseMinutes);
+    if (options.pause)
+        return QLatin1String(SingleInstance::pauseRequest);
+    if (options.resume)
+        return QLatin1String(SingleInstance::resumeRequest);
+    return QLatin1String(SingleInstance::showRequest);
+}
+
+// Carries out a request, another launch's or this one's own command line.
+void carryOut(const QString& request, Shell& shell, ReminderPause& pause)
+{
+    const QStringList words = request.split(u' ', Qt::SkipEmptyParts);
+    const QString what = words.value(0);
+    if (what == QLatin1String(SingleInstance::quickAddRequest))
+        shell.quickAdd();
+    else if (what == QLatin1String(SingleInstance::showRequest))
+        shell.bringMainWindowForward();
+    else if (what == QLatin1String(SingleInstance::resumeRequest))
+        pause.resume();
+    else if (what == QLatin1String(SingleInstance::pauseRequest) && words.size() > 1)
+        pause.pauseFor(std::max(1, words[1].toInt()));
+    else if (what == QLatin1String(SingleInstance::pauseRequest))
+        pause.pauseUntilResumed();
 }
 
 // The windows of a run, once the core is open.
@@ -87,6 +123,10 @@ void openCore(AppController& core, Shell& shell, MainWindow& window, bool inTray
         return;
     }
     showWindows(core.services(), shell, window, inTray);
+    // What the launch had to mend (a restore cut short, undone) is said once the window is up.
+    if (!opened.message.isEmpty())
+        QTimer::singleShot(
+            0, &window, [&window, notice = opened.message] { Dialogs::inform(&window, notice); });
     core.startMonitoring();
     // A backstop, once the first lists are built: what reading the store freed goes back to the
     // system rather than staying resident all day.
@@ -137,6 +177,13 @@ int main(int argc, char* argv[])
     if (const int status = CommandLine::parse(argc, argv, options); status >= 0)
         return status;
 
+    // Without a window system Qt would abort; the user is told instead.
+    if (!PlatformChoice::hasDisplay(QProcessEnvironment::systemEnvironment())) {
+        std::fprintf(stderr, "Lullet: %s\n",
+                     qPrintable(QCoreApplication::translate(
+                         "main", "no display. Start Lullet in your desktop session.")));
+        return 1;
+    }
     PlatformChoice::apply();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lullet"));
@@ -156,8 +203,7 @@ int main(int argc, char* argv[])
     case SingleInstance::Role::Failed:
         return endLaunch(instance.errorMessage());
     case SingleInstance::Role::Secondary:
-        if (instance.forward(QString::fromLatin1(options.quickAdd ? SingleInstance::quickAddRequest
-                                                                  : SingleInstance::showRequest)))
+        if (instance.forward(requestOf(options)))
             return 0;
         return endLaunch(QStringLiteral("Another Lullet is running but does not answer."));
     case SingleInstance::Role::Primary:
@@ -168,7 +214,8 @@ int main(int argc, char* argv[])
     Settings settings(Settings::defaultPath());
     ScreenSaverInhibitor inhibitor;
     KeyringSecretStore keyring;
-    AppController core(clock, settings, Store::defaultFolder(), inhibitor, keyring);
+    SessionPresence userPresence(QDBusConnection::sessionBus(), QDBusConnection::systemBus());
+    AppController core(clock, settings, Store::defaultFolder(), inhibitor, keyring, &userPresence);
     const QString program = QCoreApplication::applicationFilePath();
     Autostart autostart(Autostart::defaultPath(), program);
     DesktopPresence presence(settings, autostart, QSystemTrayIcon::isSystemTrayAvailable(),
@@ -179,16 +226,14 @@ int main(int argc, char* argv[])
         presence.setTrayAvailable(QSystemTrayIcon::isSystemTrayAvailable());
     });
     DesktopNotifier notifier;
-    Shell shell(core.services(), window, presence, notifier);
+    PromptSound sound;
+    Shell shell(core.services(), window, presence, notifier, &sound);
     shell.showTray();
-    QObject::connect(&instance, &SingleInstance::requestReceived, &app, [&](const QString& r) {
-        if (r == QLatin1String(SingleInstance::quickAddRequest))
-            shell.quickAdd();
-        else if (r == QLatin1String(SingleInstance::showRequest))
-            shell.bringMainWindowForward();
-    });
-    if (options.quickAdd)
-        shell.quickAdd();
+    ReminderPause& pause = core.services().pause;
+    QObject::connect(&instance, &SingleInstance::requestReceived, &app,
+                     [&shell, &pause](const QString& request) { carryOut(request, shell, pause); });
+    if (options.quickAdd || options.pause || options.resume)
+        carryOut(requestOf(options), shell, pause);
     connectQuitPaths(core, shell, window, termination);
     // The first run shows the welcome in the window, whatever the launch asked.
     const bool inTray = settings.welcomeDone() && !presence.windowAtLaunch(options.inTray);

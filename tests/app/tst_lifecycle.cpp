@@ -142,7 +142,8 @@ private Q_SLOTS:
                  QFileDevice::Permissions(owner | QFileDevice::ExeOwner));
     }
 
-    // Help, the version and a wrong option are answered without a display.
+    // Help, the version and a wrong option are answered without a display; a launch without
+    // one says so and ends.
     void theCommandLineNeedsNoDisplay_data()
     {
         QTest::addColumn<QString>("option");
@@ -155,6 +156,8 @@ private Q_SLOTS:
                                  << QByteArray();
         QTest::newRow("wrong") << "--bogus" << 2 << QByteArray()
                                << QByteArray("unknown option '--bogus'\nUsage: lullet");
+        QTest::newRow("a plain launch")
+            << "" << 1 << QByteArray() << QByteArray("Lullet: no display.");
     }
 
     void theCommandLineNeedsNoDisplay()
@@ -167,7 +170,7 @@ private Q_SLOTS:
         env.remove(QStringLiteral("DISPLAY"));
         env.remove(QStringLiteral("WAYLAND_DISPLAY"));
         env.remove(QStringLiteral("QT_QPA_PLATFORM"));
-        const auto lullet = launch({option}, env);
+        const auto lullet = launch(option.isEmpty() ? QStringList{} : QStringList{option}, env);
         QVERIFY(lullet->waitForFinished(10000));
         QCOMPARE(lullet->exitStatus(), QProcess::NormalExit);
         QCOMPARE(lullet->exitCode(), status);

@@ -75,18 +75,21 @@ Project* ProjectActions::duplicateAsNew(const Project& project)
     copy->setName(project.name().value_or(QString()) + QStringLiteral(" Copy"));
     copy->setCreatedDate(m_clock.now());
     copy->setUniqueId(placeholderId());
-    m_library.loadHistory(project);
-    for (const Item* item : std::vector<Item*>(project.toReminders())) {
-        Item* twin = m_library.newItem();
-        twin->setUniqueId(item->uniqueId());
-        twin->setTitle(item->title());
-        twin->setDurationHr(item->durationHr());
-        twin->setDurationMin(item->durationMin());
-        twin->setShouldRemind(item->shouldRemind());
-        twin->setRemindBefore(item->remindBefore());
-        twin->setToProject(copy);
-        m_library.addItem(twin);
-    }
+    // The copies keep no date, no state and no time used.
+    const auto twin = [this, copy](const Item& item) {
+        Item* made = m_library.newItem();
+        made->setUniqueId(item.uniqueId());
+        made->setTitle(item.title());
+        made->setDurationHr(item.durationHr());
+        made->setDurationMin(item.durationMin());
+        made->setShouldRemind(item.shouldRemind());
+        made->setRemindBefore(item.remindBefore());
+        made->setToProject(copy);
+        m_library.addItem(made);
+    };
+    for (const Item* item : std::vector<Item*>(project.toReminders()))
+        twin(*item);
+    m_library.scanHistory(twin, &project);
     m_library.save();
     m_library.addProject(copy);
     return copy;

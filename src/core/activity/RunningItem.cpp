@@ -34,6 +34,9 @@ void RunningItem::start(Item& item, Start how)
 {
     item.setHasStarted(true);
     m_item = &item;
+    // The time with nothing running ends here: an idle question left unanswered before does not
+    // cover what this item times.
+    m_unansweredGapStart.reset();
     if (how == Start::Now) {
         const Date now = m_clock.now();
         // Deliberately the scheduled date first here, unlike the display: the item keeps its own
@@ -74,8 +77,14 @@ void RunningItem::finish(Item& item, Finish how)
         return;
     }
     const Date now = m_clock.now();
-    if (how != Finish::ToDoDone)
+    if (how != Finish::ToDoDone && how != Finish::TakenWhileAway) {
         m_lastPromptAt = now;
+        m_unansweredGapStart.reset();
+    }
+    if (how == Finish::TakenWhileAway) {
+        item.setTimeLimit(item.plannedSeconds());
+        item.setElapsedTime(item.plannedSeconds());
+    }
     item.setRunningTimeCovered(std::nullopt);
     if (how == Finish::FileNow || how == Finish::ToDoDone) {
         item.setDtReminder(now);

@@ -58,6 +58,9 @@ public:
         ToDoDone,
         // Quitting: the item is simply done; nothing else is recorded and nothing saved.
         Quietly,
+        // A break that fell due while the user was away, for at least its length: taken as
+        // planned, at its own time; no event for the idle clock, which asks about the absence.
+        TakenWhileAway,
     };
     void finish(Item& item, Finish how = Finish::Stop);
 

@@ -29,7 +29,7 @@ Date nearestMinute(Date now)
 
 AppController::AppController(const Clock& clock, Settings& settings, const QString& storeFolder,
                              DisplaySleepInhibitor& inhibitor, SecretStore& secrets,
-                             QObject* parent)
+                             UserPresence* presence, QObject* parent)
     : QObject(parent)
     , m_clock(clock)
     , m_settings(settings)
@@ -42,18 +42,24 @@ AppController::AppController(const Clock& clock, Settings& settings, const QStri
     , m_generator(clock, m_library)
     , m_catalogue({clock, m_library, m_generator, m_schedule, m_hours, m_texts})
     , m_running(clock, m_library)
+    , m_historyTotals(m_library, clock, m_running)
     , m_monitor({clock, settings, m_library, m_catalogue, m_hours, m_running, m_lock})
     , m_prompts(m_running)
+    , m_pause(clock, settings)
+    , m_hold({clock, settings, m_pause, presence, m_prompts, m_running})
     , m_itemActions(m_library, m_running, m_catalogue)
     , m_projectActions(clock, m_library)
     , m_postponing(clock, m_library)
     , m_backups({clock, settings, m_store, m_library, m_catalogue, m_running})
     , m_protection(settings, secrets, m_lock)
-    , m_services{clock,         settings,         m_library,    m_schedule, m_hours,     m_texts,
-                 m_generator,   m_catalogue,      m_running,    m_lock,     m_monitor,   m_prompts,
+    , m_services{clock,         settings,         m_library,    m_schedule, m_hours,
+                 m_texts,       m_generator,      m_catalogue,  m_running,  m_historyTotals,
+                 m_lock,        m_monitor,        m_prompts,    m_pause,    m_hold,
                  m_itemActions, m_projectActions, m_postponing, m_backups,  m_protection}
 {
     queueMonitorPrompts();
+    // Before the minute's prompts are asked for: a pause over, the user back.
+    connect(&m_monitor, &Monitor::minutePassed, &m_hold, &PromptHold::refresh);
     // The idle question the lock held back is asked as soon as the user is in.
     connect(&m_lock, &Lock::unlocked, &m_monitor, &Monitor::askWhatNow);
     // The monitor counts in a new period from now on, without a relaunch.

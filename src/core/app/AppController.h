@@ -8,7 +8,10 @@
 #include "core/backup/Backups.h"
 #include "core/library/Library.h"
 #include "core/monitor/Monitor.h"
+#include "core/monitor/PromptHold.h"
 #include "core/monitor/PromptQueue.h"
+#include "core/monitor/ReminderPause.h"
+#include "core/presentation/HistoryTotals.h"
 #include "core/scheduling/Catalogue.h"
 #include "core/scheduling/Generator.h"
 #include "core/scheduling/ScheduleTexts.h"
@@ -31,15 +34,18 @@ namespace lullet {
 class Clock;
 class DisplaySleepInhibitor;
 class Settings;
+class UserPresence;
 
 // The composition root of the core: it builds the services in their order, owns the monitor's
 // timer and the display-sleep inhibit, and runs the start and the stop of the program.
 class AppController final : public QObject {
     Q_OBJECT
 public:
+    // `presence`: the desktop's word on the user (locked, away, ...); none where there is no
+    // desktop to ask.
     AppController(const Clock& clock, Settings& settings, const QString& storeFolder,
                   DisplaySleepInhibitor& inhibitor, SecretStore& secrets,
-                  QObject* parent = nullptr);
+                  UserPresence* presence = nullptr, QObject* parent = nullptr);
     ~AppController() override;
 
     const Services& services() const { return m_services; }
@@ -79,9 +85,12 @@ private:
     Generator m_generator;
     Catalogue m_catalogue;
     RunningItem m_running;
+    HistoryTotals m_historyTotals;
     Lock m_lock;
     Monitor m_monitor;
     PromptQueue m_prompts;
+    ReminderPause m_pause;
+    PromptHold m_hold;
     ItemActions m_itemActions;
     ProjectActions m_projectActions;
     Postponing m_postponing;

@@ -50,30 +50,32 @@ void BackupList::store(const std::vector<BackupInfo>& list)
     m_settings.sync();
 }
 
-void BackupList::prune(Date now)
+QString BackupList::prune(Date now)
 {
     const int option = m_settings.backupOption();
     if (option == 0)
-        return;
+        return {};
     // Only the first option keeps anything: a second, longer one was never reachable.
     const qint64 keep = option == 1 ? keptDays : 0;
     const std::vector<BackupInfo> list = entries();
     if (list.empty())
-        return;
+        return {};
     const Date startOfToday = now.dateAtStartOfDay();
     std::vector<BackupInfo> kept;
+    QStringList failures;
     for (const BackupInfo& info : list) {
         // An entry without its date can't be aged: it stays, unless nothing is kept at all.
         const bool stays =
             info.createdDate ? startOfToday.daysAfterDate(*info.createdDate) < keep : keep > 0;
-        if (stays) {
+        const QString failure = stays ? QString() : deleteFile(info.path);
+        if (stays || !failure.isEmpty())
             kept.push_back(info);
-            continue;
-        }
-        deleteFile(info.path);
+        if (!failure.isEmpty())
+            failures << failure;
     }
     if (kept.size() != list.size())
         store(kept);
+    return failures.join(u'\n');
 }
 
 QString BackupList::deleteFile(const QString& path) const

@@ -21,8 +21,9 @@ public:
     void add(const BackupInfo& info);
     // Copies older than "backupOption" allows leave the list with their files: 0 keeps all, 1
     // keeps what was made in the six days before today and today, any other value keeps nothing.
-    // Only files in the backups folder are ever deleted, whatever the list says.
-    void prune(Date now);
+    // Only files in the backups folder are ever deleted, whatever the list says. A copy whose
+    // file can't be deleted stays listed; the answer says which and why, or is empty.
+    QString prune(Date now);
     // One copy leaves the list, and its file goes. The answer is empty, or why the file could
     // not be deleted (the entry goes all the same: a copy that can't be deleted can't be
     // trusted as one either).

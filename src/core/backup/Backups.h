@@ -8,6 +8,7 @@
 #include <QThreadPool>
 
 #include <functional>
+#include <optional>
 
 namespace lullet {
 
@@ -20,9 +21,10 @@ class Store;
 
 // Copies of the store and restores from them. A copy is made on a worker thread, one at a time,
 // from a connection of its own; the records and the lists stay on the main thread, where every
-// result comes back. A restore looks at the chosen file first, saves, makes a listed safety copy
-// of the present data, and only then swaps the files; a failure at any step leaves the store in
-// use as it was and says why.
+// result comes back. A restore looks at the chosen file, saves, copies the file through SQLite
+// beside the store while it checks it (so what was checked is what comes in), makes a listed
+// safety copy of the present data, and only then swaps the files; a failure at any step leaves
+// the store in use as it was and says why.
 class Backups final : public QObject {
     Q_OBJECT
 public:
@@ -44,7 +46,9 @@ public:
     QString proposedFileName() const;
     bool isRestoring() const { return m_restoring; }
 
-    // At launch, before anything else: old listed copies go, as "backupOption" says.
+    // At launch, before anything else: old listed copies go, as "backupOption" says. A copy
+    // whose file can't be deleted stays listed, and pruneFailed() says so once the launch is
+    // done.
     void pruneAtLaunch();
     // The launch's copy, in the backups folder, listed.
     void createLaunchBackup();
@@ -65,15 +69,22 @@ Q_SIGNALS:
     void restoreRefused(const QString& why);
     // The restore could not be done; the store in use is as it was.
     void restoreFailed(const QString& message);
+    // Old copies could not be deleted at launch, and stay listed: which, and why.
+    void pruneFailed(const QString& failures);
     // Every list was read again from the restored store.
     void restored(const QString& shownProject);
 
 private:
     using Done = std::function<void(const StoreCopy::Result&)>;
-    void copyInBackground(const QString& destination, Done done);
+    void copyInBackground(const QString& source, const QString& destination, Done done,
+                          StoreCopy::Check check = {});
     // A new file in the backups folder, listed as `type` once written.
     void makeListedCopy(const QString& type, const std::function<void(bool ok)>& then);
-    void swap(const QString& path, const QString& shownProject);
+    // Why the chosen file can't be restored, before anything is read of it.
+    std::optional<QString> refusal(const QString& path) const;
+    // Where copies are written before they are moved to their place.
+    QString workFolder() const;
+    void swap(const QString& shownProject);
 
     Services m_services;
     QThreadPool m_worker;

@@ -3,24 +3,40 @@
 #include "core/store/Db.h"
 #include "core/store/StoreSchema.h"
 
+#include <QByteArray>
+#include <QCoreApplication>
 #include <QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace lullet {
 
-std::optional<QString> RestoreCheck::refusal(const QString& path)
+std::optional<QString> RestoreCheck::refusalOfFile(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    // Opened without waiting, so that a pipe with no writer cannot hold the program, and looked
+    // at through that very descriptor.
+    const int fd =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (fd < 0)
         return QStringLiteral("The file could not be read.");
-    const QByteArray header = file.read(100);
-    file.close();
-    if (header.size() < 100 || !header.startsWith(QByteArrayView("SQLite format 3\0", 16)))
+    struct stat info = {};
+    const bool plain = ::fstat(fd, &info) == 0 && S_ISREG(info.st_mode);
+    QByteArray header(100, '\0');
+    const ssize_t got = plain ? ::read(fd, header.data(), std::size_t(header.size())) : 0;
+    ::close(fd);
+    if (!plain)
+        return QCoreApplication::translate("RestoreCheck",
+                                           "Only a file can be restored, and this is a folder, "
+                                           "a device or another special file.");
+    if (got < 100 || !header.startsWith(QByteArrayView("SQLite format 3\0", 16)))
         return QStringLiteral("The file is not a database, so it is no Lullet backup.");
+    return std::nullopt;
+}
 
-    Db db(path, true);
-    if (!db.isOpen())
-        return QStringLiteral("The file could not be opened as a database: %1")
-            .arg(db.errorMessage());
+std::optional<QString> RestoreCheck::refusalOfContent(Db& db)
+{
     const std::optional<QString> quick = db.queryText("PRAGMA quick_check");
     if (quick != QStringLiteral("ok"))
         return QStringLiteral("The file is damaged: %1").arg(quick.value_or(db.errorMessage()));

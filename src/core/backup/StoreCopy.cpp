@@ -43,7 +43,7 @@ bool copyPages(Db& from, Db& to, QString& error)
 } // namespace
 
 StoreCopy::Result StoreCopy::copy(const QString& source, const QString& destination,
-                                  const QString& workFolder)
+                                  const QString& workFolder, const Check& check)
 {
     if (!QFile::exists(source))
         return failed(QStringLiteral("The store %1 does not exist.").arg(source));
@@ -58,10 +58,18 @@ StoreCopy::Result StoreCopy::copy(const QString& source, const QString& destinat
         Db to(temp);
         if (!from.isOpen())
             return failed(
-                QStringLiteral("The store could not be read: %1").arg(from.errorMessage()));
+                QStringLiteral("%1 could not be read: %2").arg(source, from.errorMessage()));
         if (!to.isOpen())
             return failed(
                 QStringLiteral("%1 could not be written: %2").arg(temp, to.errorMessage()));
+        // One reading for the check and the copy, with its log if the source has one.
+        from.exec("BEGIN");
+        if (check) {
+            if (const std::optional<QString> why = check(from)) {
+                QFile::remove(temp);
+                return failed(*why);
+            }
+        }
         QString error;
         if (!copyPages(from, to, error)) {
             QFile::remove(temp);

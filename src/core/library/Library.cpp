@@ -2,6 +2,7 @@
 
 #include "core/library/ItemOrder.h"
 #include "core/library/ProjectOrder.h"
+#include "core/store/Db.h"
 #include "core/store/ObjectContext.h"
 #include "core/store/Store.h"
 #include "core/text/LocalizedText.h"
@@ -55,33 +56,6 @@ void Library::loadItems()
     ItemOrder::sortShared(m_items);
 }
 
-const std::vector<Item*>& Library::allItems()
-{
-    loadHistory();
-    return m_items;
-}
-
-void Library::loadHistory()
-{
-    readHistoryIn(nullptr);
-}
-
-void Library::loadHistory(const Project& project)
-{
-    readHistoryIn(&project);
-}
-
-void Library::readHistoryIn(const Project* project)
-{
-    std::vector<Item*> loaded;
-    const bool ok = context().loadHistory(loaded, project);
-    if (!loaded.empty()) {
-        m_items.insert(m_items.end(), loaded.begin(), loaded.end());
-        sortItemsSoon();
-    }
-    tellRead(ok);
-}
-
 void Library::tellRead(bool ok)
 {
     if (!ok && !m_readFailing)
@@ -99,9 +73,47 @@ quint32 Library::historyVersion() const
     return m_store.context().historyVersion();
 }
 
-void Library::scanHistory(const std::function<void(const Item&)>& visit)
+bool Library::historyLines(std::vector<HistoryOnDisk::Line>& out, HistoryOnDisk::Part part)
 {
-    tellRead(context().scanHistory(visit));
+    const bool ok = m_store.history().lines(out, part);
+    tellRead(ok);
+    return ok;
+}
+
+void Library::scanHistory(const std::function<void(const Item&)>& visit, const Project* project)
+{
+    tellRead(m_store.history().scan(visit, project));
+}
+
+void Library::scanHistoryTitles(
+    const std::function<void(qint64 rowId, QByteArrayView title, const Project* project)>& visit)
+{
+    tellRead(m_store.history().scanTitles(visit));
+}
+
+void Library::readHistory(const std::vector<qint64>& rowIds,
+                          const std::function<void(const Item&)>& visit)
+{
+    // Nothing asked, nothing learnt of the disk: a run of failures goes on.
+    if (!rowIds.empty())
+        tellRead(m_store.history().read(rowIds, visit));
+}
+
+Item* Library::bringIn(qint64 rowId)
+{
+    const bool listed = std::any_of(m_items.begin(), m_items.end(),
+                                    [rowId](const Item* item) { return item->rowId() == rowId; });
+    Item* item = m_store.history().bringIn(rowId);
+    if (!item) {
+        tellRead(context().errorCode() == 0);
+        return nullptr;
+    }
+    if (!listed) {
+        // Told as read, before anyone changes it: what counted it on disk counts it out.
+        Q_EMIT broughtIn(*item);
+        addItem(item);
+    }
+    return item;
 }
 
 void Library::loadRules()
@@ -216,7 +228,7 @@ void Library::deleteProject(Project* project)
 {
     if (!project)
         return;
-    loadHistory(*project);
+    context().deleteHistoryOf(*project);
     const std::vector<Item*> items = project->toReminders();
     removeProject(project);
     for (Item* item : items)
@@ -249,7 +261,8 @@ bool Library::saveQuietly()
 
 QString Library::saveError() const
 {
-    return m_store.context().errorMessage();
+    const ObjectContext& context = m_store.context();
+    return Db::inWords(context.errorCode(), context.errorMessage());
 }
 
 bool Library::save()
@@ -258,9 +271,15 @@ bool Library::save()
         m_saveFailing = false;
         return true;
     }
-    // Told once, not at every save that fails for the same reason.
-    if (!m_saveFailing)
-        Q_EMIT saveFailed(saveError());
+    // Told once, not at every save that fails for the same reason; and told after the current
+    // work, so that a save of the launch, before any window listens, is heard as well.
+    if (!m_saveFailing) {
+        later([this, words = saveError()] {
+            Q_EMIT saveFailed(tr("Your changes could not be saved: %1. Lullet keeps them and "
+                                 "saves them with your next change.")
+                                  .arg(words));
+        });
+    }
     m_saveFailing = true;
     return false;
 }

@@ -3,6 +3,7 @@
 #include "core/model/Item.h"
 #include "core/model/Project.h"
 #include "core/model/Rule.h"
+#include "core/store/HistoryOnDisk.h"
 
 #include <QObject>
 #include <QString>
@@ -32,24 +33,27 @@ public:
     void loadItems();
     void loadRules();
 
-    // The items in memory: every open one and the recent history. Older history stays on disk
-    // until loadHistory() or allItems().
+    // The items in memory: every open one and the recent history. The older history stays on
+    // disk (see HistoryOnDisk), read below by lines, sums and pages, never kept whole.
     const std::vector<Item*>& items() const { return m_items; }
-    // Every item, the whole history read in first.
-    const std::vector<Item*>& allItems();
     const std::vector<Project*>& projects() const { return m_projects; }
     const std::vector<Rule*>& rules() const { return m_rules; }
 
-    // Reads the history still on disk into the list: all of it, or one project's. A read error
-    // is told by readFailed(), and the next call tries the rest again.
-    void loadHistory();
-    void loadHistory(const Project& project);
-    // Whether some history is still on disk, and a number that changes whenever that does.
+    // The history on disk, all of it or one project's. A read error is told by readFailed(), and
+    // what was read is passed on.
+    bool historyLines(std::vector<HistoryOnDisk::Line>& out, HistoryOnDisk::Part part = {});
+    void scanHistory(const std::function<void(const Item&)>& visit,
+                     const Project* project = nullptr);
+    void scanHistoryTitles(const std::function<void(qint64 rowId, QByteArrayView title,
+                                                    const Project* project)>& visit);
+    void readHistory(const std::vector<qint64>& rowIds,
+                     const std::function<void(const Item&)>& visit);
+    // The item of that row of the history, read into memory and listed, to be acted on; none
+    // when it has gone.
+    Item* bringIn(qint64 rowId);
+    // Whether some history stays on disk, and a number that changes whenever it does as a whole.
     bool holdsHistory() const;
     quint32 historyVersion() const;
-    // Shows each item of the history on disk to `visit` without keeping it: for totals that
-    // must count it before anyone lists it. A read error is told by readFailed().
-    void scanHistory(const std::function<void(const Item&)>& visit);
 
     // The folder of the store, where the program keeps its files.
     QString dataFolder() const;
@@ -85,11 +89,12 @@ public:
     // Takes the rule out and deletes its record.
     void deleteRule(Rule* rule);
 
-    // Writes every change. The first of a run of failures is told by saveFailed(); the changes
-    // stay for the next save.
+    // Writes every change. The first of a run of failures is told by saveFailed(), in the user's
+    // words, after the current work; the changes stay for the next save.
     bool save();
     // The same, with a failure left to the caller to tell (quitting asks what to do).
     bool saveQuietly();
+    // Why the last save failed, in the user's words.
     QString saveError() const;
 
     // Tells the views that items changed; `item` is the one added or edited, if there is one.
@@ -133,11 +138,11 @@ Q_SIGNALS:
     void saveFailed(const QString& message);
     // The history on disk could not be read; told once for a run of failures.
     void readFailed(const QString& message);
+    // An item of the history came into memory, as it was on disk.
+    void broughtIn(const lullet::Item& item);
 
 private:
     void later(std::function<void()> emitter);
-    // All of the history on disk, or the project's.
-    void readHistoryIn(const Project* project);
     // Now, or once at the end of the batch.
     void sortItemsSoon();
     void tellRead(bool ok);

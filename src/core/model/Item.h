@@ -103,6 +103,7 @@ public:
 private:
     friend class RecordColumns;
     friend class ObjectContext;
+    friend class HistoryOnDisk;
 
     // Which fields are set: a store of years holds tens of thousands of items, and a bit each
     // costs far less than a std::optional each.

@@ -49,6 +49,7 @@ protected:
 
 private:
     friend class ObjectContext;
+    friend class HistoryOnDisk;
 
     ObjectContext* m_context = nullptr;
     qint64 m_rowId = 0;

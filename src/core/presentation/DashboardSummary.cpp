@@ -4,6 +4,7 @@
 #include "core/model/Item.h"
 #include "core/model/Project.h"
 #include "core/model/RepeatCodes.h"
+#include "core/presentation/HistoryTotals.h"
 #include "core/presentation/TaskStats.h"
 
 #include <algorithm>
@@ -14,8 +15,8 @@ namespace lullet {
 
 namespace {
 
-// The day boundaries the counting needs, worked out once: today's, the end of each advance
-// notice, and the months of this year.
+// The day boundaries the circles need, worked out once: today's, and the end of each advance
+// notice.
 class Boundaries {
 public:
     explicit Boundaries(Date now)
@@ -23,9 +24,6 @@ public:
         , m_todayStart(now.dateAtStartOfDay())
         , m_todayEnd(now.dateByAddingDays(1).dateAtStartOfDay())
     {
-        const Date yearStart = Date::dateFromComponents(now.year(), 1, 1);
-        for (int month = 0; month <= 12; ++month)
-            m_months[std::size_t(month)] = yearStart.dateByAddingMonths(month);
     }
 
     Date now() const { return m_now; }
@@ -42,20 +40,10 @@ public:
         return found->second;
     }
 
-    // 0 to 11 for a date in this year, else none.
-    std::optional<int> monthOf(Date date) const
-    {
-        if (date < m_months.front() || date >= m_months.back())
-            return std::nullopt;
-        const auto after = std::upper_bound(m_months.begin(), m_months.end(), date);
-        return int(after - m_months.begin()) - 1;
-    }
-
 private:
     Date m_now;
     Date m_todayStart;
     Date m_todayEnd;
-    std::array<Date, 13> m_months;
     std::map<int, Date> m_noticeEnds;
 };
 
@@ -83,44 +71,71 @@ void countCircles(DashboardSummary& summary, const Item& item, Boundaries& bound
         ++summary.overdue;
 }
 
-void countMonths(DashboardSummary& summary, const Item& item, const Boundaries& bounds)
+} // namespace
+
+DashboardSummary::Months::Months(Date now)
+    : m_year(now.year())
+{
+    const Date yearStart = Date::dateFromComponents(m_year, 1, 1);
+    for (int month = 0; month <= 12; ++month)
+        m_starts[std::size_t(month)] = yearStart.dateByAddingMonths(month);
+}
+
+std::optional<int> DashboardSummary::Months::monthOf(Date date) const
+{
+    if (date < m_starts.front() || date >= m_starts.back())
+        return std::nullopt;
+    const auto after = std::upper_bound(m_starts.begin(), m_starts.end(), date);
+    return int(after - m_starts.begin()) - 1;
+}
+
+void DashboardSummary::Months::count(std::array<int, 12>& months, const Item& item, int sign) const
 {
     std::optional<int> postponed;
     if (item.dtReminderPostponed())
-        postponed = bounds.monthOf(*item.dtReminderPostponed());
+        postponed = monthOf(*item.dtReminderPostponed());
     std::optional<int> own;
     if (item.dtReminder())
-        own = bounds.monthOf(*item.dtReminder());
+        own = monthOf(*item.dtReminder());
     if (postponed)
-        ++summary.months[std::size_t(*postponed)];
+        months[std::size_t(*postponed)] += sign;
     if (own && own != postponed)
-        ++summary.months[std::size_t(*own)];
+        months[std::size_t(*own)] += sign;
 }
 
-} // namespace
-
 DashboardSummary DashboardSummary::of(const std::vector<Item*>& items,
-                                      const std::vector<Project*>& projects, const Clock& clock,
-                                      const RunningItem& running)
+                                      const std::vector<Project*>& projects, HistoryTotals& history,
+                                      const Clock& clock, const RunningItem& running)
 {
     DashboardSummary summary;
     Boundaries bounds(clock.now());
+    const Months months(clock.now());
     std::vector<Item*> inNoProject;
     for (Item* item : items) {
         countCircles(summary, *item, bounds);
-        countMonths(summary, *item, bounds);
+        months.count(summary.months, *item);
         if (!item->toProject())
             inNoProject.push_back(item);
     }
-    const auto addRow = [&](const QString& title, const std::vector<Item*>& of, Project* project) {
-        const TaskStats stats = TaskStats::of(of, clock, running);
-        summary.rows.push_back({title, int(of.size()), stats.totalTimeAllotted, project});
+    // The history on disk is finished and long past: it counts in months and rows, no circle.
+    for (std::size_t month = 0; month < summary.months.size(); ++month)
+        summary.months[month] += history.months()[month];
+    const auto addRow = [&](const QString& title, const std::vector<Item*>& of,
+                            const TaskStats& onDisk, Project* project) {
+        TaskStats::Tally tally(clock, running);
+        for (const Item* item : of)
+            tally.add(*item);
+        tally.add(onDisk);
+        const TaskStats stats = tally.stats();
+        summary.rows.push_back({title, stats.totalCount, stats.totalTimeAllotted, project});
     };
-    if (!inNoProject.empty())
-        addRow(notInProjectTitle(), inNoProject, nullptr);
+    const TaskStats looseOnDisk = history.sumsInNoProject();
+    if (!inNoProject.empty() || looseOnDisk.totalCount > 0)
+        addRow(notInProjectTitle(), inNoProject, looseOnDisk, nullptr);
     for (Project* project : projects) {
-        if (!project->toReminders().empty())
-            addRow(project->name().value_or(QString()), project->toReminders(), project);
+        const TaskStats onDisk = history.sumsOf(*project);
+        if (!project->toReminders().empty() || onDisk.totalCount > 0)
+            addRow(project->name().value_or(QString()), project->toReminders(), onDisk, project);
     }
     return summary;
 }

@@ -6,11 +6,13 @@
 #include <QStringList>
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace lullet {
 
 class Clock;
+class HistoryTotals;
 class Item;
 class Project;
 class RunningItem;
@@ -38,9 +40,23 @@ struct DashboardSummary {
     // "Not in Project" first, when any item has no project; then the projects, in their order.
     std::vector<ProjectRow> rows;
 
+    // The items in memory, and what the history on disk adds to them.
     static DashboardSummary of(const std::vector<Item*>& items,
-                               const std::vector<Project*>& projects, const Clock& clock,
-                               const RunningItem& running);
+                               const std::vector<Project*>& projects, HistoryTotals& history,
+                               const Clock& clock, const RunningItem& running);
+    // The months of this year in which an item counts: its own date's, and its postponed one's
+    // where that is another.
+    class Months {
+    public:
+        explicit Months(Date now);
+        int year() const { return m_year; }
+        void count(std::array<int, 12>& months, const Item& item, int sign = 1) const;
+
+    private:
+        std::optional<int> monthOf(Date date) const;
+        int m_year;
+        std::array<Date, 13> m_starts;
+    };
     // "JAN" … "DEC".
     static QStringList monthLabels();
     static QString notInProjectTitle() { return QStringLiteral("Not in Project"); }

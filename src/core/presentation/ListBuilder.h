@@ -52,8 +52,6 @@ public:
     public:
         Filter(const Scope& scope, Date now);
         bool accepts(const Item& item) const;
-        // Whether the scope takes in items finished before today, which may still be on disk.
-        bool wantsHistory() const { return !m_anytime && !m_todayWithoutProject && !m_runningOnly; }
 
     private:
         Today m_today;
@@ -65,24 +63,12 @@ public:
     // Whether the item belongs in the list of the scope now.
     static bool belongs(const Item& item, const Scope& scope, Date now);
 
-    // The items of the scope, in the lists' order; the history the scope needs is read in first.
+    // The items in memory of the scope, in the lists' order. The history on disk is the
+    // ListLines' to add.
     static std::vector<Item*> itemsFor(const Scope& scope, Library& library, Date now);
 
     // "Wed 25, Nov 2026": the heading of a day's group.
     static QString dayHeading(Date day);
-    // Rows grouped by day, each day under its heading, the days in date order and the items
-    // without a date last under "Anytime".
-    static std::vector<ListRow> groupByDay(const std::vector<Item*>& items, const Clock& clock,
-                                           bool withProjectName);
-
-    // "Upcoming" (unfinished items dated after now, the nearest day first) or "Completed"
-    // (finished dated items, the newest day first), by day; within a day the later first. A
-    // heading carries the day's count and the time used on it. "Completed" reads the whole
-    // history in first.
-    static std::vector<ListRow> customListing(Segment segment, Library& library,
-                                              const Clock& clock);
-    // Seconds used by day, the days in time order, for the chart.
-    static std::vector<std::pair<Date, int>> timeUsedByDay(const std::vector<ListRow>& rows);
 };
 
 } // namespace lullet

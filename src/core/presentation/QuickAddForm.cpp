@@ -5,6 +5,10 @@
 #include "core/model/Item.h"
 #include "core/model/RepeatCodes.h"
 
+#include <QCoreApplication>
+
+#include <iterator>
+
 namespace lullet {
 
 QuickAddForm::QuickAddForm(const Clock& clock, Library& library)
@@ -19,13 +23,25 @@ void QuickAddForm::reset()
     m_date = m_clock.now().dateByAddingMinutes(10);
 }
 
+namespace {
+
+// The duration menu's minutes, in its order; 0 is none.
+constexpr int durationMinutes[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 15, 30, 60};
+
+} // namespace
+
 QStringList QuickAddForm::durationChoices()
 {
-    return {QStringLiteral("No duration"), QStringLiteral("1 min"),  QStringLiteral("2 min"),
-            QStringLiteral("3 min"),       QStringLiteral("4 min"),  QStringLiteral("5 min"),
-            QStringLiteral("6 min"),       QStringLiteral("7 min"),  QStringLiteral("8 min"),
-            QStringLiteral("9 min"),       QStringLiteral("10 min"), QStringLiteral("15 min"),
-            QStringLiteral("30 min"),      QStringLiteral("1 Hour")};
+    QStringList choices;
+    for (const int minutes : durationMinutes) {
+        if (minutes == 0)
+            choices << QCoreApplication::translate("QuickAddForm", "No duration");
+        else if (minutes == 60)
+            choices << QCoreApplication::translate("QuickAddForm", "1 Hour");
+        else
+            choices << QCoreApplication::translate("QuickAddForm", "%1 min").arg(minutes);
+    }
+    return choices;
 }
 
 QString QuickAddForm::dateLabel() const
@@ -48,14 +64,16 @@ Date QuickAddForm::chooserStart() const
     return m_date.value_or(m_clock.now().dateByAddingMinutes(10));
 }
 
-Item* QuickAddForm::add(const QString& name, Project* project)
+Item* QuickAddForm::add(const QString& name, Project* project, int durationChoice)
 {
     const QString title = name.trimmed();
     if (title.isEmpty())
         return nullptr;
+    const bool known = durationChoice >= 0 && durationChoice < int(std::size(durationMinutes));
+    const int minutes = known ? durationMinutes[durationChoice] : 0;
     Item* item = m_library.newTask(title);
-    item->setDurationHr(0);
-    item->setDurationMin(0);
+    item->setDurationHr(minutes / 60);
+    item->setDurationMin(minutes % 60);
     item->setShouldRemind(m_date.has_value());
     item->setRemindBefore(int(RemindBefore::OnTheDay));
     item->setDtReminder(m_date);

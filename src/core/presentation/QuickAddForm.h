@@ -15,8 +15,8 @@ class Library;
 class Project;
 
 // Adding a plain task by its name: due ten minutes after the form was opened, unless the user
-// picks another date or none, in the chosen project or none. It has no duration, whatever the
-// duration menu shows.
+// picks another date or none, in the chosen project or none, with the duration chosen in its
+// menu.
 class QuickAddForm {
 public:
     QuickAddForm(const Clock& clock, Library& library);
@@ -37,8 +37,9 @@ public:
     // The date that opening the date chooser starts from.
     Date chooserStart() const;
 
-    // Adds the task, to the project or to none; nothing for a blank name.
-    Item* add(const QString& name, Project* project);
+    // Adds the task, to the project or to none, with the duration of that entry of the menu;
+    // nothing for a blank name.
+    Item* add(const QString& name, Project* project, int durationChoice = 0);
 
 private:
     const Clock& m_clock;

@@ -2,6 +2,8 @@
 
 #include "core/dates/Clock.h"
 #include "core/model/Item.h"
+#include "core/model/RepeatCodes.h"
+#include "core/presentation/DashboardSummary.h"
 
 namespace lullet {
 
@@ -34,79 +36,115 @@ QString RowTexts::hoursAndMinutes(int hours, int minutes)
     return twoDigits(hours) + u':' + twoDigits(minutes) + u'm';
 }
 
-void RowTexts::setValues(ListRow& row, const Clock& clock, bool withProjectName)
+QString RowTexts::lateness(const Item& item, Date due, const Clock& clock, bool& dueOrOverdue)
 {
-    const Item* item = row.representedObject;
-    if (!item)
-        return;
     const Date now = clock.now();
-    const Date today = now.dateAtStartOfDay();
-    row.type = ListRow::ItemRow;
-    row.title = item->title().value_or(QString());
-    row.isToDo = item->isToDo();
-    const bool finished = item->isFinished();
-    const bool started = item->isStarted();
-
-    row.dueOrOverdue = false;
-    row.time.clear();
-    if (const std::optional<Date> due = item->effectiveDate()) {
-        QString prefix;
-        if (!due->isToday(clock) && item->remindBefore()) {
-            // Calendar days from today, rounded since a day across a clock change is not 24 h.
-            const qint64 days = qRound64(
-                (due->dateAtStartOfDay().timeIntervalSince1970() - today.timeIntervalSince1970()) /
-                86400.0);
-            if (days > 0) {
-                prefix = QStringLiteral("In %1 day").arg(days) + plural(days);
-            } else if (days < 0 && !finished) {
-                prefix = QStringLiteral("Overdue by %1 day").arg(-days) + plural(-days);
-                row.dueOrOverdue = true;
-            }
-        } else if (due->isToday(clock) && item->remindBefore() && !finished && !started) {
-            const int late = (now.hour() - due->hour()) * 60 + (now.minute() - due->minute());
-            if (late > 0) {
-                const int hours = late / 60;
-                const int minutes = late - hours * 60;
-                prefix = QStringLiteral("Due from ");
-                if (hours > 0)
-                    prefix += QString::number(hours) + QStringLiteral(" hr ");
-                if (minutes > 0)
-                    prefix += QString::number(minutes) + QStringLiteral(" min");
-                row.dueOrOverdue = true;
-            }
+    const bool finished = item.isFinished();
+    if (!due.isToday(clock) && item.remindBefore()) {
+        // Calendar days from today, rounded since a day across a clock change is not 24 h.
+        const qint64 days = qRound64((due.dateAtStartOfDay().timeIntervalSince1970() -
+                                      now.dateAtStartOfDay().timeIntervalSince1970()) /
+                                     86400.0);
+        if (days > 0)
+            return QStringLiteral("In %1 day").arg(days) + plural(days);
+        if (days < 0 && !finished) {
+            dueOrOverdue = true;
+            return QStringLiteral("Overdue by %1 day").arg(-days) + plural(-days);
         }
-        const QString clockTime = due->toString(DateStyle::None, DateStyle::Short);
-        row.time = prefix.isEmpty() ? clockTime : prefix + QStringLiteral(" at ") + clockTime;
+        return {};
     }
+    if (!due.isToday(clock) || !item.remindBefore() || finished || item.isStarted())
+        return {};
+    const int late = (now.hour() - due.hour()) * 60 + (now.minute() - due.minute());
+    if (late <= 0)
+        return {};
+    const int hours = late / 60;
+    const int minutes = late - hours * 60;
+    QString text = QStringLiteral("Due from ");
+    if (hours > 0)
+        text += QString::number(hours) + QStringLiteral(" hr ");
+    if (minutes > 0)
+        text += QString::number(minutes) + QStringLiteral(" min");
+    dueOrOverdue = true;
+    return text;
+}
 
+void RowTexts::setTimeUsed(ListRow& row, const Item& item)
+{
     row.timeUsed.clear();
     row.timeUsedInSeconds = 0;
-    if (started) {
-        const int limit = item->timeLimit().value_or(0);
+    if (item.isStarted()) {
+        const int limit = item.timeLimit().value_or(0);
         row.timeUsed = hoursAndMinutes(limit / 3600, limit % 3600 / 60);
-    } else if (finished) {
-        const int elapsed = item->elapsedTime().value_or(0);
+    } else if (item.isFinished()) {
+        const int elapsed = item.elapsedTime().value_or(0);
         row.timeUsed = getStringFromSeconds(elapsed);
         row.timeUsedInSeconds = elapsed;
     }
+}
 
+void RowTexts::setValues(ListRow& row, const Clock& clock, ProjectName naming)
+{
+    if (row.representedObject)
+        setTexts(row, *row.representedObject, clock, naming);
+}
+
+ListRow RowTexts::textsOf(const Item& item, const Clock& clock, ProjectName naming)
+{
+    ListRow row;
+    setTexts(row, item, clock, naming);
+    return row;
+}
+
+void RowTexts::setTexts(ListRow& row, const Item& record, const Clock& clock, ProjectName naming)
+{
+    const Item* item = &record;
+    row.type = ListRow::ItemRow;
+    row.title = item->title().value_or(QString());
+    row.isToDo = item->isToDo();
+    row.dueOrOverdue = false;
+    row.time.clear();
+    if (const std::optional<Date> due = item->effectiveDate()) {
+        const QString prefix = lateness(*item, *due, clock, row.dueOrOverdue);
+        const QString clockTime = due->toString(DateStyle::None, DateStyle::Short);
+        row.time = prefix.isEmpty() ? clockTime : prefix + QStringLiteral(" at ") + clockTime;
+    }
+    setTimeUsed(row, *item);
     const int hours = item->durationHr().value_or(0);
     const int minutes = item->durationMin().value_or(0);
     row.duration = hours == 0 && minutes == 0 ? QString() : hoursAndMinutes(hours, minutes);
+    setProjectName(row, *item, naming);
+}
 
-    if (withProjectName) {
-        const Project* project = item->toProject();
+void RowTexts::setProjectName(ListRow& row, const Item& item, ProjectName naming)
+{
+    const Project* project = item.toProject();
+    switch (naming) {
+    case ProjectName::None:
+        return;
+    case ProjectName::InList:
         row.projectName = project
                               ? QStringLiteral("Lullet  |  ") + project->name().value_or(QString())
                               : QStringLiteral("Lullet");
+        return;
+    case ProjectName::InReport:
+        // A break, an occurrence of a rule, is the program's own rather than a project's.
+        if (item.uniqueId() && *item.uniqueId() != placeholderId()) {
+            row.projectName = QStringLiteral("Lullet");
+            row.title = QStringLiteral("Lullet  |  ") + row.title;
+            return;
+        }
+        row.projectName =
+            project ? project->name().value_or(QString()) : DashboardSummary::notInProjectTitle();
+        return;
     }
 }
 
-ListRow RowTexts::makeRow(Item* item, const Clock& clock, bool withProjectName)
+ListRow RowTexts::makeRow(Item* item, const Clock& clock, ProjectName naming)
 {
     ListRow row;
     row.representedObject = item;
-    setValues(row, clock, withProjectName);
+    setValues(row, clock, naming);
     return row;
 }
 

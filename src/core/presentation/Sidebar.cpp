@@ -8,17 +8,19 @@
 #include "core/scheduling/Catalogue.h"
 #include "core/scheduling/CatalogueRow.h"
 #include "core/text/LocalizedText.h"
+#include "core/text/TextSearch.h"
 
 #include <QSet>
 
 namespace lullet {
 
 Sidebar::Sidebar(const Clock& clock, Library& library, const Catalogue& catalogue,
-                 const RunningItem& running)
+                 const RunningItem& running, HistoryTotals& history)
     : m_clock(clock)
     , m_library(library)
     , m_catalogue(catalogue)
     , m_running(running)
+    , m_history(history)
 {
 }
 
@@ -36,23 +38,17 @@ Sidebar::Counts Sidebar::counts() const
         c.today += today.accepts(*item) ? 1 : 0;
     }
     // The history on disk is finished and dated long before today: it is only completed.
-    c.completed += history().finishedCount();
+    c.completed += m_history.finishedCount();
     for (const CatalogueRowPtr& row : m_catalogue.rows())
         c.lullets += row->type == CatalogueRow::ItemRow ? 1 : 0;
     return c;
-}
-
-const HistoryTotals& Sidebar::history() const
-{
-    m_history.update(m_library, m_clock, m_running);
-    return m_history;
 }
 
 std::optional<int> Sidebar::countFor(const SidebarRow& row, const Counts& counts) const
 {
     if (row.type == SidebarRow::ProjectRow)
         return row.project ? std::optional<int>(int(row.project->toReminders().size()) +
-                                                history().countIn(*row.project))
+                                                m_history.countIn(*row.project))
                            : std::nullopt;
     if (row.type != SidebarRow::SegmentRow)
         return std::nullopt;
@@ -106,7 +102,7 @@ double Sidebar::projectProgress(const Project& project) const
     TaskStats::Tally tally(m_clock, m_running);
     for (const Item* item : project.toReminders())
         tally.add(*item);
-    tally.add(history().sumsOf(project));
+    tally.add(m_history.sumsOf(project));
     const TaskStats stats = tally.stats();
     return stats.totalTimeAllotted > 0
                ? double(stats.timeCompletedRunning) / double(stats.totalTimeAllotted)
@@ -130,8 +126,6 @@ Segment Sidebar::segmentFor(const Item& item, Date now)
 std::vector<SidebarRow> Sidebar::search(const QString& text,
                                         const std::vector<SidebarRow>& rows) const
 {
-    m_library.loadHistory();
-    std::vector<SidebarRow> found;
     QStringList terms;
     bool today = false;
     bool anytime = false;
@@ -146,44 +140,70 @@ std::vector<SidebarRow> Sidebar::search(const QString& text,
         else
             terms << term;
     }
-    const auto matchesAny = [&terms](const QString& s) {
-        for (const QString& term : terms) {
-            if (LocalizedText::containsCD(s, term))
-                return true;
-        }
-        return false;
-    };
+    const TextSearch search(terms);
+    // The history on disk, read once: its items by title, and the projects whose items match.
+    std::vector<SidebarRow> onDisk;
+    QSet<const Project*> projectsHit;
+    if (!search.isEmpty()) {
+        m_library.scanHistoryTitles([&](qint64 rowId, QByteArrayView title, const Project* of) {
+            if (!search.matches(title))
+                return;
+            SidebarRow result;
+            result.name = QString::fromUtf8(title);
+            result.rowId = rowId;
+            onDisk.push_back(result);
+            if (of)
+                projectsHit.insert(of);
+        });
+    }
+    std::vector<SidebarRow> found = searchRows(rows, search, projectsHit, today, anytime);
+    std::vector<SidebarRow> items = searchItems(search, today, anytime);
+    found.insert(found.end(), items.begin(), items.end());
+    found.insert(found.end(), onDisk.begin(), onDisk.end());
+    return found;
+}
 
-    // Sidebar rows: by name, and projects also by the titles of their items.
+// Sidebar rows: by name, projects also by the titles of their items, and the segments of the
+// special terms.
+std::vector<SidebarRow> Sidebar::searchRows(const std::vector<SidebarRow>& rows,
+                                            const TextSearch& search,
+                                            const QSet<const Project*>& projectsHit, bool today,
+                                            bool anytime)
+{
+    std::vector<SidebarRow> found;
     for (const SidebarRow& row : rows) {
         if (row.type == SidebarRow::Separator)
             continue;
-        bool hit = matchesAny(row.name);
+        bool hit = search.matches(row.name) || projectsHit.contains(row.project);
         if (!hit && row.project) {
-            for (const Item* item : row.project->toReminders())
-                hit = hit || matchesAny(item->title().value_or(QString()));
+            const std::vector<Item*>& items = row.project->toReminders();
+            hit = std::any_of(items.begin(), items.end(), [&search](const Item* item) {
+                return search.matches(item->title().value_or(QString()));
+            });
         }
-        const bool isSegment = row.type == SidebarRow::SegmentRow;
-        if (isSegment && ((today && row.segment == Segment::Today) ||
-                          (anytime && row.segment == Segment::Anytime)))
+        if (row.type == SidebarRow::SegmentRow && ((today && row.segment == Segment::Today) ||
+                                                   (anytime && row.segment == Segment::Anytime)))
             hit = true;
         if (hit)
             found.push_back(row);
     }
+    return found;
+}
 
-    // Items: by title (with or without a project), today's and the anytime ones for the special
-    // terms.
+// Items in memory: by title (with or without a project), today's and the anytime ones for the
+// special terms.
+std::vector<SidebarRow> Sidebar::searchItems(const TextSearch& search, bool today,
+                                             bool anytime) const
+{
     const ListBuilder::Today todayBounds(m_clock.now());
     const Date endOfToday = m_clock.now().dateAtEndOfDay();
-    QSet<const Item*> listed;
+    std::vector<SidebarRow> found;
     for (Item* item : m_library.items()) {
         const QString title = item->title().value_or(QString());
         const std::optional<Date> due = item->dtReminder();
-        const bool byTitle = matchesAny(title);
         const bool isToday = today && due && *due >= todayBounds.start && *due <= endOfToday;
         const bool isAnytime = anytime && !due;
-        if ((byTitle || isToday || isAnytime) && !listed.contains(item)) {
-            listed.insert(item);
+        if (isToday || isAnytime || search.matches(title)) {
             SidebarRow result;
             result.name = title;
             result.item = item;

@@ -3,6 +3,7 @@
 #include "core/presentation/HistoryTotals.h"
 #include "core/presentation/Segment.h"
 
+#include <QSet>
 #include <QString>
 
 #include <optional>
@@ -16,6 +17,7 @@ class Item;
 class Library;
 class Project;
 class RunningItem;
+class TextSearch;
 
 // The sidebar of the main window: the six segments, a separator, then the projects.
 struct SidebarRow {
@@ -27,8 +29,9 @@ struct SidebarRow {
     // Of a segment's row.
     Segment segment = Segment::Today;
     Project* project = nullptr;
-    // Search results may also be items.
+    // Search results may also be items: in memory, or of the history on disk by their row.
     Item* item = nullptr;
+    qint64 rowId = 0;
     std::optional<int> count;
     // A project's progress: time spent against time planned, 0 to 1.
     std::optional<double> progress;
@@ -37,7 +40,7 @@ struct SidebarRow {
 class Sidebar {
 public:
     Sidebar(const Clock& clock, Library& library, const Catalogue& catalogue,
-            const RunningItem& running);
+            const RunningItem& running, HistoryTotals& history);
 
     // The six segments with their counts, the separator, and a row for each project.
     std::vector<SidebarRow> rows() const;
@@ -60,19 +63,22 @@ public:
     static Segment segmentFor(const Item& item, Date now);
 
     // Comma-separated terms; "today" and "anytime" stand for those items. Matching ignores case
-    // and diacritics: rows by name, projects also by the titles of their items, items by title.
-    // The whole history is read in first.
+    // and diacritics: rows by name, projects also by the titles of their items, items by title,
+    // those of the history on disk among them.
     std::vector<SidebarRow> search(const QString& text, const std::vector<SidebarRow>& rows) const;
 
 private:
-    const HistoryTotals& history() const;
+    static std::vector<SidebarRow> searchRows(const std::vector<SidebarRow>& rows,
+                                              const TextSearch& search,
+                                              const QSet<const Project*>& projectsHit, bool today,
+                                              bool anytime);
+    std::vector<SidebarRow> searchItems(const TextSearch& search, bool today, bool anytime) const;
 
     const Clock& m_clock;
     Library& m_library;
     const Catalogue& m_catalogue;
     const RunningItem& m_running;
-    // A cache, brought up to date when read.
-    mutable HistoryTotals m_history;
+    HistoryTotals& m_history;
 };
 
 } // namespace lullet

@@ -9,17 +9,6 @@
 
 namespace lullet {
 
-TaskStats TaskStats::of(const std::vector<ListRow>& rows, const Clock& clock,
-                        const RunningItem& running)
-{
-    Tally tally(clock, running);
-    for (const ListRow& row : rows) {
-        if (row.representedObject)
-            tally.add(*row.representedObject);
-    }
-    return tally.stats();
-}
-
 TaskStats TaskStats::of(const std::vector<Item*>& items, const Clock& clock,
                         const RunningItem& running)
 {
@@ -41,10 +30,10 @@ TaskStats::Tally::Tally(const Clock& clock, const RunningItem& running)
     m_todayEnd = today.end;
 }
 
-void TaskStats::Tally::add(const Item& item)
+TaskStats TaskStats::Tally::contributionOf(const Item& item) const
 {
-    TaskStats& s = m_sums;
-    s.totalCount += 1;
+    TaskStats s;
+    s.totalCount = 1;
     const bool isToDo = item.isToDo();
     const bool started = item.isStarted();
     const bool finished = item.isFinished();
@@ -81,24 +70,30 @@ void TaskStats::Tally::add(const Item& item)
         }
     }
     if (isToDo)
-        return;
+        return s;
     // Running time counts as today's, whatever the item's date.
     if (!finished && started) {
         s.timeCompletedToday += elapsed;
         s.timeCompletedRunning += elapsed;
     }
     s.totalTimeAllotted += limit > 0 ? limit : elapsed;
+    return s;
 }
 
-void TaskStats::Tally::add(const TaskStats& sums)
+void TaskStats::add(const TaskStats& other, int sign)
 {
-    m_sums.totalCount += sums.totalCount;
-    m_sums.totalTimeAllotted += sums.totalTimeAllotted;
-    m_sums.completedCount += sums.completedCount;
-    m_sums.timeCompleted += sums.timeCompleted;
-    m_sums.timeCompletedRunning += sums.timeCompletedRunning;
-    m_sums.countInToday += sums.countInToday;
-    m_sums.timeCompletedToday += sums.timeCompletedToday;
+    totalCount += sign * other.totalCount;
+    totalTimeAllotted += sign * other.totalTimeAllotted;
+    completedCount += sign * other.completedCount;
+    timeCompleted += sign * other.timeCompleted;
+    timeCompletedRunning += sign * other.timeCompletedRunning;
+    countInToday += sign * other.countInToday;
+    timeCompletedToday += sign * other.timeCompletedToday;
+}
+
+void TaskStats::Tally::add(const TaskStats& sums, int sign)
+{
+    m_sums.add(sums, sign);
 }
 
 TaskStats TaskStats::Tally::stats() const

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/dates/Date.h"
-#include "core/presentation/ListRow.h"
 
 #include <optional>
 #include <vector>
@@ -22,10 +21,13 @@ struct TaskStats {
     int countInToday = 0;
     qint64 timeCompletedToday = 0;
 
-    // Counts, planned and spent time of the rows' items. The planned total is never below the
-    // time spent, so the progress never passes 100 %.
-    static TaskStats of(const std::vector<ListRow>& rows, const Clock& clock,
-                        const RunningItem& running);
+    // The head's "Due": what is not complete.
+    int dueCount() const { return totalCount - completedCount; }
+    // Sums of other items added, or taken out.
+    void add(const TaskStats& other, int sign = 1);
+
+    // Counts, planned and spent time of the items. The planned total is never below the time
+    // spent, so the progress never passes 100 %.
     static TaskStats of(const std::vector<Item*>& items, const Clock& clock,
                         const RunningItem& running);
 
@@ -36,14 +38,18 @@ struct TaskStats {
 class TaskStats::Tally {
 public:
     Tally(const Clock& clock, const RunningItem& running);
-    void add(const Item& item);
-    // Sums gathered elsewhere by another tally.
-    void add(const TaskStats& sums);
+    void add(const Item& item) { add(contributionOf(item)); }
+    // Takes out what add() put in for the item as it was then.
+    void remove(const Item& item) { add(contributionOf(item), -1); }
+    // Sums gathered elsewhere by another tally, added or taken out.
+    void add(const TaskStats& sums, int sign = 1);
     // The sums as they stand, the planned total not yet raised to the time spent.
     const TaskStats& sums() const { return m_sums; }
     TaskStats stats() const;
 
 private:
+    TaskStats contributionOf(const Item& item) const;
+
     const RunningItem& m_running;
     Date m_todayStart;
     Date m_todayEnd;

@@ -5,54 +5,53 @@
 #include "core/model/Item.h"
 #include "core/model/Project.h"
 #include "core/presentation/DashboardSummary.h"
-#include "core/presentation/ListBuilder.h"
+#include "core/presentation/ListLines.h"
+#include "core/presentation/ListTexts.h"
 #include "core/presentation/RowTexts.h"
 
-#include <algorithm>
-#include <iterator>
+#include <QCoreApplication>
 
 namespace lullet {
 
-Report Report::ofRows(const QString& title, std::vector<ListRow> rows, const Clock& clock,
-                      const RunningItem& running)
+Report Report::ofLines(const QString& title, const ListLines& lines, Library& library,
+                       const Clock& clock)
 {
     Report report;
     report.title = title;
-    report.stats = TaskStats::of(rows, clock, running);
-    report.rows = std::move(rows);
+    report.stats = lines.stats();
+    report.rows = ListTexts(lines, library, clock, RowTexts::ProjectName::InReport).allRows();
     return report;
 }
 
-Report Report::ofProject(Library& library, Project& project, const Clock& clock,
-                         const RunningItem& running)
+Report Report::ofProject(Library& library, HistoryTotals& history, Project* project,
+                         const Clock& clock, const RunningItem& running)
 {
-    library.loadHistory(project);
-    return ofRows(project.name().value_or(QString()),
-                  ListBuilder::groupByDay(project.toReminders(), clock, true), clock, running);
+    ListLines lines(clock, library, history, running);
+    lines.buildGrouped(project);
+    return ofLines(project ? project->name().value_or(QString())
+                           : DashboardSummary::notInProjectTitle(),
+                   lines, library, clock);
 }
 
-Report Report::ofNoProject(Library& library, const Clock& clock, const RunningItem& running)
+QStringList Report::headCounts(const TaskStats& stats)
 {
-    const std::vector<Item*>& items = library.allItems();
-    std::vector<Item*> loose;
-    std::copy_if(items.begin(), items.end(), std::back_inserter(loose),
-                 [](const Item* item) { return !item->toProject(); });
-    return ofRows(DashboardSummary::notInProjectTitle(),
-                  ListBuilder::groupByDay(loose, clock, true), clock, running);
+    return {QCoreApplication::translate("Report", "Tasks: %1").arg(stats.totalCount),
+            QCoreApplication::translate("Report", "Complete: %1").arg(stats.completedCount),
+            QCoreApplication::translate("Report", "Due: %1").arg(stats.dueCount()),
+            QCoreApplication::translate("Report", "Today: %1").arg(stats.countInToday)};
 }
 
-QStringList Report::headCounts() const
+QString Report::headTimes(const TaskStats& stats)
 {
-    return {QStringLiteral("Tasks: ") + QString::number(stats.totalCount),
-            QStringLiteral("Complete: ") + QString::number(stats.completedCount),
-            QStringLiteral("Due: ") + QString::number(stats.totalCount - stats.completedCount),
-            QStringLiteral("Today: ") + QString::number(stats.countInToday)};
+    return QCoreApplication::translate("Report", "%1 of %2")
+        .arg(RowTexts::getStringFromSeconds(int(stats.timeCompletedRunning)),
+             RowTexts::getStringFromSeconds(int(stats.totalTimeAllotted)));
 }
 
-QString Report::headTimes() const
+QString Report::todayTime(const TaskStats& stats)
 {
-    return RowTexts::getStringFromSeconds(int(stats.timeCompletedRunning)) +
-           QStringLiteral(" of ") + RowTexts::getStringFromSeconds(int(stats.totalTimeAllotted));
+    return QCoreApplication::translate("Report", "Today %1")
+        .arg(RowTexts::getStringFromSeconds(int(stats.timeCompletedToday)));
 }
 
 QString Report::proposedFileName(Date now)

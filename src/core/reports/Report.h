@@ -13,8 +13,10 @@
 namespace lullet {
 
 class Clock;
+class HistoryTotals;
 class Item;
 class Library;
+class ListLines;
 class Project;
 class RunningItem;
 
@@ -29,20 +31,25 @@ struct Report {
     // Completed have one, other reports none.
     std::vector<ChartBar> hoursByDay;
 
-    static Report ofRows(const QString& title, std::vector<ListRow> rows, const Clock& clock,
-                         const RunningItem& running);
-    // Every item of the project, its history read in first.
-    static Report ofProject(Library& library, Project& project, const Clock& clock,
-                            const RunningItem& running);
-    // Every item in no project, grouped as a project's list groups them.
-    static Report ofNoProject(Library& library, const Clock& clock, const RunningItem& running);
+    // A list's lines, every row with its texts, the history's read page by page, under the
+    // list's totals: the same head as the list shows.
+    static Report ofLines(const QString& title, const ListLines& lines, Library& library,
+                          const Clock& clock);
+    // Every item of the project, or every item in no project, grouped by day as a project's list
+    // groups them.
+    static Report ofProject(Library& library, HistoryTotals& history, Project* project,
+                            const Clock& clock, const RunningItem& running);
 
     bool hasItems() const { return stats.totalCount > 0; }
     // "Tasks: 4", "Complete: 1", "Due: 3", "Today: 2": the head's counts, due being what is not
-    // complete.
-    QStringList headCounts() const;
+    // complete. The list's head and the report's read alike.
+    static QStringList headCounts(const TaskStats& stats);
+    QStringList headCounts() const { return headCounts(stats); }
     // "00:30:00 of 02:00:00": time completed, the running item's included, of time planned.
-    QString headTimes() const;
+    static QString headTimes(const TaskStats& stats);
+    QString headTimes() const { return headTimes(stats); }
+    // "Today 00:20:00": time spent today.
+    static QString todayTime(const TaskStats& stats);
     // "Lullet -" and the moment as a file name may hold it.
     static QString proposedFileName(Date now);
     // For mail: one file, replaced each time.

@@ -3,6 +3,7 @@
 #include "core/dates/Clock.h"
 #include "core/model/RepeatCodes.h"
 #include "core/model/Rule.h"
+#include "core/scheduling/CalendarGrid.h"
 
 #include <cmath>
 
@@ -96,10 +97,20 @@ std::optional<Date> RepeatRules::nextDate(const Rule& rule, const Clock& clock)
 
     const int type = *rule.repeatIntervalType();
     const int count = *rule.repeatInterval();
-    const double stepSeconds = fixedSeconds(type, count);
-    if (stepSeconds == 0)
-        return walkToNextDate(rule, clock);
+    switch (type) {
+    case RepeatUnit::Day:
+        return CalendarGrid::firstDayStepFrom(anchor, count, now);
+    case RepeatUnit::Week:
+        return CalendarGrid::firstDayStepFrom(anchor, count * 7, now);
+    case RepeatUnit::Month:
+        return CalendarGrid::firstMonthStepFrom(anchor, count, now);
+    case RepeatUnit::Year:
+        return CalendarGrid::firstMonthStepFrom(anchor, count * 12, now);
+    default:
+        break;
+    }
 
+    const double stepSeconds = fixedSeconds(type, count);
     // The walk adds whole seconds to the anchor k times, each sum exact; k * step is exact too,
     // so anchor + k * step is the walk's own k-th date. k is the fewest steps, at least one,
     // that reach now.

@@ -24,8 +24,9 @@ public:
     // The rule's next date seen from now: an anchor of today at or after the present minute is
     // returned as it is; otherwise the first date of the grid at or after now, at least one step
     // after the anchor. A rule without an anchor answers now; one without a usable step answers
-    // nothing. Minute and hour grids are computed directly, with the very dates the step by step
-    // walk gives.
+    // nothing. Minute and hour grids are computed directly, and day to year grids leap over the
+    // stretches where stepping changes nothing: either way with the very dates the step by step
+    // walk gives, however old the anchor.
     static std::optional<Date> nextDate(const Rule& rule, const Clock& clock);
 
     // One step after the given date; the rule's end is not looked at. An unknown unit answers the

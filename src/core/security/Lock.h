@@ -13,10 +13,11 @@ public:
     using QObject::QObject;
 
     bool isLocked() const { return m_locked; }
-    void lock() { m_locked = true; }
+    void lock();
     void unlock();
 
 Q_SIGNALS:
+    void locked();
     void unlocked();
 
 private:

@@ -23,9 +23,10 @@ Settings::Settings(const QString& filePath, QObject* parent)
     // The user's settings are nobody else's, whatever an earlier version made them.
     PrivateFiles::makeFolder(QFileInfo(filePath).path());
     PrivateFiles::keepFile(filePath);
-    // A password some earlier program left in the file goes at once.
+    // A password some earlier program left in the file goes at once, in whatever form it took.
     const QVariantMap password = dictionary(SettingsKeys::passwordValues);
-    if (!password.value(SettingsKeys::password).toString().isEmpty())
+    const QVariant left = password.value(SettingsKeys::password);
+    if (left.isValid() && left != QVariant(QString()))
         setDictionary(SettingsKeys::passwordValues, password);
 }
 
@@ -166,6 +167,57 @@ void Settings::setDockIcon(bool on)
 void Settings::setStatusBarIcon(bool on)
 {
     write(SettingsKeys::UDStatusBarIcon, on, true);
+}
+
+Settings::Pause Settings::remindersPause() const
+{
+    bool ok = false;
+    const double stored = m_file.value(SettingsKeys::remindersPausedUntil).toDouble(&ok);
+    if (!ok || stored == 0)
+        return Pause::None;
+    return stored < 0 ? Pause::UntilResumed : Pause::Until;
+}
+
+Date Settings::remindersPausedUntil() const
+{
+    return Date(m_file.value(SettingsKeys::remindersPausedUntil).toDouble());
+}
+
+void Settings::setRemindersPause(Pause pause, Date until)
+{
+    switch (pause) {
+    case Pause::None:
+        m_file.remove(SettingsKeys::remindersPausedUntil);
+        m_file.sync();
+        Q_EMIT changed(SettingsKeys::remindersPausedUntil);
+        return;
+    case Pause::Until:
+        write(SettingsKeys::remindersPausedUntil, until.timeIntervalSince1970(), true);
+        return;
+    case Pause::UntilResumed:
+        write(SettingsKeys::remindersPausedUntil, -1, true);
+        return;
+    }
+}
+
+void Settings::setAwayMinutes(int minutes)
+{
+    write(SettingsKeys::awayMinutes, minutes);
+}
+
+void Settings::setHoldWhileFullScreen(bool on)
+{
+    write(SettingsKeys::holdWhileFullScreen, on);
+}
+
+void Settings::setNaturalBreaks(bool on)
+{
+    write(SettingsKeys::naturalBreaks, on);
+}
+
+void Settings::setPromptSound(bool on)
+{
+    write(SettingsKeys::promptSound, on);
 }
 
 void Settings::setMainWindowGeometry(const QByteArray& geometry)

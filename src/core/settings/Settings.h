@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/dates/Date.h"
 #include "core/settings/SettingsKeys.h"
 
 #include <QByteArray>
@@ -70,6 +71,22 @@ public:
     void setDockIcon(bool on);
     bool statusBarIcon() const { return boolean(SettingsKeys::UDStatusBarIcon); }
     void setStatusBarIcon(bool on);
+    // The reminders' pause: none, until a moment, or until the user resumes them.
+    enum class Pause { None, Until, UntilResumed };
+    Pause remindersPause() const;
+    // The pause's end, with Pause::Until.
+    Date remindersPausedUntil() const;
+    void setRemindersPause(Pause pause, Date until = Date());
+
+    int awayMinutes() const { return integer(SettingsKeys::awayMinutes); }
+    void setAwayMinutes(int minutes);
+    bool holdWhileFullScreen() const { return boolean(SettingsKeys::holdWhileFullScreen); }
+    void setHoldWhileFullScreen(bool on);
+    bool naturalBreaks() const { return boolean(SettingsKeys::naturalBreaks); }
+    void setNaturalBreaks(bool on);
+    bool promptSound() const { return boolean(SettingsKeys::promptSound); }
+    void setPromptSound(bool on);
+
     // Where the main window stood, as Qt saves a window's geometry.
     QByteArray mainWindowGeometry() const { return data(SettingsKeys::mainWindowGeometry); }
     void setMainWindowGeometry(const QByteArray& geometry);

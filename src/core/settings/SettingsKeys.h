@@ -31,6 +31,17 @@ inline constexpr QLatin1String UDStatusBarIcon{"UDStatusBarIcon"};
 inline constexpr QLatin1String UDOpenAtLogin{"UDOpenAtLogin"};
 // Where the main window stood and how large it was, as Qt saves a window's geometry.
 inline constexpr QLatin1String mainWindowGeometry{"mainWindowGeometry"};
+// The reminders' pause: absent when not paused, -1 until resumed, else its end in seconds since
+// 1970.
+inline constexpr QLatin1String remindersPausedUntil{"remindersPausedUntil"};
+// Minutes without keyboard or mouse input after which the user counts as away.
+inline constexpr QLatin1String awayMinutes{"awayMinutes"};
+// Prompts wait while another program is full screen.
+inline constexpr QLatin1String holdWhileFullScreen{"holdWhileFullScreen"};
+// A break due while the user is away, for at least its length, counts as taken.
+inline constexpr QLatin1String naturalBreaks{"naturalBreaks"};
+// A prompt comes with a sound from the desktop's sound theme.
+inline constexpr QLatin1String promptSound{"promptSound"};
 
 // Keys inside the "passwordValues" dictionary.
 inline constexpr QLatin1String isPassword{"isPassword"};
@@ -49,9 +60,11 @@ struct Default {
 inline const std::vector<Default>& registeredDefaults()
 {
     static const std::vector<Default> table = {
-        {isShowFirst, 0},        {openAtLogIn, 0},        {isRating, 1},     {remindMe, 2},
-        {promptDuration, 15},    {automaticBackup, true}, {backupOption, 1}, {UDDockIcon, true},
-        {UDStatusBarIcon, true}, {UDOpenAtLogin, false},
+        {isShowFirst, 0},       {openAtLogIn, 0},     {isRating, 1},
+        {remindMe, 2},          {promptDuration, 15}, {automaticBackup, true},
+        {backupOption, 1},      {UDDockIcon, true},   {UDStatusBarIcon, true},
+        {UDOpenAtLogin, false}, {awayMinutes, 5},     {holdWhileFullScreen, true},
+        {naturalBreaks, false}, {promptSound, true},
     };
     return table;
 }

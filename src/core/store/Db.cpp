@@ -2,7 +2,11 @@
 
 #include "core/store/Stmt.h"
 
+#include <QCoreApplication>
+
 #include <sqlite3.h>
+
+#include <cerrno>
 
 namespace lullet {
 
@@ -38,6 +42,42 @@ QString Db::errorMessage() const
     if (!m_db)
         return QString::fromUtf8(sqlite3_errstr(m_openError));
     return QString::fromUtf8(sqlite3_errmsg(m_db.get()));
+}
+
+bool Db::isOutOfSpace() const
+{
+    const int primary = errorCode() & 0xff;
+    if (primary == SQLITE_FULL)
+        return true;
+    // Growing the log's shared memory, or creating a file, fails as an error of input or output.
+    const int cause = m_db ? sqlite3_system_errno(m_db.get()) : 0;
+    return (primary == SQLITE_IOERR || primary == SQLITE_CANTOPEN) &&
+           (cause == ENOSPC || cause == EDQUOT);
+}
+
+QString Db::inWords(int code, const QString& message)
+{
+    switch (code & 0xff) {
+    case SQLITE_FULL:
+        return QCoreApplication::translate("Db", "the disk is full");
+    case SQLITE_READONLY:
+        return QCoreApplication::translate("Db", "the store cannot be written");
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return QCoreApplication::translate("Db", "another program is using the store");
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return QCoreApplication::translate("Db", "the store is damaged");
+    case SQLITE_IOERR:
+        return QCoreApplication::translate("Db", "the disk could not be read or written");
+    default:
+        return message;
+    }
+}
+
+bool Db::inTransaction() const
+{
+    return m_db && !sqlite3_get_autocommit(m_db.get());
 }
 
 void Db::setBusyTimeout(int ms)

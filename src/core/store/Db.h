@@ -21,6 +21,13 @@ public:
     // SQLite's result code of the last failed call, or of opening.
     int errorCode() const;
     QString errorMessage() const;
+    // The last failure came from a disk without room, or a user over their quota.
+    bool isOutOfSpace() const;
+    // A failure in the user's words ("the disk is full"); SQLite's own where it has no better.
+    static QString inWords(int code, const QString& message);
+    // Inside a transaction that is neither committed nor rolled back: SQLite itself rolls back
+    // after some failures (a full disk), and there is then nothing left to roll back.
+    bool inTransaction() const;
 
     // How long a statement waits for another connection's lock before it fails as busy.
     void setBusyTimeout(int ms);

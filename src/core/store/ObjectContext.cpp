@@ -1,6 +1,7 @@
 #include "core/store/ObjectContext.h"
 
 #include "core/store/Db.h"
+#include "core/store/HistoryOnDisk.h"
 #include "core/store/RecordSql.h"
 #include "core/store/Stmt.h"
 #include "core/store/StringPool.h"
@@ -18,19 +19,6 @@
 namespace lullet {
 
 namespace {
-
-// The items of the history: finished, not started, dated before ?2 (and no earlier than any
-// plausible date, ?1). It holds exactly for the rows the program reads as such; a value that
-// reads otherwise (text in a number column, a date out of range) keeps its item in memory.
-constexpr const char* historyCondition =
-    "hasFinished = 1 AND coalesce(hasStarted, 0) = 0 AND "
-    "coalesce(dtReminderPostponed, dtReminder) BETWEEN ?1 AND ?2";
-
-void bindHistoryBounds(Stmt& stmt, Date before)
-{
-    stmt.bind(0, std::optional<Date>(Date(-Stmt::maxPlausibleSeconds)));
-    stmt.bind(1, std::optional<Date>(before));
-}
 
 // Calls f with the record as its own type.
 template <class F> bool visit(Record* record, F&& f)
@@ -70,7 +58,7 @@ ObjectContext::~ObjectContext() = default;
 
 bool ObjectContext::fail()
 {
-    m_errorCode = m_db.errorCode();
+    m_errorCode = m_db.isOutOfSpace() ? SQLITE_FULL : m_db.errorCode();
     m_errorMessage = m_db.errorMessage();
     return false;
 }
@@ -99,7 +87,7 @@ bool ObjectContext::load(std::optional<Date> historyBefore)
             return false;
         if constexpr (std::is_same_v<T, Item>) {
             if (m_historyBefore)
-                bindHistoryBounds(stmt, *m_historyBefore);
+                HistoryOnDisk::bindBounds(stmt, *m_historyBefore);
         }
         while (stmt.step()) {
             T* record = adopt(live);
@@ -119,7 +107,7 @@ bool ObjectContext::load(std::optional<Date> historyBefore)
     if (ok) {
         QByteArray items = "SELECT id, " + RecordSql::columnList<Item>() + " FROM ReminderInfo";
         if (m_historyBefore)
-            items += QByteArray(" WHERE NOT coalesce(") + historyCondition + ", 0)";
+            items += QByteArray(" WHERE NOT coalesce(") + HistoryOnDisk::condition + ", 0)";
         const QHash<qint64, Project*> projects = projectsByRowId();
         ok = loadTable(m_reminders, items, [&](Item* item, const Stmt& stmt, int link) {
             linkToProject(*item, stmt, link, projects);
@@ -131,7 +119,7 @@ bool ObjectContext::load(std::optional<Date> historyBefore)
         return false;
     }
     m_loaded = true;
-    m_historyHeld = m_historyBefore.has_value();
+    ++m_historyVersion;
     return true;
 }
 
@@ -165,69 +153,6 @@ QSet<qint64> ObjectContext::itemRowIds() const
             ids.insert(record->m_rowId);
     }
     return ids;
-}
-
-bool ObjectContext::readHistory(const Project* project, const std::function<void(const Stmt&)>& row)
-{
-    QByteArray sql = "SELECT id, " + RecordSql::columnList<Item>() + " FROM ReminderInfo WHERE " +
-                     historyCondition;
-    if (project)
-        sql += " AND toProject = ?3";
-    Stmt stmt(m_db, sql.constData());
-    if (!stmt.isValid())
-        return fail();
-    bindHistoryBounds(stmt, *m_historyBefore);
-    if (project)
-        stmt.bind(2, std::optional<qint64>(project->rowId()));
-    const QSet<qint64> known = itemRowIds();
-    while (stmt.step()) {
-        if (!known.contains(stmt.columnInt64(0)))
-            row(stmt);
-    }
-    return !stmt.failed() || fail();
-}
-
-bool ObjectContext::loadHistory(std::vector<Item*>& read, const Project* project)
-{
-    if (!m_historyHeld)
-        return true;
-    // A project never saved has no rows on disk.
-    if (project && (!project->rowId() || m_historyReadFor.contains(project->rowId())))
-        return true;
-    StringPool pool;
-    const QHash<qint64, Project*> projects = projectsByRowId();
-    const std::size_t before = read.size();
-    const bool ok = readHistory(project, [&](const Stmt& stmt) {
-        Item* item = adopt(m_reminders);
-        item->m_rowId = stmt.columnInt64(0);
-        linkToProject(*item, stmt, RecordSql::readColumns(stmt, *item, pool), projects);
-        read.push_back(item);
-    });
-    if (ok && project) {
-        m_historyReadFor.insert(project->rowId());
-    } else if (ok) {
-        m_historyHeld = false;
-        m_historyReadFor.clear();
-    }
-    // Totals over the history on disk are worked out again only when it changed.
-    if (read.size() > before || !m_historyHeld)
-        ++m_historyVersion;
-    return ok;
-}
-
-bool ObjectContext::scanHistory(const std::function<void(const Item&)>& visit)
-{
-    if (!m_historyHeld)
-        return true;
-    Item scratch;
-    // Texts read once and dropped are not worth sharing.
-    StringPool pool(StringPool::Share::None);
-    const QHash<qint64, Project*> projects = projectsByRowId();
-    return readHistory(nullptr, [&](const Stmt& stmt) {
-        const int link = RecordSql::readColumns(stmt, scratch, pool);
-        scratch.m_toProject = stmt.isNull(link) ? nullptr : projects.value(stmt.columnInt64(link));
-        visit(scratch);
-    });
 }
 
 const std::vector<Project*>& ObjectContext::projects()
@@ -319,7 +244,33 @@ void ObjectContext::deleteObject(Record* record)
 
 bool ObjectContext::hasChanges() const
 {
-    return !m_inserted.empty() || !m_updated.empty() || !m_deleted.empty();
+    return !m_inserted.empty() || !m_updated.empty() || !m_deleted.empty() ||
+           !m_historyDeletes.empty();
+}
+
+void ObjectContext::deleteHistoryOf(const Project& project)
+{
+    // A project never saved has no history on disk.
+    if (m_historyBefore && project.rowId())
+        m_historyDeletes.push_back(project.rowId());
+}
+
+bool ObjectContext::writeHistoryDeletes()
+{
+    if (m_historyDeletes.empty())
+        return true;
+    // After the updates: an item moved out of the project meanwhile is no longer its own.
+    const QByteArray sql = QByteArray("DELETE FROM ReminderInfo WHERE ") +
+                           HistoryOnDisk::condition + " AND toProject = ?3";
+    Stmt stmt(m_db, sql.constData());
+    for (const qint64 project : m_historyDeletes) {
+        HistoryOnDisk::bindBounds(stmt, *m_historyBefore);
+        stmt.bind(2, std::optional<qint64>(project));
+        if (!stmt.run())
+            return false;
+        stmt.reset();
+    }
+    return true;
 }
 
 bool ObjectContext::writeInserts()
@@ -388,7 +339,7 @@ bool ObjectContext::save()
     Transaction txn(m_db);
     if (!txn.isActive())
         return fail();
-    if (!writeInserts() || !writeUpdates() || !writeDeletes()) {
+    if (!writeInserts() || !writeUpdates() || !writeHistoryDeletes() || !writeDeletes()) {
         fail();
         // The rows written in this try are gone with the rollback.
         for (Record* record : m_inserted)
@@ -410,6 +361,8 @@ bool ObjectContext::save()
     m_inserted.clear();
     m_updated.clear();
     m_deleted.clear();
+    if (!std::exchange(m_historyDeletes, {}).empty())
+        ++m_historyVersion;
     m_errorCode = 0;
     m_errorMessage.clear();
     return true;
@@ -427,9 +380,8 @@ void ObjectContext::reset()
     m_inserted.clear();
     m_updated.clear();
     m_deleted.clear();
+    m_historyDeletes.clear();
     m_loaded = false;
-    m_historyHeld = false;
-    m_historyReadFor.clear();
     ++m_historyVersion;
 }
 

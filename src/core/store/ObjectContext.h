@@ -37,18 +37,13 @@ public:
     bool load(std::optional<Date> historyBefore = std::nullopt);
     bool isLoaded() const { return m_loaded; }
 
-    // Whether some history is still on disk, not among items().
-    bool holdsHistory() const { return m_historyHeld; }
-    // Reads the history on disk into items(), all of it or one project's, and adds the items read
-    // to `read`. An item already here, deleted ones included, is never read twice. False on a
-    // read error: what was read stays, and the next call reads the rest.
-    bool loadHistory(std::vector<Item*>& read, const Project* project = nullptr);
-    // Calls `visit` for every item of the history still on disk, each read into one scratch
-    // record that lives only for the call and is linked to its project one way. False on a
-    // read error.
-    bool scanHistory(const std::function<void(const Item&)>& visit);
-    // Changes whenever the history on disk does: at a load, a reset, or history read in.
+    // Whether the history stays on disk (HistoryOnDisk reads it), not among items().
+    bool holdsHistory() const { return m_historyBefore.has_value(); }
+    // Changes whenever the history on disk does as a whole: at a load, a reset, or a save that
+    // deleted a project's.
     quint32 historyVersion() const { return m_historyVersion; }
+    // The project's history on disk goes with the next save, in its transaction.
+    void deleteHistoryOf(const Project& project);
 
     // Every live record of one entity, in store order; loads the store on first use.
     const std::vector<Project*>& projects();
@@ -75,11 +70,9 @@ public:
 
 private:
     friend class Record;
+    friend class HistoryOnDisk;
     void recordChanged(Record* record);
     template <class T> T* adopt(std::vector<T*>& live);
-    // Runs `select` (the item columns, then the project link) bound to the history's bounds
-    // and, if given, a project; calls `row` with each item that is not here yet.
-    bool readHistory(const Project* project, const std::function<void(const Stmt&)>& row);
     QSet<qint64> itemRowIds() const;
     QHash<qint64, Project*> projectsByRowId() const;
     static void linkToProject(Item& item, const Stmt& stmt, int column,
@@ -88,13 +81,13 @@ private:
     bool writeInserts();
     bool writeUpdates();
     bool writeDeletes();
+    bool writeHistoryDeletes();
 
     Db& m_db;
     bool m_loaded = false;
     std::optional<Date> m_historyBefore;
-    bool m_historyHeld = false;
-    // Projects whose history was read while the rest stays on disk.
-    QSet<qint64> m_historyReadFor;
+    // Rows of projects whose history on disk the next save deletes.
+    std::vector<qint64> m_historyDeletes;
     quint32 m_historyVersion = 0;
     std::vector<std::unique_ptr<Record>> m_owned;
     std::vector<Project*> m_projects;

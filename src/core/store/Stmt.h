@@ -23,6 +23,8 @@ public:
     Stmt(Db& db, const char* sql);
 
     bool isValid() const { return m_stmt != nullptr; }
+    // For columns read in place, without a copy.
+    sqlite3_stmt* handle() const { return m_stmt.get(); }
     // Advances to the next row: true while there is one. A failure ends the rows too; check
     // failed() after the loop.
     bool step();

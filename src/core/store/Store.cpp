@@ -2,8 +2,10 @@
 
 #include "core/dates/Clock.h"
 #include "core/settings/PrivateFiles.h"
+#include "core/store/StoreFiles.h"
 #include "core/store/StoreSchema.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -31,13 +33,23 @@ bool isBusy(int code)
     return primary == SQLITE_BUSY || primary == SQLITE_LOCKED;
 }
 
+// A process stopped in the middle of a change left what only a connection that may write can
+// undo: a journal to roll back, or a log to recover.
+bool needsRecovery(int code)
+{
+    return code == SQLITE_READONLY_ROLLBACK || code == SQLITE_READONLY_RECOVERY;
+}
+
 // SQLite's own words for a failure, or nothing when there was none.
 QString sqliteWords(const Db& db)
 {
     return db.errorCode() == SQLITE_OK ? QString() : QStringLiteral(" (%1)").arg(db.errorMessage());
 }
 
-const char* const sideSuffixes[] = {"-wal", "-shm"};
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Store", text);
+}
 
 } // namespace
 
@@ -60,6 +72,33 @@ QString Store::storePath() const
     return QDir(m_folder).filePath(QString::fromLatin1(storeFileName));
 }
 
+QString Store::preparedPath() const
+{
+    return storePath() + QStringLiteral(".restoring");
+}
+
+QString Store::keptPath() const
+{
+    return storePath() + QStringLiteral(".before-restore");
+}
+
+bool Store::isWorkingFile(const QString& path) const
+{
+    const QString chosen = QFileInfo(path).canonicalFilePath();
+    if (chosen.isEmpty())
+        return false;
+    for (const QString& main : {storePath(), preparedPath(), keptPath()}) {
+        QStringList files{main};
+        for (const char* suffix : StoreFiles::sideSuffixes)
+            files << main + QLatin1String(suffix);
+        for (const QString& file : std::as_const(files)) {
+            if (QFileInfo(file).canonicalFilePath() == chosen)
+                return true;
+        }
+    }
+    return false;
+}
+
 Store::Result Store::open()
 {
     const QFileInfo info(m_folder);
@@ -76,14 +115,55 @@ Store::Result Store::open()
                     .arg(m_folder),
                 {}};
     }
-    return openFile();
+    // A restore's copy left behind by a stop is of no use: a restore makes its own.
+    StoreFiles::remove(preparedPath());
+    QString notice;
+    if (std::optional<Result> failed = putBackAfterCutRestore(notice))
+        return *failed;
+    Result opened = openFile();
+    if (opened.outcome == Outcome::Opened)
+        opened.message = notice;
+    return opened;
+}
+
+// A restore stopped between setting the store aside and putting the new one in its place leaves
+// no store and the one it set aside: that one comes back, and the user is told, rather than a
+// launch starting empty.
+std::optional<Store::Result> Store::putBackAfterCutRestore(QString& notice)
+{
+    if (QFile::exists(storePath()) || !QFile::exists(keptPath()))
+        return std::nullopt;
+    if (!StoreFiles::rename(keptPath(), storePath())) {
+        return Result{Outcome::OpenFailed,
+                      translated("Lullet was stopped during a restore, and your store could not "
+                                 "be put back. Rename %1 to %2, then start Lullet again.")
+                          .arg(keptPath(), storePath()),
+                      {}};
+    }
+    StoreFiles::sync(m_folder);
+    notice = translated("Lullet was stopped during a restore. Your data is as it was before it.");
+    return std::nullopt;
 }
 
 Store::Result Store::fail(Outcome outcome, const QString& what)
 {
+    if (m_db.isOutOfSpace()) {
+        close();
+        return diskFull();
+    }
     const QString words = sqliteWords(m_db);
     close();
     return {outcome, what.arg(storePath()) + words, {}};
+}
+
+Store::Result Store::diskFull() const
+{
+    return {Outcome::DiskFull,
+            QCoreApplication::translate("Store",
+                                        "The disk that holds your Lullet store (%1) is full. "
+                                        "Free some space, then start Lullet again.")
+                .arg(m_folder),
+            {}};
 }
 
 void Store::close()
@@ -118,14 +198,14 @@ Store::Result Store::openFile()
         return fail(Outcome::ReadOnly,
                     QStringLiteral("The store %1 is read-only. Lullet saves every change as it "
                                    "happens: make the file writable and start Lullet again."));
+    case Inspection::NoRoom:
+        return diskFull();
     }
 
     m_db = Db(storePath());
     if (!m_db.isOpen())
         return fail(Outcome::Unreadable, QStringLiteral("The store %1 cannot be opened."));
-    for (const QString& file : {storePath(), storePath() + QLatin1String(sideSuffixes[0]),
-                                storePath() + QLatin1String(sideSuffixes[1])})
-        PrivateFiles::keepFile(file);
+    keepPrivate();
     if (!m_db.queryText("PRAGMA journal_mode = WAL"))
         return fail(isBusy(m_db.errorCode()) ? Outcome::InUse : Outcome::Unreadable,
                     QStringLiteral("The store %1 cannot be read."));
@@ -147,8 +227,10 @@ Store::Result Store::openFile()
     // would only hold the store a second time, all day.
     m_db.exec("PRAGMA cache_size = -512");
 
-    if (!m_context)
+    if (!m_context) {
         m_context = std::make_unique<ObjectContext>(m_db);
+        m_history = std::make_unique<HistoryOnDisk>(*m_context, m_db);
+    }
     // The day's work needs the open items and the recent past; older history is read when a
     // list asks for it.
     const Date historyBefore =
@@ -159,9 +241,16 @@ Store::Result Store::openFile()
         return fail(Outcome::Unreadable, QStringLiteral("The store %1 cannot be loaded."));
     }
     m_open = true;
-    for (const char* suffix : sideSuffixes)
-        PrivateFiles::keepFile(storePath() + QLatin1String(suffix));
+    // The log and its shared memory exist by now.
+    keepPrivate();
     return {Outcome::Opened, {}, {}};
+}
+
+void Store::keepPrivate() const
+{
+    PrivateFiles::keepFile(storePath());
+    for (const char* suffix : StoreFiles::sideSuffixes)
+        PrivateFiles::keepFile(storePath() + QLatin1String(suffix));
 }
 
 // A busy file is looked at again for a while: another program may be copying or checking it.
@@ -196,9 +285,19 @@ Store::Inspection Store::inspectOnce() const
     Db db(storePath(), true);
     // Waiting is done here, between looks, so that a busy file is told as such.
     db.setBusyTimeout(50);
-    if (!db.isOpen())
+    if (!db.isOpen()) {
+        if (db.isOutOfSpace())
+            return Inspection::NoRoom;
         return isBusy(db.errorCode()) ? Inspection::Busy : Inspection::Unreadable;
-    switch (StoreSchema::check(db)) {
+    }
+    StoreSchema::Check found = StoreSchema::check(db);
+    if (found == StoreSchema::Check::Unknown && needsRecovery(db.errorCode())) {
+        recover();
+        db = Db(storePath(), true);
+        db.setBusyTimeout(50);
+        found = StoreSchema::check(db);
+    }
+    switch (found) {
     case StoreSchema::Check::Fresh:
     case StoreSchema::Check::Ours:
         return Inspection::Usable;
@@ -214,7 +313,18 @@ Store::Inspection Store::inspectOnce() const
     // The look could not be completed: only damage that SQLite found says anything.
     if (isDamage(db.errorCode()))
         return Inspection::Damaged;
+    if (db.isOutOfSpace())
+        return Inspection::NoRoom;
     return isBusy(db.errorCode()) ? Inspection::Busy : Inspection::Unreadable;
+}
+
+// What SQLite does on any open for writing, and only that: it puts back the file as it was
+// before the change cut short, whatever program made it.
+void Store::recover() const
+{
+    Db db(storePath());
+    db.setBusyTimeout(50);
+    db.queryInt("SELECT count(*) FROM sqlite_schema");
 }
 
 Store::Result Store::moveAside(const QString& why)
@@ -223,18 +333,13 @@ Store::Result Store::moveAside(const QString& why)
     const QString stamp = m_clock.now().toString(
         DateFormat::custom(QStringLiteral("yyyyMMdd-HHmmss"), QStringLiteral("en_US")));
     const QString aside = storePath() + QStringLiteral(".unreadable-") + stamp;
-    if (!QFile::rename(storePath(), aside)) {
+    // The side files go with it, keeping their suffixes, so the moved store opens with its log.
+    if (!StoreFiles::rename(storePath(), aside)) {
         return {Outcome::OpenFailed,
                 QStringLiteral("The store %1 could not be used (%2), and could not be moved "
                                "aside either.")
                     .arg(storePath(), why),
                 {}};
-    }
-    // The side files go with it, keeping their suffixes, so the moved store opens with its log.
-    for (const char* suffix : sideSuffixes) {
-        const QString side = storePath() + QLatin1String(suffix);
-        if (QFile::exists(side))
-            QFile::rename(side, aside + QLatin1String(suffix));
     }
     return {Outcome::MovedAside,
             QStringLiteral("The store could not be used (%1). It was moved to %2; Lullet will "
@@ -243,59 +348,56 @@ Store::Result Store::moveAside(const QString& why)
             aside};
 }
 
-void Store::removeFiles(const QString& path)
+Store::Result Store::replaceWith(const QString& prepared)
 {
-    QFile::remove(path);
-    for (const char* suffix : sideSuffixes)
-        QFile::remove(path + QLatin1String(suffix));
-}
-
-// The main file and any side files it has, as one.
-bool Store::renameFiles(const QString& from, const QString& to)
-{
-    if (QFile::exists(from) && !QFile::rename(from, to))
-        return false;
-    for (const char* suffix : sideSuffixes) {
-        const QString side = from + QLatin1String(suffix);
-        if (QFile::exists(side))
-            QFile::rename(side, to + QLatin1String(suffix));
+    // What comes in is on the disk before anything is renamed: a crash finds it whole or absent.
+    if (!StoreFiles::sync(prepared)) {
+        return {Outcome::OpenFailed,
+                translated("The restored copy could not be written to the disk, so nothing was "
+                           "restored."),
+                {}};
     }
-    return true;
-}
-
-Store::Result Store::replaceWith(const QString& source)
-{
     // Closing the last connection folds the log into the file: what was saved is in it.
     close();
     const QString live = storePath();
-    const QString kept = live + QStringLiteral(".before-restore");
-    removeFiles(kept);
-    if (!renameFiles(live, kept)) {
+    const QString kept = keptPath();
+    // The store in use takes the place of what an earlier restore set aside in one step, so one
+    // of the two is always there; that one's side files must not meet it.
+    StoreFiles::removeSideFiles(kept);
+    if (!StoreFiles::rename(live, kept)) {
         Result reopened = openFile();
-        reopened.message = QStringLiteral("The store could not be set aside for the restore; "
-                                          "nothing was restored.");
+        if (reopened.outcome == Outcome::Opened)
+            reopened.outcome = Outcome::OpenFailed;
+        reopened.message =
+            translated("Your store could not be set aside for the restore, so nothing was "
+                       "restored.");
         return reopened;
     }
-    // No side file of the old store may stand beside the new one: SQLite would replay it.
-    removeFiles(live);
-    Result opened{
-        Outcome::OpenFailed, QStringLiteral("%1 could not be copied into place.").arg(source), {}};
-    if (QFile::copy(source, live)) {
-        PrivateFiles::keepFile(live);
-        opened = openFile();
-    }
-    if (opened.outcome == Outcome::Opened) {
-        removeFiles(kept);
-        return opened;
-    }
-    // The old store goes back exactly as it was.
+    const bool placed = StoreFiles::rename(prepared, live);
+    StoreFiles::sync(m_folder);
+    const Result opened = placed
+                              ? openFile()
+                              : Result{Outcome::OpenFailed,
+                                       translated("The restored copy could not be put in place."),
+                                       {}};
+    if (opened.outcome != Outcome::Opened)
+        return putBack(opened);
+    StoreFiles::remove(kept);
+    return opened;
+}
+
+// The store that was in use goes back exactly as it was, and opens again.
+Store::Result Store::putBack(const Result& failed)
+{
     close();
-    removeFiles(live);
-    renameFiles(kept, live);
+    StoreFiles::remove(storePath());
+    StoreFiles::rename(keptPath(), storePath());
+    StoreFiles::sync(m_folder);
     Result back = openFile();
-    back.outcome = back.outcome == Outcome::Opened ? Outcome::OpenFailed : back.outcome;
-    back.message = QStringLiteral("The restore failed (%1); your store was put back as it was.")
-                       .arg(opened.message);
+    if (back.outcome == Outcome::Opened)
+        back.outcome = Outcome::OpenFailed;
+    back.message = translated("The restore failed (%1); your store was put back as it was.")
+                       .arg(failed.message);
     return back;
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "core/store/Db.h"
+#include "core/store/HistoryOnDisk.h"
 #include "core/store/ObjectContext.h"
 
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace lullet {
 
@@ -29,7 +31,9 @@ public:
         ReadOnly,
         // Ours, but it lacks its tables: the message says which file to move aside.
         MissingTables,
-        // Could not be opened for another reason (a full disk): files left as they are.
+        // The disk has no room left: files left as they are.
+        DiskFull,
+        // Could not be opened for another reason: files left as they are.
         OpenFailed,
     };
 
@@ -52,19 +56,28 @@ public:
     Store(const Store&) = delete;
     Store& operator=(const Store&) = delete;
 
-    // Opens the folder, the file and the context and loads every record.
+    // Opens the folder, the file and the context and loads every record. A store set aside by a
+    // restore that was cut short is put back first, and the result's message says so.
     Result open();
     bool isOpen() const { return m_open; }
-    // Puts a copy of the file at `source` in the store's place and opens it as a launch does,
-    // with its migrations. The records read before keep their memory, without a context, for
-    // whoever still holds them. On any failure the store it had is put back and opened again,
-    // and the result says what went wrong.
-    Result replaceWith(const QString& source);
+    // Puts the restore's copy, made and checked at preparedPath(), in the store's place and opens
+    // it as a launch does, with its migrations. The swap survives a crash at any moment: the
+    // store in use is set aside at keptPath() until the new one is in place, and a launch puts it
+    // back if the new one never was. The records read before keep their memory, without a
+    // context, for whoever still holds them. On any failure the store it had is open again, and
+    // the result says what went wrong.
+    Result replaceWith(const QString& prepared);
 
     QString folder() const { return m_folder; }
     QString storePath() const;
+    QString preparedPath() const;
+    QString keptPath() const;
+    // The store and the files that come and go beside it: none of them is a backup.
+    bool isWorkingFile(const QString& path) const;
     Db& db() { return m_db; }
     ObjectContext& context() { return *m_context; }
+    // The history the context leaves on disk.
+    HistoryOnDisk& history() { return *m_history; }
 
 private:
     enum class Inspection {
@@ -75,17 +88,23 @@ private:
         Damaged,
         Busy,
         Unreadable,
-        ReadOnly
+        ReadOnly,
+        NoRoom
     };
     Inspection inspect() const;
     Inspection inspectOnce() const;
     Result openFile();
     Result fail(Outcome outcome, const QString& what);
+    Result diskFull() const;
     Result moveAside(const QString& why);
     // Closes the connection; the context forgets its records but keeps their memory.
     void close();
-    void removeFiles(const QString& path);
-    bool renameFiles(const QString& from, const QString& to);
+    // The store a restore set aside, back in its place when no other took it.
+    std::optional<Result> putBackAfterCutRestore(QString& notice);
+    // Lets SQLite roll back what a process stopped in the middle of a change left in the file.
+    void recover() const;
+    void keepPrivate() const;
+    Result putBack(const Result& failed);
 
     QString m_folder;
     const Clock& m_clock;
@@ -93,6 +112,7 @@ private:
     Db m_db;
     // Made once and kept for the run: a replaced store's records must outlive the swap.
     std::unique_ptr<ObjectContext> m_context;
+    std::unique_ptr<HistoryOnDisk> m_history;
     bool m_open = false;
 };
 

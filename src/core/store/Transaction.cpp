@@ -12,7 +12,7 @@ Transaction::Transaction(Db& db)
 
 Transaction::~Transaction()
 {
-    if (m_active)
+    if (m_active && m_db.inTransaction())
         m_db.exec("ROLLBACK");
 }
 
@@ -20,11 +20,13 @@ bool Transaction::commit()
 {
     if (!m_active)
         return false;
+    if (!m_db.exec("COMMIT")) {
+        // What is left is rolled back at the end, once the caller has read why the commit
+        // failed; a rollback now would put its own error in place of that.
+        return false;
+    }
     m_active = false;
-    if (m_db.exec("COMMIT"))
-        return true;
-    m_db.exec("ROLLBACK");
-    return false;
+    return true;
 }
 
 } // namespace lullet

@@ -4,7 +4,7 @@ namespace lullet {
 
 class Db;
 
-// An open write transaction that rolls back unless it was committed.
+// An open write transaction that rolls back, when it ends, unless it was committed.
 class Transaction {
 public:
     explicit Transaction(Db& db);

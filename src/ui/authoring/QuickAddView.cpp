@@ -55,6 +55,7 @@ void QuickAddView::buildOptions(QVBoxLayout* layout)
 {
     auto* options = new QHBoxLayout;
     m_projects->setObjectName(QStringLiteral("projects"));
+    m_duration->setObjectName(QStringLiteral("duration"));
     m_duration->addItems(QuickAddForm::durationChoices());
     m_dateButton->setObjectName(QStringLiteral("chooseDate"));
     // The button shows the date in labels of its own, which a screen reader doesn't read.
@@ -121,7 +122,8 @@ void QuickAddView::keyPressEvent(QKeyEvent* event)
 
 void QuickAddView::add()
 {
-    Item* item = m_form.add(m_name->text(), m_choices.projectAt(m_projects->currentIndex()));
+    Item* item = m_form.add(m_name->text(), m_choices.projectAt(m_projects->currentIndex()),
+                            m_duration->currentIndex());
     if (!item) {
         Balloon::show(QuickAddForm::blankMessage(), m_name);
         return;

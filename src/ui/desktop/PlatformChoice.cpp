@@ -2,14 +2,27 @@
 
 namespace lullet {
 
+namespace {
+
+bool isSet(const QProcessEnvironment& environment, const char* name)
+{
+    return !environment.value(QLatin1String(name)).isEmpty();
+}
+
+} // namespace
+
 QByteArray PlatformChoice::forSession(const QProcessEnvironment& environment)
 {
-    const auto isSet = [&environment](const char* name) {
-        return !environment.value(QLatin1String(name)).isEmpty();
-    };
-    if (isSet("QT_QPA_PLATFORM") || !isSet("WAYLAND_DISPLAY") || !isSet("DISPLAY"))
+    if (isSet(environment, "QT_QPA_PLATFORM") || !isSet(environment, "WAYLAND_DISPLAY") ||
+        !isSet(environment, "DISPLAY"))
         return {};
     return QByteArrayLiteral("xcb");
+}
+
+bool PlatformChoice::hasDisplay(const QProcessEnvironment& environment)
+{
+    return isSet(environment, "QT_QPA_PLATFORM") || isSet(environment, "WAYLAND_DISPLAY") ||
+           isSet(environment, "DISPLAY");
 }
 
 void PlatformChoice::apply()

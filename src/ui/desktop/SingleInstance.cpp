@@ -4,10 +4,13 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QPointer>
 #include <QSocketNotifier>
 #include <QStandardPaths>
+#include <QStringList>
 #include <QThread>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -53,10 +56,13 @@ QString SingleInstance::defaultFolder()
         .filePath(QStringLiteral("lullet"));
 }
 
-SingleInstance::SingleInstance(QString folder, QObject* parent)
+SingleInstance::SingleInstance(QString folder, std::chrono::milliseconds patience, QObject* parent)
     : QObject(parent)
     , m_folder(std::move(folder))
+    , m_patience(patience)
 {
+    m_sweep.setInterval(m_patience / 2);
+    connect(&m_sweep, &QTimer::timeout, this, &SingleInstance::dropSilentClients);
 }
 
 SingleInstance::~SingleInstance()
@@ -166,36 +172,76 @@ void SingleInstance::accept()
 {
     for (;;) {
         const int fd = ::accept4(m_serverFd, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-        if (fd < 0)
+        if (fd < 0) {
+            // Out of descriptors, the waiting connection would wake the loop again at once, for
+            // ever: listening rests a moment instead.
+            if (errno == EMFILE || errno == ENFILE) {
+                m_listening->setEnabled(false);
+                QTimer::singleShot(m_patience / 4, this, [this] { m_listening->setEnabled(true); });
+            }
             return;
+        }
+        if (m_clients.size() >= maxClients)
+            dropOldestClient();
         auto client = std::make_unique<Client>();
         client->fd = fd;
+        client->deadline = QDeadlineTimer(m_patience);
         client->notifier = std::make_unique<QSocketNotifier>(fd, QSocketNotifier::Read);
         connect(client->notifier.get(), &QSocketNotifier::activated, this,
                 [this, fd] { read(fd); });
         m_clients[fd] = std::move(client);
+        if (!m_sweep.isActive())
+            m_sweep.start();
     }
+}
+
+void SingleInstance::dropOldestClient()
+{
+    const auto oldest =
+        std::min_element(m_clients.begin(), m_clients.end(), [](const auto& a, const auto& b) {
+            return a.second->deadline < b.second->deadline;
+        });
+    m_clients.erase(oldest);
+}
+
+void SingleInstance::dropSilentClients()
+{
+    std::erase_if(m_clients, [](const auto& entry) { return entry.second->deadline.hasExpired(); });
+    if (m_clients.empty())
+        m_sweep.stop();
 }
 
 void SingleInstance::read(int fd)
 {
-    Client& client = *m_clients.at(fd);
+    const auto found = m_clients.find(fd);
+    if (found == m_clients.end())
+        return;
+    Client& client = *found->second;
     char buffer[maxRequestBytes + 1];
     const ssize_t got = ::recv(fd, buffer, sizeof(buffer), 0);
     if (got < 0 && (errno == EAGAIN || errno == EINTR))
         return;
     if (got > 0)
         client.pending.append(buffer, got);
+    QStringList requests;
     for (qsizetype end = client.pending.indexOf('\n'); end >= 0;
          end = client.pending.indexOf('\n')) {
         const QString request = QString::fromUtf8(client.pending.left(end)).trimmed();
         client.pending.remove(0, end + 1);
         if (!request.isEmpty())
-            Q_EMIT requestReceived(request);
+            requests << request;
     }
     // The client is done, or sends what no request is: either way it goes.
     if (got <= 0 || client.pending.size() > maxRequestBytes)
-        m_clients.erase(fd);
+        m_clients.erase(found);
+    // Told only now, with nothing of the client held: a receiver may open a dialog whose event
+    // loop reads from this client again, or lets it go.
+    const QPointer<SingleInstance> self(this);
+    for (const QString& request : std::as_const(requests)) {
+        if (!self)
+            return;
+        Q_EMIT requestReceived(request);
+    }
 }
 
 } // namespace lullet

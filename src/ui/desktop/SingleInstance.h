@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <chrono>
 #include <map>
@@ -21,13 +23,22 @@ class SingleInstance final : public QObject {
 public:
     static constexpr char showRequest[] = "show";
     static constexpr char quickAddRequest[] = "quick-add";
+    // "pause" until resumed, or "pause 30" for thirty minutes; "resume".
+    static constexpr char pauseRequest[] = "pause";
+    static constexpr char resumeRequest[] = "resume";
     // A request is a short line; a client that sends more is cut off.
     static constexpr int maxRequestBytes = 256;
+    // A launch hands its line over as soon as it connects. More clients than this at once, or one
+    // still silent after `patience`, are holding the line rather than using it: the oldest is let
+    // go first.
+    static constexpr std::size_t maxClients = 32;
 
     // XDG_RUNTIME_DIR, or, without one, a private "lullet" folder in the user's cache.
     static QString defaultFolder();
 
-    explicit SingleInstance(QString folder, QObject* parent = nullptr);
+    explicit SingleInstance(QString folder,
+                            std::chrono::milliseconds patience = std::chrono::seconds(2),
+                            QObject* parent = nullptr);
     ~SingleInstance() override;
 
     enum class Role { Primary, Secondary, Failed };
@@ -49,6 +60,7 @@ private:
         int fd = -1;
         QByteArray pending;
         std::unique_ptr<QSocketNotifier> notifier;
+        QDeadlineTimer deadline;
         ~Client();
     };
 
@@ -56,13 +68,17 @@ private:
     bool listen();
     void accept();
     void read(int fd);
+    void dropOldestClient();
+    void dropSilentClients();
 
     QString m_folder;
+    std::chrono::milliseconds m_patience;
     QString m_error;
     int m_lockFd = -1;
     int m_serverFd = -1;
     std::unique_ptr<QSocketNotifier> m_listening;
     std::map<int, std::unique_ptr<Client>> m_clients;
+    QTimer m_sweep;
 };
 
 } // namespace lullet

@@ -11,7 +11,7 @@
 
 namespace lullet {
 
-QIcon TrayIconPainter::make()
+QIcon TrayIconPainter::make(bool paused)
 {
     // The panel's colour can't be known: the desktop's text colour with a rim of the opposite
     // lightness reads on dark and light panels alike.
@@ -31,6 +31,13 @@ QIcon TrayIconPainter::make()
         const QPainterPath shape = moon.subtracted(bite);
         painter.strokePath(shape, QPen(rim, std::max(1.5, s / 12.0)));
         painter.fillPath(shape, ink);
+        if (paused) {
+            QPainterPath bars;
+            bars.addRect(QRectF(s * 0.56, s * 0.52, s * 0.12, s * 0.44));
+            bars.addRect(QRectF(s * 0.80, s * 0.52, s * 0.12, s * 0.44));
+            painter.strokePath(bars, QPen(rim, std::max(1.0, s / 16.0)));
+            painter.fillPath(bars, ink);
+        }
         painter.end();
         icon.addPixmap(pixmap);
     }

@@ -174,8 +174,8 @@ void DashboardView::listenToChanges()
 void DashboardView::reload()
 {
     const DashboardSummary summary =
-        DashboardSummary::of(m_services.library.allItems(), m_services.library.projects(),
-                             m_services.clock, m_services.running);
+        DashboardSummary::of(m_services.library.items(), m_services.library.projects(),
+                             m_services.history, m_services.clock, m_services.running);
     const int counts[] = {summary.overdue, summary.current, summary.upcoming};
     const int sum = counts[0] + counts[1] + counts[2];
     for (std::size_t i = 0; i < m_circles.size(); ++i) {
@@ -215,13 +215,12 @@ void DashboardView::showExportMenu(const QTreeWidgetItem& row, const QPoint& whe
         menu, this,
         [this, project] {
             Library& library = m_services.library;
-            // A project deleted while the menu was open reports as no project would.
-            const bool stillThere = project && std::ranges::find(library.projects(), project) !=
-                                                   library.projects().end();
-            return stillThere
-                       ? Report::ofProject(library, *project, m_services.clock, m_services.running)
-                   : project ? Report::ofRows({}, {}, m_services.clock, m_services.running)
-                             : Report::ofNoProject(library, m_services.clock, m_services.running);
+            // A project deleted while the menu was open has nothing to report.
+            if (project &&
+                std::ranges::find(library.projects(), project) == library.projects().end())
+                return Report();
+            return Report::ofProject(library, m_services.history, project, m_services.clock,
+                                     m_services.running);
         },
         ReportCommands::emptyProjectText());
     menu->popup(where);

@@ -1,25 +1,21 @@
 #include "ui/main/ItemListModel.h"
 
 #include "core/activity/RunningItem.h"
-#include "core/dates/Clock.h"
+#include "core/app/Services.h"
 #include "core/model/Item.h"
-#include "core/presentation/RowTexts.h"
 
 #include <QColor>
 #include <QFont>
 
-#include <algorithm>
-
 namespace lullet {
 
-ItemListModel::ItemListModel(const Clock& clock, Library& library, const RunningItem& running,
-                             ListBuilder::Scope scope, bool withProjectName, QObject* parent)
+ItemListModel::ItemListModel(const Services& services, const ListBuilder::Scope& scope,
+                             RowTexts::ProjectName naming, QObject* parent)
     : QAbstractTableModel(parent)
-    , m_clock(clock)
-    , m_library(library)
-    , m_running(running)
-    , m_scope(std::move(scope))
-    , m_withProjectName(withProjectName)
+    , m_services(services)
+    , m_scope(scope)
+    , m_lines(services.clock, services.library, services.history, services.running)
+    , m_texts(m_lines, services.library, services.clock, naming)
 {
     reload();
 }
@@ -35,31 +31,17 @@ void ItemListModel::setShowRunningOnly(bool only)
 void ItemListModel::reload()
 {
     beginResetModel();
-    m_rows.clear();
-    if (m_scope.isCustomListing()) {
-        m_rows = ListBuilder::customListing(m_scope.segment, m_library, m_clock);
-        m_stale.assign(m_rows.size(), false);
-        endResetModel();
-        return;
-    }
-    const std::vector<Item*> items = ListBuilder::itemsFor(m_scope, m_library, m_clock.now());
-    // A project's list shows its whole content by day.
-    if (m_scope.project) {
-        m_rows = ListBuilder::groupByDay(items, m_clock, m_withProjectName);
-    } else {
-        for (Item* item : items)
-            m_rows.push_back(RowTexts::makeRow(item, m_clock, m_withProjectName));
-    }
-    m_stale.assign(m_rows.size(), false);
+    m_lines.build(m_scope);
+    m_texts.forgetAll();
     endResetModel();
 }
 
 void ItemListModel::refreshTexts()
 {
-    // Marked only: a row's texts are rebuilt when it is next read, which for a long list is the
-    // rows on screen and not the thousands beyond them.
-    std::fill(m_stale.begin(), m_stale.end(), true);
-    if (!m_rows.empty())
+    // Forgotten only: a row's texts are made again when it is next read, which for a long list
+    // is the rows on screen and not the thousands beyond them.
+    m_texts.forgetAll();
+    if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
 }
 
@@ -68,49 +50,38 @@ void ItemListModel::refreshItem(const Item* item)
     const int row = rowOf(item);
     if (row < 0)
         return;
-    m_stale[std::size_t(row)] = true;
+    m_texts.forget(std::size_t(row));
     Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
 }
 
-const ListRow& ItemListModel::freshRow(std::size_t row) const
+Item* ItemListModel::itemAt(int row)
 {
-    ListRow& listRow = m_rows[row];
-    if (m_stale[row]) {
-        m_stale[row] = false;
-        if (listRow.type == ListRow::ItemRow)
-            RowTexts::setValues(listRow, m_clock, m_withProjectName);
-    }
-    return listRow;
+    if (row < 0 || row >= rowCount())
+        return nullptr;
+    return m_lines.itemAt(std::size_t(row));
 }
 
-const std::vector<ListRow>& ItemListModel::rows() const
+const ListRow& ItemListModel::rowTexts(int row) const
 {
-    for (std::size_t row = 0; row < m_rows.size(); ++row)
-        freshRow(row);
-    return m_rows;
+    return m_texts.row(std::size_t(row));
 }
 
-int ItemListModel::rowOf(const Item* item) const
+bool ItemListModel::isFinished(const ListLines::Line& line) const
 {
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        if (m_rows[i].representedObject == item)
-            return int(i);
-    }
-    return -1;
+    // A row on disk is history, and history is finished.
+    return !line.item || line.item->isFinished();
 }
 
-QString ItemListModel::startGlyph(const Item* item) const
+QString ItemListModel::startGlyph(const ListLines::Line& line) const
 {
-    if (!item)
-        return {};
-    if (item->isFinished())
+    if (isFinished(line))
         return QStringLiteral("✓");
-    return m_running.isRunning(item) ? QStringLiteral("■") : QStringLiteral("▶");
+    return m_services.running.isRunning(line.item) ? QStringLiteral("■") : QStringLiteral("▶");
 }
 
 int ItemListModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(m_rows.size());
+    return parent.isValid() ? 0 : int(m_lines.size());
 }
 
 int ItemListModel::columnCount(const QModelIndex& parent) const
@@ -118,69 +89,74 @@ int ItemListModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
+QVariant ItemListModel::display(const ListLines::Line& line, const ListRow& row, int column) const
+{
+    if (line.heading) {
+        if (column != StartColumn)
+            return {};
+        if (row.countOnDay <= 0)
+            return row.title;
+        return row.title + QStringLiteral("  (%1)").arg(row.countOnDay) +
+               (row.timeUsedInSeconds > 0 ? QStringLiteral("   ") + row.timeUsed : QString());
+    }
+    switch (column) {
+    case StartColumn:
+        return startGlyph(line);
+    case TitleColumn:
+        return row.title;
+    case TimeColumn:
+        return row.time;
+    case DurationColumn:
+        return row.duration;
+    case UsedColumn:
+        return row.timeUsed;
+    default:
+        return {};
+    }
+}
+
+QVariant ItemListModel::font(const ListLines::Line& line, int column)
+{
+    QFont font;
+    if (line.heading)
+        font.setBold(true);
+    else if (column == TitleColumn && (!line.item || line.item->isFinished()))
+        font.setStrikeOut(true);
+    else
+        return {};
+    return font;
+}
+
 QVariant ItemListModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
-    const ListRow& row = freshRow(std::size_t(index.row()));
-    const Item* item = row.representedObject;
+    const ListLines::Line& line = m_lines.at(std::size_t(index.row()));
     switch (role) {
     case ItemRole:
-        return QVariant::fromValue(row.representedObject);
+        return QVariant::fromValue(line.item);
     case DueRole:
-        return row.dueOrOverdue;
+        return rowTexts(index.row()).dueOrOverdue;
     case ProjectRole:
-        return row.projectName;
+        return rowTexts(index.row()).projectName;
     case RunningRole:
-        return m_running.isRunning(item);
+        return m_services.running.isRunning(line.item);
     case FinishedRole:
-        return item && item->isFinished();
+        return line.heading ? QVariant() : QVariant(isFinished(line));
     case Qt::DisplayRole:
-        if (row.type == ListRow::DayHeading) {
-            if (index.column() == StartColumn)
-                return row.countOnDay > 0
-                           ? row.title + QStringLiteral("  (%1)").arg(row.countOnDay) +
-                                 (row.timeUsedInSeconds > 0 ? QStringLiteral("   ") + row.timeUsed
-                                                            : QString())
-                           : row.title;
-            return QVariant();
-        }
-        switch (index.column()) {
-        case StartColumn:
-            return startGlyph(item);
-        case TitleColumn:
-            return row.title;
-        case TimeColumn:
-            return row.time;
-        case DurationColumn:
-            return row.duration;
-        case UsedColumn:
-            return row.timeUsed;
-        default:
-            return {};
-        }
+        return display(line, rowTexts(index.row()), index.column());
     case Qt::ToolTipRole:
     case Qt::AccessibleTextRole:
-        if (index.column() == StartColumn && item && !item->isFinished())
-            return m_running.isRunning(item) ? tr("Stop: it is done") : tr("Start");
+        if (index.column() == StartColumn && !line.heading && !isFinished(line))
+            return m_services.running.isRunning(line.item) ? tr("Stop: it is done") : tr("Start");
         return {};
     case Qt::ForegroundRole:
         // Due and overdue times stand out in the warning colour.
-        if (index.column() == TimeColumn && row.dueOrOverdue)
+        if (index.column() == TimeColumn && !line.heading && rowTexts(index.row()).dueOrOverdue)
             return QColor(0xFC, 0x72, 0x74);
         return {};
     case Qt::FontRole:
-        if (row.type == ListRow::DayHeading) {
-            QFont font;
-            font.setBold(true);
-            return font;
-        }
-        if (index.column() == TitleColumn && item && item->isFinished()) {
-            QFont font;
-            font.setStrikeOut(true);
-            return font;
-        }
-        return {};
+        return font(line, index.column());
     default:
         return {};
     }
@@ -191,7 +167,7 @@ Qt::ItemFlags ItemListModel::flags(const QModelIndex& index) const
     if (!index.isValid() || index.row() >= rowCount())
         return Qt::NoItemFlags;
     // A day's heading is read, not chosen.
-    if (m_rows[std::size_t(index.row())].type == ListRow::DayHeading)
+    if (isHeading(index.row()))
         return Qt::ItemIsEnabled;
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable;
 }

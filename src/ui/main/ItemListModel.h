@@ -1,30 +1,32 @@
 #pragma once
 
 #include "core/presentation/ListBuilder.h"
-#include "core/presentation/ListRow.h"
+#include "core/presentation/ListLines.h"
+#include "core/presentation/ListTexts.h"
+#include "core/presentation/RowTexts.h"
 
 #include <QAbstractTableModel>
 
-#include <vector>
-
 namespace lullet {
 
-class Clock;
-class Library;
-class RunningItem;
+class Item;
+struct Services;
 
-// The rows of "Today", "Anytime" or a project, as a table: the item, its time, its planned
-// length and the time used.
+// A list's rows as a table: the item, its time, its planned length and the time used, under the
+// days' headings where the list has days. Its lines hold the whole list, the history's items by
+// their rows on disk; texts are made for the rows the view asks for, the rows on screen.
 class ItemListModel final : public QAbstractTableModel {
     Q_OBJECT
 public:
     enum Column { StartColumn, TitleColumn, TimeColumn, DurationColumn, UsedColumn, ColumnCount };
+    // ItemRole: the item of a row in memory, none for a heading or a row on disk. FinishedRole
+    // answers for item rows only.
     enum Role { ItemRole = Qt::UserRole + 1, DueRole, ProjectRole, RunningRole, FinishedRole };
 
-    ItemListModel(const Clock& clock, Library& library, const RunningItem& running,
-                  ListBuilder::Scope scope, bool withProjectName, QObject* parent = nullptr);
+    ItemListModel(const Services& services, const ListBuilder::Scope& scope,
+                  RowTexts::ProjectName naming, QObject* parent = nullptr);
 
-    // Builds the rows anew from the shared list.
+    // Builds the lines anew from the shared list and the history on disk.
     void reload();
     // Keeps only the items that have been started, or lists all again.
     void setShowRunningOnly(bool only);
@@ -33,10 +35,15 @@ public:
     // The texts of the one item's row are out of date, if it is listed.
     void refreshItem(const Item* item);
 
-    // Every row, with its texts up to date.
-    const std::vector<ListRow>& rows() const;
-    int rowOf(const Item* item) const;
+    const ListLines& lines() const { return m_lines; }
     const ListBuilder::Scope& scope() const { return m_scope; }
+    // The item of a row, read into memory from the history on disk to be acted on; none for a
+    // heading.
+    Item* itemAt(int row);
+    int rowOf(const Item* item) const { return m_lines.indexOf(item); }
+    // The texts of a row, made now if they are not at hand.
+    const ListRow& rowTexts(int row) const;
+    bool isHeading(int row) const { return m_lines.at(std::size_t(row)).heading; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -47,18 +54,15 @@ public:
 
 private:
     // The start column: "▶" to start, "■" while running, "✓" once finished.
-    QString startGlyph(const Item* item) const;
-    // The row, its texts rebuilt first if they are out of date.
-    const ListRow& freshRow(std::size_t row) const;
+    QString startGlyph(const ListLines::Line& line) const;
+    QVariant display(const ListLines::Line& line, const ListRow& row, int column) const;
+    static QVariant font(const ListLines::Line& line, int column);
+    bool isFinished(const ListLines::Line& line) const;
 
-    const Clock& m_clock;
-    Library& m_library;
-    const RunningItem& m_running;
+    const Services& m_services;
     ListBuilder::Scope m_scope;
-    bool m_withProjectName;
-    // Texts are rebuilt as rows are read; the rows themselves stay as reload() made them.
-    mutable std::vector<ListRow> m_rows;
-    mutable std::vector<bool> m_stale;
+    ListLines m_lines;
+    mutable ListTexts m_texts;
 };
 
 } // namespace lullet

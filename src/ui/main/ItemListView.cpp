@@ -6,6 +6,7 @@
 #include "core/dates/Clock.h"
 #include "core/library/Library.h"
 #include "core/monitor/Monitor.h"
+#include "core/presentation/Sidebar.h"
 #include "core/presentation/TaskStats.h"
 #include "core/reports/Report.h"
 #include "core/text/LocalizedText.h"
@@ -36,8 +37,10 @@ ItemListView::ItemListView(const Services& services, const ListBuilder::Scope& s
     : QWidget(parent)
     , m_services(services)
     , m_withHeader(withHeader)
-    , m_model(new ItemListModel(services.clock, services.library, services.running, scope,
-                                withHeader && !scope.project, this))
+    , m_model(new ItemListModel(services, scope,
+                                withHeader && !scope.project ? RowTexts::ProjectName::InList
+                                                             : RowTexts::ProjectName::None,
+                                this))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(withHeader ? 16 : 0, withHeader ? 12 : 0, withHeader ? 16 : 0,
@@ -65,8 +68,8 @@ void ItemListView::buildHeader(QVBoxLayout* layout)
 
 Report ItemListView::report() const
 {
-    Report report = Report::ofRows(m_model->scope().title(), m_model->rows(), m_services.clock,
-                                   m_services.running);
+    Report report = Report::ofLines(m_model->scope().title(), m_model->lines(), m_services.library,
+                                    m_services.clock);
     if (m_header)
         report.hoursByDay = m_header->hours();
     return report;
@@ -85,11 +88,7 @@ void ItemListView::updateStats()
 {
     if (!m_header)
         return;
-    const TaskStats s = TaskStats::of(m_model->rows(), m_services.clock, m_services.running);
-    int due = 0;
-    for (const ListRow& row : m_model->rows())
-        due += row.dueOrOverdue ? 1 : 0;
-    m_header->showStats(s, due, m_services.running.item());
+    m_header->showStats(m_model->lines().stats(), m_services.running.item());
 }
 
 // Upcoming and Completed: the time used by day, as bars.
@@ -98,7 +97,9 @@ void ItemListView::updateChart()
     if (!m_header)
         return;
     std::vector<BarChart::Bar> hours;
-    for (const auto& [day, seconds] : ListBuilder::timeUsedByDay(m_model->rows()))
+    if (!m_model->scope().isCustomListing())
+        return;
+    for (const auto& [day, seconds] : m_model->lines().usedByDay())
         hours.push_back(
             {QString::number(day.day()) + u' ' + day.shortMonthToString(), seconds / 3600.0});
     m_header->showHours(std::move(hours));
@@ -137,9 +138,8 @@ void ItemListView::buildTable(QVBoxLayout* layout)
     m_table->setItemDelegateForColumn(ItemListModel::StartColumn, startButtons);
     // The painted buttons rise under the mouse.
     m_table->viewport()->setAttribute(Qt::WA_Hover);
-    connect(startButtons, &StartButtonDelegate::clicked, this, [this](const QModelIndex& index) {
-        startOrStop(m_model->data(index, ItemListModel::ItemRole).value<Item*>());
-    });
+    connect(startButtons, &StartButtonDelegate::clicked, this,
+            [this](const QModelIndex& index) { startOrStop(m_model->itemAt(index.row())); });
     columns->setVisible(m_withHeader);
     if (!m_withHeader) {
         m_table->hideColumn(ItemListModel::DurationColumn);
@@ -158,7 +158,7 @@ void ItemListView::buildTable(QVBoxLayout* layout)
 
 void ItemListView::showMenu(const QModelIndex& index, const QPoint& where)
 {
-    auto* item = m_model->data(index, ItemListModel::ItemRole).value<Item*>();
+    Item* item = index.isValid() ? m_model->itemAt(index.row()) : nullptr;
     // A click beside the rows or on a heading opens nothing.
     if (!item)
         return;
@@ -174,7 +174,7 @@ bool ItemListView::eventFilter(QObject* watched, QEvent* event)
         return QWidget::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
     const QModelIndex current = m_table->currentIndex();
-    auto* item = m_model->data(current, ItemListModel::ItemRole).value<Item*>();
+    Item* item = current.isValid() ? m_model->itemAt(current.row()) : nullptr;
     if (!item)
         return false;
     switch (key->key()) {
@@ -272,8 +272,7 @@ void ItemListView::select(const Item* item)
 Item* ItemListView::selectedItem() const
 {
     const QModelIndex current = m_table->currentIndex();
-    return current.isValid() ? m_model->data(current, ItemListModel::ItemRole).value<Item*>()
-                             : nullptr;
+    return current.isValid() ? m_model->itemAt(current.row()) : nullptr;
 }
 
 void ItemListView::onItemsChanged(Item* item)
@@ -286,11 +285,10 @@ void ItemListView::onItemsChanged(Item* item)
     }
     // Not listed here: the main view moves to where it belongs.
     const ListBuilder::Scope& shown = m_model->scope();
-    if (!item || !item->hasContext() || !m_withHeader || shown.project || shown.isCustomListing())
+    if (!item || !item->hasContext() || !m_withHeader || shown.project)
         return;
-    const Segment target = item->effectiveDate() ? Segment::Today : Segment::Anytime;
-    if (target != shown.segment &&
-        ListBuilder::belongs(*item, {target, nullptr, false}, m_services.clock.now()))
+    const Segment target = Sidebar::segmentFor(*item, m_services.clock.now());
+    if (target != shown.segment && target != Segment::Project)
         Q_EMIT segmentRequested(target);
 }
 
@@ -314,9 +312,16 @@ void ItemListView::onRunningChanged(Item* item)
     }
     // The row started or stopped from the keyboard stays the current one, to be stopped the
     // same way; an item the list did not hold yet (an idle answer) is shown selected.
-    const Item* current = selectedItem();
+    const QModelIndex current = m_table->currentIndex();
+    const std::optional<ListLines::Line> was =
+        current.isValid() ? std::optional(m_model->lines().at(std::size_t(current.row())))
+                          : std::nullopt;
     reload();
-    select(current ? current : item);
+    const int row = was ? m_model->lines().indexOf(*was) : m_model->rowOf(item);
+    if (row >= 0) {
+        m_table->selectRow(row);
+        m_table->scrollTo(m_model->index(row, 0));
+    }
 }
 
 void ItemListView::spanHeadings()
@@ -324,7 +329,7 @@ void ItemListView::spanHeadings()
     m_table->clearSpans();
     for (int row = 0; row < m_model->rowCount(); ++row) {
         // A day's heading across the whole row.
-        if (!m_model->rows()[std::size_t(row)].representedObject)
+        if (m_model->isHeading(row))
             m_table->setSpan(row, 0, 1, ItemListModel::ColumnCount);
     }
 }

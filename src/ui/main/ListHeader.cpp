@@ -4,7 +4,6 @@
 #include "core/activity/RunningItem.h"
 #include "core/app/Services.h"
 #include "core/monitor/Monitor.h"
-#include "core/presentation/RowTexts.h"
 #include "core/presentation/RunningStatus.h"
 #include "core/presentation/TaskStats.h"
 #include "core/reports/Report.h"
@@ -54,7 +53,7 @@ ListHeader::ListHeader(const Services& services, const ListBuilder::Scope& scope
     buildName(texts);
     buildCounts(texts);
     QHBoxLayout* row = buildSwitchRow(texts);
-    buildExportButton(row, std::move(report));
+    buildExportButton(row, report);
     if (scope.project)
         buildProjectButton(row);
     header->addLayout(texts, 1);
@@ -100,7 +99,13 @@ void ListHeader::buildCounts(QVBoxLayout* texts)
     counts->setColumnStretch(2, 1);
     texts->addLayout(counts);
     m_timeUsed = countLabel(QStringLiteral("timeUsed"), this);
-    texts->addWidget(m_timeUsed);
+    m_todayTime = countLabel(QStringLiteral("todayTime"), this);
+    auto* times = new QHBoxLayout;
+    times->setSpacing(16);
+    times->addWidget(m_timeUsed);
+    times->addWidget(m_todayTime);
+    times->addStretch();
+    texts->addLayout(times);
     // The running item's own clock, the same text as the tray's panel shows.
     m_runningClock = new ElidedLabel(QString(), this);
     m_runningClock->setObjectName(QStringLiteral("runningClock"));
@@ -158,7 +163,7 @@ void ListHeader::buildBadgeAndRing(QHBoxLayout* header)
 }
 
 // Print, PDF and mail of the list as it shows.
-void ListHeader::buildExportButton(QHBoxLayout* row, std::function<Report()> report)
+void ListHeader::buildExportButton(QHBoxLayout* row, const std::function<Report()>& report)
 {
     auto* button = new QToolButton(this);
     button->setObjectName(QStringLiteral("export"));
@@ -166,7 +171,7 @@ void ListHeader::buildExportButton(QHBoxLayout* row, std::function<Report()> rep
     button->setPopupMode(QToolButton::InstantPopup);
     auto* menu = new QMenu(button);
     const ReportCommands commands(m_services.clock, m_services.library);
-    commands.addActions(menu, this, std::move(report),
+    commands.addActions(menu, this, report,
                         m_scope.project ? ReportCommands::emptyProjectText()
                                         : ReportCommands::emptyListText());
     button->setMenu(menu);
@@ -204,15 +209,16 @@ void ListHeader::buildProjectButton(QHBoxLayout* row)
     row->addWidget(button);
 }
 
-void ListHeader::showStats(const TaskStats& s, int due, const Item* running)
+void ListHeader::showStats(const TaskStats& s, const Item* running)
 {
-    m_taskCount->setText(tr("Tasks: %1").arg(s.totalCount));
-    m_completedCount->setText(tr("Complete: %1").arg(s.completedCount));
-    m_dueCount->setText(tr("Due: %1").arg(due));
-    m_todayCount->setText(tr("Today: %1").arg(s.countInToday));
-    m_timeUsed->setText(tr("Time used %1 of %2")
-                            .arg(RowTexts::getStringFromSeconds(int(s.timeCompletedRunning)),
-                                 RowTexts::getStringFromSeconds(int(s.totalTimeAllotted))));
+    // One computation for the list's head and its report's.
+    const QStringList counts = Report::headCounts(s);
+    m_taskCount->setText(counts.value(0));
+    m_completedCount->setText(counts.value(1));
+    m_dueCount->setText(counts.value(2));
+    m_todayCount->setText(counts.value(3));
+    m_timeUsed->setText(tr("Time used %1").arg(Report::headTimes(s)));
+    m_todayTime->setText(Report::todayTime(s));
     m_progress->setProgress(s.totalTimeAllotted > 0
                                 ? double(s.timeCompletedRunning) / double(s.totalTimeAllotted)
                                 : 0.0);

@@ -32,8 +32,8 @@ public:
     ListHeader(const Services& services, const ListBuilder::Scope& scope,
                std::function<Report()> report, QWidget* parent = nullptr);
 
-    // The list's statistics, its items due, and the running item's clock.
-    void showStats(const TaskStats& stats, int due, const Item* running);
+    // The list's totals, as its report's head shows them, and the running item's clock.
+    void showStats(const TaskStats& stats, const Item* running);
     // The hours used by day; no bars, no chart.
     void showHours(std::vector<BarChart::Bar> hours);
     std::vector<BarChart::Bar> hours() const;
@@ -51,7 +51,7 @@ private:
     // Answers the row, for the buttons beside the switches.
     QHBoxLayout* buildSwitchRow(QVBoxLayout* texts);
     void buildBadgeAndRing(QHBoxLayout* header);
-    void buildExportButton(QHBoxLayout* row, std::function<Report()> report);
+    void buildExportButton(QHBoxLayout* row, const std::function<Report()>& report);
     void buildProjectButton(QHBoxLayout* row);
 
     const Services& m_services;
@@ -62,6 +62,7 @@ private:
     QLabel* m_dueCount = nullptr;
     QLabel* m_todayCount = nullptr;
     QLabel* m_timeUsed = nullptr;
+    QLabel* m_todayTime = nullptr;
     ElidedLabel* m_runningClock = nullptr;
     CircularProgress* m_progress = nullptr;
     StyledButton* m_status = nullptr;

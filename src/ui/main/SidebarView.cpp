@@ -48,7 +48,8 @@ private:
 SidebarView::SidebarView(const Services& services, QWidget* parent)
     : QWidget(parent)
     , m_services(services)
-    , m_sidebar(services.clock, services.library, services.catalogue, services.running)
+    , m_sidebar(services.clock, services.library, services.catalogue, services.running,
+                services.history)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 0, 8);
@@ -178,7 +179,7 @@ QString SidebarView::rowText(const SidebarRow& row) const
 {
     if (row.type == SidebarRow::Separator)
         return {};
-    if (row.item)
+    if (row.item || row.rowId)
         return QStringLiteral("• ") + row.name;
     QString text =
         row.count ? row.name + QStringLiteral("   ") + QString::number(*row.count) : row.name;
@@ -262,11 +263,14 @@ void SidebarView::choose(int index)
     const SidebarRow& row = m_rows[std::size_t(index)];
     if (row.type == SidebarRow::Separator)
         return;
-    if (Item* item = row.item) {
-        // A search result: its list, with the search ended. After the click is done with the
-        // results, which ending the search replaces.
-        QMetaObject::invokeMethod(
-            this, [this, item] { Q_EMIT resultChosen(item); }, Qt::QueuedConnection);
+    if (row.item || row.rowId) {
+        // A search result: its list, with the search ended; one of the history on disk comes
+        // into memory to be shown. After the click is done with the results, which ending the
+        // search replaces.
+        Item* item = row.item ? row.item : m_services.library.bringIn(row.rowId);
+        if (item)
+            QMetaObject::invokeMethod(
+                this, [this, item] { Q_EMIT resultChosen(item); }, Qt::QueuedConnection);
         return;
     }
     if (row.project)

@@ -13,7 +13,7 @@ namespace {
 
 bool isButton(const QModelIndex& index)
 {
-    return index.data(ItemListModel::ItemRole).value<Item*>() != nullptr;
+    return index.data(ItemListModel::FinishedRole).isValid();
 }
 
 bool isEnabled(const QModelIndex& index)

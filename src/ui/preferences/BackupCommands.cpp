@@ -2,6 +2,7 @@
 
 #include "core/app/Services.h"
 #include "core/backup/Backups.h"
+#include "core/security/Lock.h"
 #include "ui/widgets/Dialogs.h"
 
 #include <QDir>
@@ -35,6 +36,11 @@ BackupCommands::BackupCommands(const Services& services, QWidget* window, Reveal
     connect(&backups, &Backups::restoreFailed, this, [this](const QString& message) {
         Dialogs::inform(over(m_lastFrom), tr("The restore could not be done."), message);
     });
+    connect(&backups, &Backups::pruneFailed, this, [this](const QString& failures) {
+        Dialogs::inform(over(m_lastFrom),
+                        tr("Some old backups could not be deleted, so they stay in the list."),
+                        failures);
+    });
 }
 
 QWidget* BackupCommands::over(QWidget* from)
@@ -52,9 +58,18 @@ QString BackupCommands::chooseFileToSave(const QString& caption, const QString& 
     return chosen;
 }
 
+bool BackupCommands::refuseWhileLocked(QWidget* from)
+{
+    if (!m_services.lock.isLocked())
+        return false;
+    Dialogs::inform(over(from), tr("Lullet is locked."),
+                    tr("Enter your password first, then back up or restore your data."));
+    return true;
+}
+
 void BackupCommands::backUpNow(QWidget* from)
 {
-    if (m_panelOpen)
+    if (m_panelOpen || refuseWhileLocked(from))
         return;
     m_lastFrom = from;
     const QString chosen =
@@ -63,17 +78,25 @@ void BackupCommands::backUpNow(QWidget* from)
         m_services.backups.backUpTo(chosen);
 }
 
+bool BackupCommands::confirmRestore()
+{
+    return Dialogs::confirm(over(m_lastFrom), QStringLiteral("Confirm Restore"),
+                            QStringLiteral("All data will be replaced.\nDo you want to proceed?"));
+}
+
 void BackupCommands::restoreFromFile(QWidget* from)
 {
-    if (m_panelOpen || m_services.backups.isRestoring())
+    if (m_panelOpen || m_services.backups.isRestoring() || refuseWhileLocked(from))
         return;
     m_lastFrom = from;
+    if (!confirmRestore())
+        return;
     m_panelOpen = true;
     const QString chosen = Dialogs::chooseFileToOpen(over(from), tr("Restore From File"),
                                                      m_services.backups.backupsFolder());
     m_panelOpen = false;
     if (!chosen.isEmpty())
-        restoreFrom(chosen, from);
+        startRestore(chosen);
 }
 
 void BackupCommands::restoreFrom(const QString& path, QWidget* from)
@@ -81,6 +104,17 @@ void BackupCommands::restoreFrom(const QString& path, QWidget* from)
     if (m_services.backups.isRestoring())
         return;
     m_lastFrom = from;
+    if (!QFile::exists(path)) {
+        Dialogs::inform(over(from), tr("This backup's file is gone, so it can't be restored."),
+                        path);
+        return;
+    }
+    if (confirmRestore())
+        startRestore(path);
+}
+
+void BackupCommands::startRestore(const QString& path)
+{
     m_services.backups.restoreFrom(path, m_shownProject ? m_shownProject() : QString());
 }
 

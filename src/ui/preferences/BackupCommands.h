@@ -26,9 +26,9 @@ public:
 
     // A copy saved where the user chooses.
     void backUpNow(QWidget* from = nullptr);
-    // A restore from any file the user chooses.
+    // A restore from any file the user chooses, once they agree to have their data replaced.
     void restoreFromFile(QWidget* from = nullptr);
-    // A restore from a listed copy.
+    // A restore from a listed copy, once they agree; a copy whose file has gone is said.
     void restoreFrom(const QString& path, QWidget* from = nullptr);
     // A listed copy saved where the user chooses, replacing a file there.
     void saveCopyOf(const QString& path, QWidget* from = nullptr);
@@ -36,6 +36,10 @@ public:
 private:
     QWidget* over(QWidget* from);
     QString chooseFileToSave(const QString& caption, const QString& proposed);
+    bool confirmRestore();
+    // A locked Lullet copies and replaces nothing: the user is told and nothing happens.
+    bool refuseWhileLocked(QWidget* from);
+    void startRestore(const QString& path);
 
     const Services& m_services;
     QPointer<QWidget> m_window;

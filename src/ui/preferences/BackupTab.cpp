@@ -9,7 +9,6 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMenu>
@@ -178,25 +177,16 @@ void BackupTab::showMenu(const QPoint& at)
     menu.exec(m_list->viewport()->mapToGlobal(at));
 }
 
-bool BackupTab::confirmRestore()
-{
-    return Dialogs::confirm(window(), QStringLiteral("Confirm Restore"),
-                            QStringLiteral("All data will be replaced.\nDo you want to proceed?"));
-}
-
 void BackupTab::restoreSelected()
 {
     const QString path = selectedPath();
-    // A copy whose file has gone can't be restored.
-    if (path.isEmpty() || !QFile::exists(path) || !confirmRestore())
-        return;
-    m_commands.restoreFrom(path, window());
+    if (!path.isEmpty())
+        m_commands.restoreFrom(path, window());
 }
 
 void BackupTab::restoreFromFile()
 {
-    if (confirmRestore())
-        m_commands.restoreFromFile(window());
+    m_commands.restoreFromFile(window());
 }
 
 void BackupTab::deleteSelected()

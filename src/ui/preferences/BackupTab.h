@@ -33,8 +33,6 @@ private:
     void restoreFromFile();
     void deleteSelected();
     void deleteAll();
-    // Restores only after the user says yes.
-    bool confirmRestore();
 
     const Services& m_services;
     BackupCommands& m_commands;

@@ -9,6 +9,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QSpinBox>
 
 #include <algorithm>
 
@@ -39,7 +40,37 @@ GeneralTab::GeneralTab(Settings& settings, DesktopPresence& presence, QWidget* p
     auto* layout = new QFormLayout(this);
     layout->setContentsMargins(24, 20, 24, 20);
     addPeriodSection(layout);
+    addRemindersSection(layout);
     addPresenceSection(layout);
+}
+
+// When prompts wait, and how they sound.
+void GeneralTab::addRemindersSection(QFormLayout* layout)
+{
+    layout->addItem(new QSpacerItem(0, 12));
+    auto* away = new QSpinBox(this);
+    away->setObjectName(QStringLiteral("awayMinutes"));
+    away->setRange(1, 120);
+    away->setSuffix(tr(" min"));
+    away->setValue(std::max(1, m_settings.awayMinutes()));
+    connect(away, &QSpinBox::valueChanged, &m_settings, &Settings::setAwayMinutes);
+    layout->addRow(tr("Hold prompts when I'm away for"), away);
+    const auto addSwitch = [this, layout](const QString& name, const QString& text, bool on,
+                                          void (Settings::*set)(bool)) {
+        auto* box = new QCheckBox(text, this);
+        box->setObjectName(name);
+        box->setChecked(on);
+        connect(box, &QCheckBox::toggled, &m_settings, set);
+        layout->addRow(box);
+    };
+    addSwitch(QStringLiteral("holdWhileFullScreen"),
+              tr("Hold prompts while another program is full screen"),
+              m_settings.holdWhileFullScreen(), &Settings::setHoldWhileFullScreen);
+    addSwitch(QStringLiteral("naturalBreaks"),
+              tr("A break due while I'm away for its length counts as taken"),
+              m_settings.naturalBreaks(), &Settings::setNaturalBreaks);
+    addSwitch(QStringLiteral("promptSound"), tr("Play a sound with each prompt"),
+              m_settings.promptSound(), &Settings::setPromptSound);
 }
 
 void GeneralTab::addPeriodSection(QFormLayout* layout)

@@ -20,6 +20,7 @@ public:
 
 private:
     void addPeriodSection(QFormLayout* layout);
+    void addRemindersSection(QFormLayout* layout);
     void addPresenceSection(QFormLayout* layout);
     void onPeriodChosen(int index);
     void onStartAtLoginToggled(bool on);

@@ -2,6 +2,7 @@
 
 #include "core/security/PasswordRules.h"
 #include "core/security/Protection.h"
+#include "ui/widgets/Dialogs.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -167,7 +168,13 @@ void SecurityTab::onSwitchClicked(bool on)
         }
         m_protection.switchOn();
     } else {
-        m_protection.switchOff();
+        m_protection.switchOff(this, [this](const QString& error) {
+            if (!error.isEmpty())
+                Dialogs::inform(window(),
+                                tr("Protection is off, but your keyring could not remove the "
+                                   "password."),
+                                error);
+        });
         // The stored password is gone with the switch: nothing stands in the way any more.
         m_password.clear();
         m_confirmed = true;

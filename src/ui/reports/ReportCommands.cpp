@@ -50,7 +50,7 @@ ReportCommands::ReportCommands(const Clock& clock, const Library& library)
 {
 }
 
-void ReportCommands::addActions(QMenu* menu, QWidget* from, std::function<Report()> make,
+void ReportCommands::addActions(QMenu* menu, QWidget* from, const std::function<Report()>& make,
                                 const QString& emptyText) const
 {
     using Command = void (ReportCommands::*)(const Report&, QWidget*, const QString&) const;

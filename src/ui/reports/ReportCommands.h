@@ -34,7 +34,7 @@ public:
     void mail(const Report& report, QWidget* from, const QString& emptyText) const;
 
     // Print…, Save as PDF… and Mail… in `menu`, each on the report `make` gives when chosen.
-    void addActions(QMenu* menu, QWidget* from, std::function<Report()> make,
+    void addActions(QMenu* menu, QWidget* from, const std::function<Report()>& make,
                     const QString& emptyText) const;
 
     // A4, or Letter where the locale measures in inches; false when the file can't be written.

@@ -60,6 +60,8 @@ void MainWindow::makeLulletMenu()
     m_dataActions = {quickAdd, backUp, restore};
     file->addSeparator();
     QAction* preferences = file->addAction(tr("&Preferences…"));
+    m_lulletMenu = file;
+    m_preferences = preferences;
     preferences->setShortcuts(preferencesShortcuts());
     preferences->setMenuRole(QAction::PreferencesRole);
     connect(preferences, &QAction::triggered, this, &MainWindow::preferencesRequested);

@@ -22,6 +22,9 @@ public:
     void setClosingMinimises(bool minimises) { m_closingMinimises = minimises; }
     // The platform's key for preferences, for the window's menu and the tray's.
     static QList<QKeySequence> preferencesShortcuts();
+    // The Lullet menu, and its Preferences entry, before which the reminders' entries go.
+    QMenu* lulletMenu() const { return m_lulletMenu; }
+    QAction* preferencesAction() const { return m_preferences; }
 
 Q_SIGNALS:
     void quitRequested();
@@ -43,6 +46,8 @@ private:
     void makeHelpMenu();
 
     QList<QAction*> m_dataActions;
+    QMenu* m_lulletMenu = nullptr;
+    QAction* m_preferences = nullptr;
     bool m_closingMinimises = false;
 };
 

@@ -3,6 +3,8 @@
 #include "core/app/Services.h"
 #include "core/monitor/Monitor.h"
 #include "core/monitor/PromptQueue.h"
+#include "core/settings/Settings.h"
+#include "ui/desktop/PromptSound.h"
 #include "ui/prompts/IdlePromptView.h"
 #include "ui/prompts/ReminderPromptView.h"
 #include "ui/prompts/TimeOverPromptView.h"
@@ -14,11 +16,12 @@
 namespace lullet {
 
 PromptPresenter::PromptPresenter(const Services& services, Tray& tray, DesktopNotifier& notifier,
-                                 std::function<bool()> promptMayBeUnseen,
+                                 PromptSound* sound, std::function<bool()> promptMayBeUnseen,
                                  std::function<const Project*()> shownProject, QObject* parent)
     : QObject(parent)
     , m_services(services)
     , m_tray(tray)
+    , m_sound(sound)
     , m_reminderNotice(new ReminderNotice(notifier, std::move(promptMayBeUnseen), this))
     , m_shownProject(std::move(shownProject))
 {
@@ -54,8 +57,29 @@ QWidget* PromptPresenter::make(const PromptRequest& request)
     return nullptr;
 }
 
+void PromptPresenter::sound(const PromptRequest& request)
+{
+    if (!m_sound || !m_services.settings.promptSound())
+        return;
+    using Kind = PromptRequest::Kind;
+    switch (request.kind) {
+    case Kind::Reminder:
+    case Kind::ToDo:
+        m_sound->play(PromptSound::Kind::Reminder);
+        return;
+    case Kind::TimeOver:
+        m_sound->play(PromptSound::Kind::TimeOver);
+        return;
+    case Kind::IdleQuestion:
+        m_sound->play(PromptSound::Kind::Question);
+        return;
+    }
+}
+
 void PromptPresenter::present(const PromptRequest& request)
 {
+    // Held or paused, nothing is presented, so nothing sounds.
+    sound(request);
     m_tray.show([this, request] {
         QWidget* content = make(request);
         if (auto* prompt = qobject_cast<PromptView*>(content))

@@ -12,6 +12,7 @@ class QWidget;
 namespace lullet {
 
 class DesktopNotifier;
+class PromptSound;
 class Project;
 class ReminderNotice;
 class Tray;
@@ -25,8 +26,9 @@ class PromptPresenter final : public QObject, public PromptPort {
 public:
     // `promptMayBeUnseen` is asked when a reminder shows; `shownProject` when the idle question
     // does, for the project its answer goes to first.
+    // `sound`, where there is one, plays with each prompt the preferences let sound.
     PromptPresenter(const Services& services, Tray& tray, DesktopNotifier& notifier,
-                    std::function<bool()> promptMayBeUnseen,
+                    PromptSound* sound, std::function<bool()> promptMayBeUnseen,
                     std::function<const Project*()> shownProject, QObject* parent = nullptr);
     ~PromptPresenter() override;
 
@@ -45,10 +47,12 @@ public:
 private:
     QWidget* make(const PromptRequest& request);
     void onAnswered(PromptOutcome outcome);
+    void sound(const PromptRequest& request);
     void onRetiring(QWidget* content);
 
     const Services& m_services;
     Tray& m_tray;
+    PromptSound* m_sound;
     ReminderNotice* m_reminderNotice;
     std::function<const Project*()> m_shownProject;
 };

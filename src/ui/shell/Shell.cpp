@@ -5,6 +5,7 @@
 #include "core/backup/Backups.h"
 #include "core/library/Library.h"
 #include "core/monitor/Monitor.h"
+#include "core/monitor/ReminderPause.h"
 #include "core/presentation/RunningStatus.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
@@ -18,6 +19,7 @@
 #include "ui/preferences/BackupCommands.h"
 #include "ui/preferences/PreferencesWindow.h"
 #include "ui/shell/MainWindow.h"
+#include "ui/shell/PauseActions.h"
 #include "ui/shell/PromptPresenter.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/Tray.h"
@@ -48,14 +50,15 @@ void bringForward(QWidget* window)
 } // namespace
 
 Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& presence,
-             DesktopNotifier& notifier, QObject* parent)
+             DesktopNotifier& notifier, PromptSound* sound, QObject* parent)
     : QObject(parent)
     , m_services(services)
     , m_window(window)
     , m_presence(presence)
     , m_tray(new Tray(window, this))
+    , m_pauseActions(new PauseActions(services.pause, this))
     , m_prompts(new PromptPresenter(
-          services, *m_tray, notifier,
+          services, *m_tray, notifier, sound,
           [this] {
               return !m_presence.trayIconUsable() || ActiveWindow::isOtherProgramFullScreen();
           },
@@ -68,6 +71,8 @@ Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& pres
     connect(&m_window, &MainWindow::preferencesRequested, this, &Shell::showPreferences);
     connect(&m_window, &MainWindow::helpRequested, this, &Shell::showHelp);
     connect(&m_window, &MainWindow::contactRequested, this, &Shell::showContact);
+    m_pauseActions->addTo(m_window.lulletMenu(), m_window.preferencesAction());
+    connect(&m_services.pause, &ReminderPause::changed, this, &Shell::updateToolTip);
     connectMonitor();
     connectBackups();
     connectLock();
@@ -91,17 +96,22 @@ void Shell::connectPresence()
 
 void Shell::connectLock()
 {
-    m_window.setLocked(m_services.lock.isLocked());
-    connect(&m_services.lock, &Lock::unlocked, this, [this] {
-        m_window.setLocked(false);
-        if (m_trayQuickAdd)
-            m_trayQuickAdd->setEnabled(true);
-        // The list that said it was locked has nothing true to say now.
-        if (qobject_cast<RunningListView*>(m_tray->popover() ? m_tray->popover()->content()
-                                                             : nullptr))
-            m_tray->closePopoverImmediate();
-        updateToolTip();
-    });
+    showLockState();
+    // The store is read, and the lock switched on, after the windows are made.
+    connect(&m_services.lock, &Lock::locked, this, &Shell::showLockState);
+    connect(&m_services.lock, &Lock::unlocked, this, &Shell::showLockState);
+}
+
+void Shell::showLockState()
+{
+    const bool locked = m_services.lock.isLocked();
+    m_window.setLocked(locked);
+    if (m_trayQuickAdd)
+        m_trayQuickAdd->setEnabled(!locked);
+    // The running list said otherwise, either way: it has nothing true to say now.
+    if (qobject_cast<RunningListView*>(m_tray->popover() ? m_tray->popover()->content() : nullptr))
+        m_tray->closePopoverImmediate();
+    updateToolTip();
 }
 
 void Shell::connectBackups()
@@ -218,12 +228,14 @@ void Shell::updateToolTip()
 {
     if (!m_loaded)
         return;
+    const QString paused = m_services.pause.description();
+    m_tray->setPaused(!paused.isEmpty());
     // What runs and what comes next are the user's data.
-    if (m_services.lock.isLocked())
-        m_tray->setToolTip(tr("Lullet is locked"));
-    else
-        m_tray->setToolTip(
-            RunningStatus::toolTip(m_services.library, m_services.running, m_services.clock));
+    QString tip =
+        m_services.lock.isLocked()
+            ? tr("Lullet is locked")
+            : RunningStatus::toolTip(m_services.library, m_services.running, m_services.clock);
+    m_tray->setToolTip(paused.isEmpty() ? tip : paused + u'\n' + tip);
 }
 
 void Shell::showTray()
@@ -238,6 +250,7 @@ void Shell::showTray()
     QAction* preferences = menu->addAction(tr("Preferences…"));
     preferences->setShortcuts(MainWindow::preferencesShortcuts());
     connect(preferences, &QAction::triggered, this, &Shell::showPreferences);
+    m_pauseActions->addTo(menu, preferences);
     connect(menu->addAction(tr("Help")), &QAction::triggered, this, &Shell::showHelp);
     menu->addSeparator();
     connect(menu->addAction(tr("Quit Lullet")), &QAction::triggered, this, &Shell::quitRequested);
@@ -319,8 +332,10 @@ void Shell::quickAdd()
                         tr("Enter your password first, then add the task."));
         return;
     }
+    // The window's own bar only where the user is looking: a window minimised, covered or on
+    // another desktop would hide the field, and the quick-add window shows wherever the user is.
     MainView* main = m_content ? m_content->mainView() : nullptr;
-    if (m_window.isVisible() && main)
+    if (main && m_window.isVisible() && !m_window.isMinimized() && m_window.isActiveWindow())
         main->showQuickAddBar();
     else
         openQuickAddWindow();

@@ -18,7 +18,9 @@ class MainWindow;
 class PreferencesWindow;
 class Project;
 class QuickAddView;
+class PauseActions;
 class PromptPresenter;
+class PromptSound;
 class Tray;
 class WindowContent;
 struct Services;
@@ -28,8 +30,9 @@ struct Services;
 class Shell final : public QObject {
     Q_OBJECT
 public:
+    // `sound`: the prompts' sound; none keeps them silent.
     Shell(const Services& services, MainWindow& window, DesktopPresence& presence,
-          DesktopNotifier& notifier, QObject* parent = nullptr);
+          DesktopNotifier& notifier, PromptSound* sound = nullptr, QObject* parent = nullptr);
     ~Shell() override;
 
     Tray& tray() { return *m_tray; }
@@ -76,6 +79,8 @@ private:
     void connectMonitor();
     void connectBackups();
     void connectLock();
+    // The data's menu entries, the tray's quick add and its list follow the lock.
+    void showLockState();
     void connectContent();
     void connectPresence();
     const Project* selectedProject() const;
@@ -84,6 +89,7 @@ private:
     MainWindow& m_window;
     DesktopPresence& m_presence;
     Tray* m_tray;
+    PauseActions* m_pauseActions;
     PromptPresenter* m_prompts;
     WindowContent* m_content = nullptr;
     QPointer<QuickAddView> m_quickAddWindow;

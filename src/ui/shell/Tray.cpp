@@ -42,7 +42,7 @@ void Tray::dropPopover()
 
 void Tray::showIcon(QMenu* menu, bool visible)
 {
-    m_icon = new QSystemTrayIcon(TrayIconPainter::make(), this);
+    m_icon = new QSystemTrayIcon(TrayIconPainter::make(m_paused), this);
     m_icon->setToolTip(m_toolTip);
     // Every widget hears of a new palette; the main window is always there to listen.
     m_window.installEventFilter(this);
@@ -75,10 +75,19 @@ void Tray::setToolTip(const QString& text)
         m_icon->setToolTip(text);
 }
 
+void Tray::setPaused(bool paused)
+{
+    if (paused == m_paused)
+        return;
+    m_paused = paused;
+    if (m_icon)
+        m_icon->setIcon(TrayIconPainter::make(paused));
+}
+
 bool Tray::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == &m_window && event->type() == QEvent::PaletteChange && m_icon)
-        m_icon->setIcon(TrayIconPainter::make());
+        m_icon->setIcon(TrayIconPainter::make(m_paused));
     return QObject::eventFilter(watched, event);
 }
 

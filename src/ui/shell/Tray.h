@@ -32,6 +32,8 @@ public:
     void setIconVisible(bool visible);
     // Told to the panel only when it differs: an unchanged text wakes nothing.
     void setToolTip(const QString& text);
+    // The icon shows that the reminders are paused.
+    void setPaused(bool paused);
     // Shows new content in the popover, after the open one, if any, has closed.
     void show(const ContentFactory& make);
     // Closes with the fade; the popover still counts as the open one until replaced.
@@ -62,6 +64,7 @@ private:
     QPointer<Popover> m_retired;
     QPoint m_lastClick;
     QString m_toolTip = QStringLiteral("Lullet");
+    bool m_paused = false;
 
 protected:
     // The icon is drawn again when the desktop's colours change.

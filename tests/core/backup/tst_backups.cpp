@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <sys/stat.h>
+
 using namespace lullet;
 using namespace lullet::test;
 
@@ -83,7 +85,7 @@ private Q_SLOTS:
         QCOMPARE(db.queryInt("PRAGMA application_id"), qint64(StoreSchema::applicationId));
         QVERIFY(!QFile::exists(copy + QStringLiteral("-wal")));
         QVERIFY(!QFile::exists(copy + QStringLiteral("-shm")));
-        QVERIFY(!QFile::exists(path(QStringLiteral("data/temp/tempBkp.sqlite"))));
+        QVERIFY(!QFile::exists(path(QStringLiteral("data/temp/copy.sqlite"))));
         // A copy saved by hand is not listed.
         QVERIFY(backups().list().entries().empty());
 
@@ -210,6 +212,16 @@ private Q_SLOTS:
         QTest::newRow("newer") << QStringLiteral("newer") << QStringLiteral("newer version");
         QTest::newRow("no tables")
             << QStringLiteral("tables") << QStringLiteral("lacks the tables");
+        QTest::newRow("a folder") << QStringLiteral("folder") << QStringLiteral("Only a file");
+        QTest::newRow("a pipe no one writes to")
+            << QStringLiteral("pipe") << QStringLiteral("Only a file");
+        QTest::newRow("a device") << QStringLiteral("device") << QStringLiteral("Only a file");
+        QTest::newRow("the store in use")
+            << QStringLiteral("store") << QStringLiteral("is the store Lullet is using");
+        QTest::newRow("the store a restore set aside")
+            << QStringLiteral("kept") << QStringLiteral("one Lullet works with");
+        QTest::newRow("a copy being made")
+            << QStringLiteral("work") << QStringLiteral("one Lullet works with");
     }
 
     void aRefusedFileChangesNothing()
@@ -217,7 +229,7 @@ private Q_SLOTS:
         QFETCH(QString, kind);
         QFETCH(QString, because);
         add(QStringLiteral("Walk"));
-        const QString chosen = path(QStringLiteral("chosen.sqlite"));
+        QString chosen = path(QStringLiteral("chosen.sqlite"));
         if (kind == QStringLiteral("text") || kind == QStringLiteral("empty")) {
             writeFile(chosen, kind == QStringLiteral("text")
                                   ? "Dear diary, today I backed up nothing at all.\n"
@@ -227,6 +239,21 @@ private Q_SLOTS:
             QFile f(chosen);
             QVERIFY(f.open(QIODevice::ReadWrite));
             QVERIFY(f.resize(f.size() / 2));
+        } else if (kind == QStringLiteral("folder")) {
+            QVERIFY(QDir().mkpath(chosen));
+        } else if (kind == QStringLiteral("pipe")) {
+            QCOMPARE(::mkfifo(QFile::encodeName(chosen).constData(), 0600), 0);
+        } else if (kind == QStringLiteral("device")) {
+            chosen = QStringLiteral("/dev/zero");
+        } else if (kind == QStringLiteral("store")) {
+            chosen = storePath();
+        } else if (kind == QStringLiteral("kept") || kind == QStringLiteral("work")) {
+            // A whole, good store, under the name of one of Lullet's own files.
+            chosen = kind == QStringLiteral("kept")
+                         ? storePath() + QStringLiteral(".before-restore")
+                         : path(QStringLiteral("data/temp/copy.sqlite"));
+            QVERIFY(QDir().mkpath(QFileInfo(chosen).path()));
+            backUpTo(chosen);
         } else {
             Db other(chosen);
             if (kind == QStringLiteral("foreign")) {
@@ -244,34 +271,92 @@ private Q_SLOTS:
         QSignalSpy refused(&backups(), &Backups::restoreRefused);
         QSignalSpy created(&backups(), &Backups::backupCreated);
         backups().restoreFrom(chosen, QString());
-        QCOMPARE(refused.size(), 1);
+        QTRY_COMPARE(refused.size(), 1);
         QVERIFY2(refused.first().first().toString().contains(because),
                  qPrintable(refused.first().first().toString()));
         QTest::qWait(50);
         QVERIFY(created.isEmpty());
+        QVERIFY(!backups().isRestoring());
         QVERIFY(backups().list().entries().empty());
         QCOMPARE(digest(storePath()), before);
         QCOMPARE(titles(), QStringList{QStringLiteral("Walk")});
     }
 
-    // The chosen file vanishes while the safety copy is made: the swap fails, the old store is
-    // put back and the program goes on with it.
-    void aFailedSwapPutsTheStoreBack()
+    // A store in write-ahead mode comes with its log: what the check read there is restored,
+    // through SQLite, as one whole file.
+    void aFileWithItsLogIsRestoredWhole()
+    {
+        const QString chosen = path(QStringLiteral("chosen.sqlite"));
+        {
+            Launched other(path(QStringLiteral("other")), at(2026, 11, 23, 10, 15));
+            QVERIFY(other.open());
+            // Still open: what it saved lives in its log, not yet in the file.
+            other.addItem(QStringLiteral("Walk"), at(2026, 11, 23, 12, 0));
+            other.addItem(QStringLiteral("Read"), at(2026, 11, 23, 12, 0));
+            QVERIFY(other.library().save());
+            const QString source = path(QStringLiteral("other/data/Lullet.sqlite"));
+            QVERIFY(QFile::copy(source, chosen));
+            QVERIFY(QFile::copy(source + QStringLiteral("-wal"), chosen + QStringLiteral("-wal")));
+        }
+        QSignalSpy restored(&backups(), &Backups::restored);
+        backups().restoreFrom(chosen, QString());
+        QVERIFY(restored.wait(5000));
+        QCOMPARE(titles(), (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
+    }
+
+    // A file far larger than its database (sparse, or grown by another program) comes in as the
+    // database it holds, not as its apparent size.
+    void aSparseFileIsCopiedAsItsData()
+    {
+        add(QStringLiteral("Walk"));
+        const QString chosen = path(QStringLiteral("chosen.sqlite"));
+        backUpTo(chosen);
+        QFile grown(chosen);
+        QVERIFY(grown.resize(qint64(256) << 20));
+        QSignalSpy restored(&backups(), &Backups::restored);
+        backups().restoreFrom(chosen, QString());
+        QVERIFY(restored.wait(10000));
+        QCOMPARE(titles(), QStringList{QStringLiteral("Walk")});
+        QVERIFY(QFileInfo(storePath()).size() < (qint64(1) << 20));
+    }
+
+    // The store in use can't be set aside: nothing is restored, no success is told, and the
+    // program goes on with its store.
+    void aStoreThatCannotBeSetAsideIsNotReplaced()
     {
         add(QStringLiteral("Walk"));
         const QString copy = path(QStringLiteral("copy.sqlite"));
         backUpTo(copy);
         add(QStringLiteral("Read"));
+        QVERIFY(QDir().mkpath(storePath() + QStringLiteral(".before-restore/in the way")));
+        QSignalSpy restored(&backups(), &Backups::restored);
         QSignalSpy failed(&backups(), &Backups::restoreFailed);
         backups().restoreFrom(copy, QString());
-        QVERIFY(QFile::remove(copy));
         QVERIFY(failed.wait(5000));
-        QVERIFY(failed.first().first().toString().contains(QStringLiteral("put back")));
+        QVERIFY(failed.first().first().toString().contains(QStringLiteral("nothing was restored")));
+        QVERIFY(restored.isEmpty());
         QCOMPARE(titles(), (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
         add(QStringLiteral("Stretch"));
         QCOMPARE(titlesIn(storePath()),
                  (QStringList{QStringLiteral("Read"), QStringLiteral("Stretch"),
                               QStringLiteral("Walk")}));
+    }
+
+    // An old copy whose file can't be deleted at launch stays listed, and that is said.
+    void anUndeletableOldCopyStaysListed()
+    {
+        app().settings.setValue(SettingsKeys::backupOption, 2);
+        const QString stuck =
+            QDir(backups().backupsFolder()).filePath(QStringLiteral("stuck.sqlite"));
+        QVERIFY(QDir().mkpath(stuck + QStringLiteral("/in the way")));
+        app().settings.setValue(
+            SettingsKeys::backupFiles2,
+            BackupInfo::archive({{stuck, at(2026, 10, 1), {}, QStringLiteral("Backup"), {}}}));
+        QSignalSpy failed(&backups(), &Backups::pruneFailed);
+        backups().pruneAtLaunch();
+        QCOMPARE(backups().list().entries().size(), std::size_t(1));
+        QTRY_COMPARE(failed.size(), 1);
+        QVERIFY(failed.first().first().toString().contains(stuck));
     }
 };
 

@@ -13,7 +13,8 @@ class TestDashboard : public LaunchedTest {
     DashboardSummary summary()
     {
         const Services& s = services();
-        return DashboardSummary::of(s.library.items(), s.library.projects(), s.clock, s.running);
+        return DashboardSummary::of(s.library.items(), s.library.projects(), s.history, s.clock,
+                                    s.running);
     }
 
     Item* add(const QString& title, std::optional<Date> due, std::optional<int> notice = {})

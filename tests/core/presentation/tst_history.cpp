@@ -1,6 +1,9 @@
 // A store of months: the history stays on disk at launch, and every list and count must read
 // as it would with every item in memory.
+#include "core/presentation/HistoryTotals.h"
 #include "core/presentation/ListBuilder.h"
+#include "core/presentation/ListLines.h"
+#include "core/presentation/ListTexts.h"
 #include "core/presentation/Sidebar.h"
 #include "core/reports/Report.h"
 #include "core/store/Db.h"
@@ -26,13 +29,12 @@ struct SidebarNumbers {
 class TestHistory : public LaunchedTest {
     Q_OBJECT
     Date launchedAt() const override { return at(2026, 10, 1, 12, 0); }
-
     static Date now() { return at(2026, 11, 25, 12, 0); }
 
     Sidebar sidebar()
     {
         const Services& s = services();
-        return Sidebar(s.clock, s.library, s.catalogue, s.running);
+        return Sidebar(s.clock, s.library, s.catalogue, s.running, s.history);
     }
 
     SidebarNumbers sidebarNumbers()
@@ -52,12 +54,33 @@ class TestHistory : public LaunchedTest {
 
     Project* project(const QString& name) { return library().projectNamed(name); }
 
-    static QStringList rowTitles(const std::vector<ListRow>& rows)
+    // The titles of a list's items, the history's among them, as the list shows them.
+    QStringList lineTitles(const ListBuilder::Scope& scope)
     {
+        const Services& s = services();
+        ListLines lines(s.clock, s.library, s.history, s.running);
+        lines.build(scope);
         QStringList list;
-        for (const ListRow& row : rows)
-            list << row.title;
+        for (const ListRow& row :
+             ListTexts(lines, s.library, s.clock, RowTexts::ProjectName::None).allRows()) {
+            if (row.type == ListRow::ItemRow)
+                list << row.title;
+        }
         return list;
+    }
+
+    // The garden's history, read into memory one by one as a user acting on it would.
+    std::vector<Item*> gardenHistory()
+    {
+        const Services& s = services();
+        ListLines lines(s.clock, s.library, s.history, s.running);
+        lines.build({Segment::Project, project(QStringLiteral("Garden")), false});
+        std::vector<Item*> read;
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            if (!lines.at(i).heading && !lines.at(i).item)
+                read.push_back(lines.itemAt(i));
+        }
+        return read;
     }
 
     Item* finished(const QString& title, Date when, Project* in, int elapsed)
@@ -115,60 +138,55 @@ private Q_SLOTS:
         QVERIFY(library().holdsHistory());
         QCOMPARE(library().items().size(), std::size_t(6));
         const SidebarNumbers held = sidebarNumbers();
-        QVERIFY(library().holdsHistory());
         QCOMPARE(held.counts[3], 59);
-
-        // One project read in: its totals now come from memory, the other's still from disk.
-        (void)ListBuilder::itemsFor({Segment::Project, project(QStringLiteral("Garden"))},
-                                    library(), now());
-        QVERIFY(library().holdsHistory());
+        QCOMPARE(held.counts[4], 32);
+        // An item read in to be acted on is counted from memory now, not twice.
+        const std::vector<Item*> garden = gardenHistory();
+        QCOMPARE(garden.size(), std::size_t(30));
+        QCOMPARE(library().items().size(), std::size_t(36));
         QCOMPARE(sidebarNumbers(), held);
-
-        library().loadHistory();
-        QVERIFY(!library().holdsHistory());
-        QCOMPARE(sidebarNumbers(), held);
-        // Each row read once, whatever was read before.
-        const std::vector<Item*>& all = library().items();
-        QCOMPARE(all.size(), std::size_t(61));
-        QSet<qint64> rows;
-        for (const Item* item : all)
-            rows.insert(item->rowId());
-        QCOMPARE(rows.size(), 61);
+        QCOMPARE(library().bringIn(garden.front()->rowId()), garden.front());
+        QCOMPARE(library().items().size(), std::size_t(36));
     }
 
-    void everyListReadsTheHistoryItNeeds()
+    // Completed, a project's list, the "Not in Project" report and search, from the history on
+    // disk: the lists are whole, and none of them reads the history into memory.
+    void everyListShowsTheHistoryWithoutReadingItIn()
     {
-        library().loadHistory();
-        const QStringList completed =
-            rowTitles(ListBuilder::customListing(Segment::Completed, library(), clock()));
-        const QStringList garden = titlesOf(ListBuilder::itemsFor(
-            {Segment::Project, project(QStringLiteral("Garden"))}, library(), now()));
-        const int loose = Report::ofNoProject(library(), clock(), app().running()).stats.totalCount;
-        QCOMPARE(garden.size(), 32);
-        QCOMPARE(loose, 23);
-
-        relaunch(now());
-        QCOMPARE(rowTitles(ListBuilder::customListing(Segment::Completed, library(), clock())),
-                 completed);
-        relaunch(now());
-        QCOMPARE(titlesOf(ListBuilder::itemsFor(
-                     {Segment::Project, project(QStringLiteral("Garden"))}, library(), now())),
-                 garden);
-        QVERIFY(!titlesOf(library().items()).contains(QStringLiteral("Loose 3")));
-        relaunch(now());
-        QCOMPARE(Report::ofNoProject(library(), clock(), app().running()).stats.totalCount, loose);
-        relaunch(now());
+        // Every finished item with a date: all but "Undated done" of the 59 completed.
+        const QStringList completed = lineTitles({Segment::Completed, nullptr, false});
+        QCOMPARE(completed.size(), 58);
+        QCOMPARE(completed.first(), QStringLiteral("Recent two"));
+        QCOMPARE(completed.last(), QStringLiteral("Loose 0"));
+        QCOMPARE(lineTitles({Segment::Project, project(QStringLiteral("Garden")), false}).size(),
+                 32);
+        const Services& s = services();
+        const Report loose = Report::ofProject(s.library, s.history, nullptr, s.clock, s.running);
+        QCOMPARE(loose.stats.totalCount, 23);
+        QCOMPARE(loose.stats.completedCount, 22);
         QStringList found;
         for (const SidebarRow& row : sidebar().search(QStringLiteral("loose 1"), {}))
             found << row.name;
         QCOMPARE(found.size(), 11);
         QVERIFY(found.contains(QStringLiteral("Loose 19")));
+        QCOMPARE(library().items().size(), std::size_t(6));
+
+        // The totals of the list's head count the history, as if it were all in memory.
+        ListLines lines(s.clock, s.library, s.history, s.running);
+        lines.build({Segment::Project, project(QStringLiteral("Garden")), false});
+        const TaskStats onDisk = lines.stats();
+        (void)gardenHistory();
+        lines.build({Segment::Project, project(QStringLiteral("Garden")), false});
+        const TaskStats inMemory = lines.stats();
+        QCOMPARE(onDisk.totalCount, inMemory.totalCount);
+        QCOMPARE(onDisk.totalTimeAllotted, inMemory.totalTimeAllotted);
+        QCOMPARE(onDisk.timeCompletedRunning, inMemory.timeCompletedRunning);
     }
 
-    void editsBeforeTheHistoryIsReadAreKept()
+    void editsAndDeletionsAreNeverListedTwice()
     {
-        // Saved as history, and one of them deleted before the history is read: neither may come
-        // back as a second record.
+        // Saved as history, and one of them deleted and not yet saved: neither may come back
+        // from the disk as a second row.
         Item* kept = nullptr;
         Item* gone = nullptr;
         for (Item* item : library().items()) {
@@ -182,20 +200,18 @@ private Q_SLOTS:
         gone->setDtReminder(at(2026, 9, 1, 9, 0));
         QVERIFY(library().save());
         library().deleteItem(gone);
-        library().loadHistory();
-        QCOMPARE(titlesOf(library().items()).count(QStringLiteral("Recent done")), 1);
-        QVERIFY(!titlesOf(library().items()).contains(QStringLiteral("Recent two")));
+        const QStringList completed = lineTitles({Segment::Completed, nullptr, false});
+        QCOMPARE(completed.count(QStringLiteral("Recent done")), 1);
+        QVERIFY(!completed.contains(QStringLiteral("Recent two")));
         QVERIFY(library().save());
 
         // A project deleted takes its history on disk along.
         relaunch(now());
         services().projectActions.deleteProject(*project(QStringLiteral("Kitchen")));
-        QVERIFY(library().save());
         relaunch(now());
-        const QStringList all = titlesOf(library().allItems());
-        QVERIFY(!all.contains(QStringLiteral("Bake 2")));
-        QVERIFY(!all.contains(QStringLiteral("Recent two")));
-        QCOMPARE(all.size(), 54);
+        const QStringList left = lineTitles({Segment::Completed, nullptr, false});
+        QVERIFY(!left.contains(QStringLiteral("Bake 2")));
+        QCOMPARE(left.size(), 51);
     }
 
     void aProjectCopiedTakesItsHistory()
@@ -209,14 +225,11 @@ private Q_SLOTS:
     {
         QSignalSpy told(&library(), &Library::readFailed);
         QVERIFY(Db(storePath()).exec("ALTER TABLE ReminderInfo RENAME TO Elsewhere"));
-        library().loadHistory();
+        QVERIFY(lineTitles({Segment::Completed, nullptr, false}).size() < 58);
         (void)sidebar().counts();
         QCOMPARE(told.count(), 1);
-        QVERIFY(library().holdsHistory());
         QVERIFY(Db(storePath()).exec("ALTER TABLE Elsewhere RENAME TO ReminderInfo"));
-        library().loadHistory();
-        QVERIFY(!library().holdsHistory());
-        QCOMPARE(library().items().size(), std::size_t(61));
+        QCOMPARE(lineTitles({Segment::Completed, nullptr, false}).size(), 58);
     }
 
     void valuesReadOtherwiseKeepTheirItemInMemory()
@@ -231,11 +244,11 @@ private Q_SLOTS:
         relaunch(now());
         const QStringList held = titlesOf(library().items());
         // One reads as unfinished, the other as finished in 1970 by its plain date: the store's
-        // query takes neither for history, so both are read at the launch.
+        // query takes neither for history, so both are read at the launch, and listed once.
         QVERIFY(held.contains(QStringLiteral("Text flag")));
         QVERIFY(held.contains(QStringLiteral("Far date")));
-        library().loadHistory();
-        QCOMPARE(titlesOf(library().items()).count(QStringLiteral("Far date")), 1);
+        QCOMPARE(lineTitles({Segment::Completed, nullptr, false}).count(QStringLiteral("Far date")),
+                 1);
     }
 };
 

@@ -1,4 +1,7 @@
+#include "core/presentation/HistoryTotals.h"
 #include "core/presentation/ListBuilder.h"
+#include "core/presentation/ListLines.h"
+#include "core/presentation/ListTexts.h"
 #include "core/presentation/RowTexts.h"
 #include "core/presentation/RunningStatus.h"
 #include "core/presentation/TaskStats.h"
@@ -28,7 +31,32 @@ class TestLists : public LaunchedTest {
         return titlesOf(ListBuilder::itemsFor(scope, library(), clock().now()));
     }
 
-    QString timeText(Item* r) { return RowTexts::makeRow(r, clock(), true).time; }
+    QString timeText(Item* r)
+    {
+        return RowTexts::makeRow(r, clock(), RowTexts::ProjectName::InList).time;
+    }
+
+    // A list's rows as it shows them: "# " and the heading's texts, or the item's title.
+    QStringList shown(const ListBuilder::Scope& scope)
+    {
+        const Services& s = services();
+        ListLines lines(s.clock, s.library, s.history, s.running);
+        lines.build(scope);
+        QStringList list;
+        for (const ListRow& row :
+             ListTexts(lines, s.library, s.clock, RowTexts::ProjectName::None).allRows()) {
+            if (row.type != ListRow::DayHeading)
+                list << row.title;
+            else if (lines.headingsCounted())
+                list << QStringLiteral("# %1 %2 %3")
+                            .arg(row.title)
+                            .arg(row.countOnDay)
+                            .arg(row.timeUsed);
+            else
+                list << QStringLiteral("# ") + row.title;
+        }
+        return list;
+    }
     static QString timeOf(Date d) { return d.toString(DateStyle::None, DateStyle::Short); }
 
 private Q_SLOTS:
@@ -49,7 +77,7 @@ private Q_SLOTS:
                                           QStringLiteral("Done today")}));
         QCOMPARE(timeText(yesterday),
                  QStringLiteral("Overdue by 1 day at ") + timeOf(*yesterday->dtReminder()));
-        QVERIFY(RowTexts::makeRow(yesterday, clock(), true).dueOrOverdue);
+        QVERIFY(RowTexts::makeRow(yesterday, clock(), RowTexts::ProjectName::InList).dueOrOverdue);
         QCOMPARE(timeText(inThree),
                  QStringLiteral("In 3 days at ") + timeOf(*inThree->dtReminder()));
         QCOMPARE(titles({Segment::Anytime, nullptr, false}),
@@ -65,15 +93,16 @@ private Q_SLOTS:
                  QStringLiteral("Due from 1 hr  at ") + timeOf(*hour->dtReminder()));
         Item* soon = item(QStringLiteral("Soon"), at(2026, 11, 25, 12, 5));
         QCOMPARE(timeText(soon), timeOf(*soon->dtReminder()));
-        QVERIFY(!RowTexts::makeRow(soon, clock(), true).dueOrOverdue);
+        QVERIFY(!RowTexts::makeRow(soon, clock(), RowTexts::ProjectName::InList).dueOrOverdue);
         soon->setDurationHr(1);
         soon->setDurationMin(5);
-        const ListRow row = RowTexts::makeRow(soon, clock(), true);
+        const ListRow row = RowTexts::makeRow(soon, clock(), RowTexts::ProjectName::InList);
         QCOMPARE(row.duration, QStringLiteral("01:05m"));
         QCOMPARE(row.projectName, QStringLiteral("Lullet"));
         soon->setHasFinished(true);
         soon->setElapsedTime(3725);
-        QCOMPARE(RowTexts::makeRow(soon, clock(), true).timeUsed, QStringLiteral("01:02:05"));
+        QCOMPARE(RowTexts::makeRow(soon, clock(), RowTexts::ProjectName::InList).timeUsed,
+                 QStringLiteral("01:02:05"));
     }
 
     void statisticsNeverPassAHundredPercent()
@@ -90,10 +119,8 @@ private Q_SLOTS:
         running->setHasStarted(true);
         running->setTimeLimit(1800);
         running->setElapsedTime(300);
-        std::vector<ListRow> rows;
-        for (Item* r : {todo, done, running})
-            rows.push_back(RowTexts::makeRow(r, clock(), true));
-        const TaskStats s = TaskStats::of(rows, clock(), app().running());
+        const std::vector<Item*> items = {todo, done, running};
+        const TaskStats s = TaskStats::of(items, clock(), app().running());
         QCOMPARE(s.totalCount, 3);
         QCOMPARE(s.completedCount, 2);
         QCOMPARE(s.timeCompleted, 1500);
@@ -106,10 +133,9 @@ private Q_SLOTS:
 
         done->setTimeLimit(0);
         done->setDurationMin(0);
-        rows[1] = RowTexts::makeRow(done, clock(), true);
         running->setTimeLimit(100);
         running->setElapsedTime(5000);
-        const TaskStats capped = TaskStats::of(rows, clock(), app().running());
+        const TaskStats capped = TaskStats::of(items, clock(), app().running());
         QVERIFY(capped.totalTimeAllotted >= capped.timeCompletedRunning);
         QCOMPARE(capped.totalTimeAllotted, 6500);
     }
@@ -158,17 +184,11 @@ private Q_SLOTS:
         item(QStringLiteral("Soon"), at(2026, 11, 25, 15, 0))->setToProject(home);
         item(QStringLiteral("Whenever"), std::nullopt)->setToProject(home);
         item(QStringLiteral("Elsewhere"), at(2026, 11, 25, 9, 0));
-        const ListBuilder::Scope scope{Segment::Project, home, false};
-        const std::vector<ListRow> rows = ListBuilder::groupByDay(
-            ListBuilder::itemsFor(scope, library(), clock().now()), clock(), false);
-        QStringList shown;
-        for (const ListRow& row : rows)
-            shown << (row.type == ListRow::DayHeading ? QStringLiteral("# ") : QString()) +
-                         row.title;
-        QCOMPARE(shown, (QStringList{QStringLiteral("# Wed 25, Nov 2026"), QStringLiteral("Done"),
-                                     QStringLiteral("Soon"), QStringLiteral("# Fri 27, Nov 2026"),
-                                     QStringLiteral("Later"), QStringLiteral("# Anytime"),
-                                     QStringLiteral("Whenever")}));
+        QCOMPARE(shown({Segment::Project, home, false}),
+                 (QStringList{QStringLiteral("# Wed 25, Nov 2026"), QStringLiteral("Done"),
+                              QStringLiteral("Soon"), QStringLiteral("# Fri 27, Nov 2026"),
+                              QStringLiteral("Later"), QStringLiteral("# Anytime"),
+                              QStringLiteral("Whenever")}));
     }
 
     void upcomingAndCompletedByDay()
@@ -186,29 +206,21 @@ private Q_SLOTS:
             r->setHasFinished(true);
             r->setElapsedTime(used);
         }
-        const auto shown = [this](Segment segment) {
-            QStringList list;
-            for (const ListRow& row : ListBuilder::customListing(segment, library(), clock()))
-                list << (row.type == ListRow::DayHeading ? QStringLiteral("# %1 %2 %3")
-                                                               .arg(row.title)
-                                                               .arg(row.countOnDay)
-                                                               .arg(row.timeUsed)
-                                                         : row.title);
-            return list;
-        };
         // The nearest day first, the later first within a day; nothing past or undated.
-        QCOMPARE(shown(Segment::Upcoming),
+        QCOMPARE(shown({Segment::Upcoming, nullptr, false}),
                  (QStringList{QStringLiteral("# Thu 26, Nov 2026 2 00:00:00"),
                               QStringLiteral("Tomorrow late"), QStringLiteral("Tomorrow early"),
                               QStringLiteral("# Mon 30, Nov 2026 1 00:00:00"),
                               QStringLiteral("Later")}));
         QCOMPARE(
-            shown(Segment::Completed),
+            shown({Segment::Completed, nullptr, false}),
             (QStringList{QStringLiteral("# Wed 25, Nov 2026 1 00:01:00"), QStringLiteral("Done d"),
                          QStringLiteral("# Tue 24, Nov 2026 3 00:30:00"), QStringLiteral("Done b"),
                          QStringLiteral("Done c"), QStringLiteral("Done a")}));
-        const auto byDay = ListBuilder::timeUsedByDay(
-            ListBuilder::customListing(Segment::Completed, library(), clock()));
+        const Services& s = services();
+        ListLines completed(s.clock, s.library, s.history, s.running);
+        completed.build({Segment::Completed, nullptr, false});
+        const auto byDay = completed.usedByDay();
         QCOMPARE(byDay.size(), std::size_t(2));
         QCOMPARE(byDay[0].second, 1800);
     }

@@ -12,7 +12,7 @@ class TestSidebar : public LaunchedTest {
     Sidebar sidebar()
     {
         const Services& s = services();
-        return Sidebar(s.clock, s.library, s.catalogue, s.running);
+        return Sidebar(s.clock, s.library, s.catalogue, s.running, s.history);
     }
 
     Item* item(const QString& title, std::optional<Date> due, Project* project = nullptr)

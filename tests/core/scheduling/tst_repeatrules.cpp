@@ -141,6 +141,50 @@ private Q_SLOTS:
             }
         }
     }
+
+    // Day to year grids leap where stepping changes nothing, and land on the walk's very date:
+    // through changes of offset of every kind (a skipped or repeated hour, half an hour, a
+    // change at midnight, a skipped day), months too short for the anchor's day, and anchors
+    // many centuries back.
+    void calendarGridsMatchTheWalk()
+    {
+        std::mt19937 rng(31);
+        const auto pick = [&rng](int low, int high) {
+            return std::uniform_int_distribution<int>(low, high)(rng);
+        };
+        for (const char* zone :
+             {"Europe/Berlin", "America/New_York", "Australia/Lord_Howe", "America/Sao_Paulo",
+              "Pacific/Apia", "Asia/Tehran", "Europe/London", "America/Havana"}) {
+            CalendarContext::setTimeZone(QString::fromLatin1(zone));
+            for (int i = 0; i < 120; ++i) {
+                const int type = pick(RepeatUnit::Day, RepeatUnit::Year);
+                const bool days = type == RepeatUnit::Day || type == RepeatUnit::Week;
+                const int count = pick(0, 3) ? pick(1, 3) : pick(1, days ? 60 : 30);
+                const Date now = at(pick(1905, 2060), pick(1, 12), pick(1, 28), pick(0, 23),
+                                    pick(0, 59), pick(0, 59));
+                // Early hours and late days meet the changes of offset and the short months.
+                const int back = i == 0 ? 1500 : pick(-1, days ? 6 : 60);
+                const Date anchor =
+                    at(now.year() - back, pick(1, 12), pick(0, 1) ? pick(1, 28) : pick(25, 31),
+                       pick(0, 1) ? pick(0, 3) : pick(0, 23), pick(0, 3) * 15, pick(0, 59));
+                const TestRule rule(anchor, type, count);
+                const FakeClock clock(now);
+                const auto leaped = RepeatRules::nextDate(rule.info, clock);
+                const auto walked = RepeatRules::walkToNextDate(rule.info, clock);
+                QVERIFY(leaped && walked);
+                if (leaped->timeIntervalSince1970() != walked->timeIntervalSince1970())
+                    QFAIL(qPrintable(QStringLiteral("%1, unit %2 x %3, anchor %4, now %5: %6 "
+                                                    "instead of %7")
+                                         .arg(QLatin1String(zone))
+                                         .arg(type)
+                                         .arg(count)
+                                         .arg(anchor.timeIntervalSince1970(), 0, 'f', 0)
+                                         .arg(now.timeIntervalSince1970(), 0, 'f', 0)
+                                         .arg(leaped->timeIntervalSince1970(), 0, 'f', 3)
+                                         .arg(walked->timeIntervalSince1970(), 0, 'f', 3)));
+            }
+        }
+    }
 };
 
 LULLET_TEST_MAIN(TestRepeatRules)

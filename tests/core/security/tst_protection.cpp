@@ -164,9 +164,46 @@ private Q_SLOTS:
         app().settings.sync();
         QVERIFY(!readFile(app().settings.filePath()).contains("Kestrel9"));
 
-        protection().switchOff();
+        std::optional<QString> removal;
+        protection().switchOff(this, [&](const QString& e) { removal = e; });
         QVERIFY(!protection().isOn());
-        QTRY_VERIFY(!app().secrets.secret);
+        QTRY_COMPARE(removal, std::optional(QString()));
+        QVERIFY(!app().secrets.secret);
+    }
+
+    // A keyring that never answers is given up on after a while: the program stays locked, a
+    // switch turned off says that the password stayed, and an answer that comes too late counts
+    // for nothing.
+    void aKeyringThatNeverAnswersIsGivenUpOn()
+    {
+        using namespace std::chrono_literals;
+        launchProtected(QStringLiteral("kestrel"));
+        protection().setKeyringPatience(100ms);
+        app().secrets.holding = true;
+        std::optional<QString> why;
+        protection().logIn(QStringLiteral("kestrel"), this,
+                           [&](Protection::Login result, const QString& error) {
+                               QCOMPARE(result, Protection::Login::Unavailable);
+                               why = error;
+                           });
+        QTRY_VERIFY(why);
+        QVERIFY(why->contains(QLatin1String("did not answer")));
+        app().secrets.release();
+        QTest::qWait(20);
+        QVERIFY(lock().isLocked());
+
+        app().secrets.holding = true;
+        std::optional<QString> removal;
+        protection().switchOff(this, [&](const QString& e) { removal = e; });
+        QTRY_VERIFY(removal);
+        QVERIFY(!removal->isEmpty());
+        QVERIFY(!protection().isOn());
+        app().secrets.holding = false;
+        app().secrets.unavailable = true;
+        removal.reset();
+        protection().switchOff(this, [&](const QString& e) { removal = e; });
+        QTRY_VERIFY(removal);
+        QVERIFY(!removal->isEmpty());
     }
 
     // Reading what is stored repairs protection that has no password, and only that.

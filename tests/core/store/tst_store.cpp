@@ -4,6 +4,7 @@
 #include "core/store/StoreSchema.h"
 #include "support/FakeClock.h"
 #include "support/FolderTest.h"
+#include "support/FullDisk.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,6 +24,27 @@ QStringList asideFiles(const QString& folder)
             stores << name;
     }
     return stores;
+}
+
+// The store as a process stopped in the middle of a change leaves it: pages of a transaction that
+// never committed written to the file, and the journal that undoes them beside it.
+void leaveHotJournal(const QString& path)
+{
+    {
+        Db db(path);
+        QVERIFY(db.queryText("PRAGMA journal_mode = DELETE") == QStringLiteral("delete"));
+    }
+    const QString work = path + QStringLiteral(".work");
+    QVERIFY(QFile::copy(path, work));
+    Db db(work);
+    // A small cache spills the transaction's pages into the file before it ends.
+    QVERIFY(db.exec("PRAGMA cache_size = 10; BEGIN IMMEDIATE"));
+    for (int i = 0; i < 200; ++i)
+        QVERIFY(db.exec("INSERT INTO ReminderInfo (title) VALUES (printf('%.4000c', 'x'))"));
+    QVERIFY(QFile::exists(work + QStringLiteral("-journal")));
+    QVERIFY(QFile::remove(path));
+    QVERIFY(QFile::copy(work, path));
+    QVERIFY(QFile::copy(work + QStringLiteral("-journal"), path + QStringLiteral("-journal")));
 }
 
 } // namespace
@@ -360,6 +382,124 @@ private Q_SLOTS:
         QVERIFY(!item->dtReminder());
         QVERIFY(!item->durationHr());
         QVERIFY(!item->toProject());
+    }
+
+    // A disk without room is said as such, at a save and at a launch, and nothing is moved or
+    // lost: the change waits for room, and the store opens once there is some.
+    void aFullDiskIsSaidAsSuch()
+    {
+        FullDisk disk;
+        {
+            Store store(storeFolder(), m_clock);
+            QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+            store.context().insertItem()->setTitle(QStringLiteral("Kept"));
+            QVERIFY(store.context().save());
+            disk.fill();
+            store.context().insertItem()->setTitle(QStringLiteral("Waiting"));
+            QVERIFY(!store.context().save());
+            QCOMPARE(Db::inWords(store.context().errorCode(), store.context().errorMessage()),
+                     QStringLiteral("the disk is full"));
+            QVERIFY(store.context().hasChanges());
+            disk.empty();
+            QVERIFY(store.context().save());
+        }
+        disk.fill();
+        for (const QString& where : {storeFolder(), path(QStringLiteral("first"))}) {
+            Store store(where, m_clock);
+            const Store::Result result = store.open();
+            QCOMPARE(result.outcome, Store::Outcome::DiskFull);
+            QVERIFY2(result.message.contains(QStringLiteral("is full")),
+                     qPrintable(result.message));
+        }
+        QVERIFY(asideFiles(storeFolder()).isEmpty());
+        disk.empty();
+        Store store(storeFolder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        QCOMPARE(store.context().items().size(), std::size_t(2));
+    }
+
+    // A transaction cut short left a journal that only a connection that may write can roll
+    // back; the launch lets SQLite do so rather than call the store unreadable.
+    void aJournalLeftByAStopIsRolledBack()
+    {
+        {
+            Store store(storeFolder(), m_clock);
+            QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+            store.context().insertItem()->setTitle(QStringLiteral("Kept"));
+            QVERIFY(store.context().save());
+        }
+        leaveHotJournal(storeFile());
+        Store store(storeFolder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        QCOMPARE(store.context().items().size(), std::size_t(1));
+        QCOMPARE(store.db().queryText("PRAGMA integrity_check"), QStringLiteral("ok"));
+    }
+
+    // A restore's swap: the new store comes in, or the old one stays in use whatever fails, and
+    // a launch after a stop between the two finds the old one back in place, with a word.
+    void aRestoreSwapsOrPutsBack()
+    {
+        const auto titles = [](Store& store) {
+            QStringList list;
+            for (const Item* item : store.context().items())
+                list << item->title().value_or(QString());
+            return list;
+        };
+        Store store(storeFolder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        store.context().insertItem()->setTitle(QStringLiteral("Old"));
+        QVERIFY(store.context().save());
+        const QString incoming = path(QStringLiteral("incoming.sqlite"));
+        {
+            Store other(path(QStringLiteral("other")), m_clock);
+            QCOMPARE(other.open().outcome, Store::Outcome::Opened);
+            other.context().insertItem()->setTitle(QStringLiteral("New"));
+            QVERIFY(other.context().save());
+        }
+        QVERIFY(QFile::copy(path(QStringLiteral("other/Lullet.sqlite")), incoming));
+
+        // Garbage in place of a checked copy fails to open: the old store is put back.
+        writeFile(store.preparedPath(), "not a store");
+        Store::Result result = store.replaceWith(store.preparedPath());
+        QVERIFY(result.outcome != Store::Outcome::Opened);
+        QVERIFY2(result.message.contains(QStringLiteral("put back")), qPrintable(result.message));
+        QCOMPARE(titles(store), QStringList{QStringLiteral("Old")});
+
+        // The store in use can't be set aside: nothing is restored, and no success is told.
+        QVERIFY(QDir().mkpath(store.keptPath() + QStringLiteral("/in the way")));
+        QVERIFY(QFile::copy(incoming, store.preparedPath()));
+        result = store.replaceWith(store.preparedPath());
+        QVERIFY(result.outcome != Store::Outcome::Opened);
+        QVERIFY2(result.message.contains(QStringLiteral("nothing was restored")),
+                 qPrintable(result.message));
+        QCOMPARE(titles(store), QStringList{QStringLiteral("Old")});
+        QVERIFY(QDir(store.keptPath()).removeRecursively());
+
+        result = store.replaceWith(store.preparedPath());
+        QCOMPARE(result.outcome, Store::Outcome::Opened);
+        QCOMPARE(titles(store), QStringList{QStringLiteral("New")});
+        QVERIFY(!QFile::exists(store.keptPath()));
+        QVERIFY(!QFile::exists(store.preparedPath()));
+    }
+
+    void aRestoreStoppedMidwayIsUndoneAtLaunch()
+    {
+        {
+            Store store(storeFolder(), m_clock);
+            QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+            store.context().insertItem()->setTitle(QStringLiteral("Before"));
+            QVERIFY(store.context().save());
+        }
+        Store store(storeFolder(), m_clock);
+        // Set aside, and the copy to come in not yet in place.
+        QVERIFY(QFile::rename(store.storePath(), store.keptPath()));
+        writeFile(store.preparedPath(), "half a copy");
+        const Store::Result result = store.open();
+        QCOMPARE(result.outcome, Store::Outcome::Opened);
+        QVERIFY(result.message.contains(QStringLiteral("stopped during a restore")));
+        QCOMPARE(store.context().items().size(), std::size_t(1));
+        QVERIFY(!QFile::exists(store.keptPath()));
+        QVERIFY(!QFile::exists(store.preparedPath()));
     }
 };
 

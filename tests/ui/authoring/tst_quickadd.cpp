@@ -4,6 +4,7 @@
 #include "ui/authoring/DateChooser.h"
 #include "ui/authoring/QuickAddView.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimeEdit>
@@ -78,10 +79,13 @@ private Q_SLOTS:
         clock().advance(2 * 3600);
         bar.reset(home);
         bar.nameField()->setText(QStringLiteral("water plants"));
+        // The duration chosen is the task's.
+        bar.findChild<QComboBox*>(QStringLiteral("duration"))->setCurrentIndex(12);
         bar.add();
         const Item* item = library().items().front();
         QCOMPARE(*item->dtReminder(), at(2026, 11, 23, 12, 25, 30));
         QCOMPARE(item->toProject(), home);
+        QCOMPARE(item->plannedSeconds(), 30 * 60);
     }
 
     // Digits typed into the time field set the time; Escape puts the quick add away.

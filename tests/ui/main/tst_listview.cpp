@@ -61,7 +61,7 @@ private Q_SLOTS:
         ItemListView view(services(), {}, true);
         view.show();
         QCOMPARE(view.model().rowCount(), 2);
-        QCOMPARE(view.model().rows()[0].representedObject, write);
+        QCOMPARE(view.model().itemAt(0), write);
 
         QCOMPARE(startGlyph(view, 0), QStringLiteral("▶"));
         clickStart(view, 0);
@@ -77,7 +77,7 @@ private Q_SLOTS:
         // Stopping is finishing; the finished row goes below the open ones.
         clickStart(view, view.model().rowOf(write));
         QVERIFY(*write->hasFinished());
-        QCOMPARE(view.model().rows()[0].representedObject, read);
+        QCOMPARE(view.model().itemAt(0), read);
         // A finished row's button only shows it is done.
         QCOMPARE(startGlyph(view, 1), QStringLiteral("✓"));
         clickStart(view, 1);
@@ -155,7 +155,7 @@ private Q_SLOTS:
         QCOMPARE(view.model().rowCount(), 2);
         QCOMPARE(view.model().flags(view.model().index(0, ItemListModel::TitleColumn)),
                  Qt::ItemIsEnabled);
-        QCOMPARE(view.model().rows()[1].representedObject, done);
+        QCOMPARE(view.model().itemAt(1), done);
         QVERIFY(view.model().flags(view.model().index(1, ItemListModel::TitleColumn)) &
                 Qt::ItemIsSelectable);
     }

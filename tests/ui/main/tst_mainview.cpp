@@ -135,6 +135,12 @@ private Q_SLOTS:
         QCOMPARE(*library().items().back()->title(), QStringLiteral("Read a book"));
         QTRY_COMPARE(view.shownSegment(), Segment::Anytime);
         QTRY_COMPARE(view.sidebar().list()->currentRow(), 4);
+        // Added from "Completed", where it does not belong, it is shown where it does.
+        view.showSegment(Segment::Completed);
+        view.showQuickAddBar();
+        view.quickAddBar()->nameField()->setText(QStringLiteral("call the plumber"));
+        view.showQuickAddBar();
+        QTRY_COMPARE(view.shownSegment(), Segment::Today);
     }
 
     // A new project is selected and listed, then renamed, duplicated and deleted.

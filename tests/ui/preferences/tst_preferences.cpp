@@ -166,6 +166,31 @@ private Q_SLOTS:
         for (const BackupInfo& info : remaining)
             QVERIFY(!QFile::exists(info.path));
     }
+
+    // What can't be done with a listed copy is said: restoring one whose file has gone, and
+    // deleting at launch one whose file won't go.
+    void aCopyThatIsNotThereOrWillNotGoIsSaid()
+    {
+        makeLaunchBackup();
+        BackupCommands commands(services(), nullptr, [](const QString&) {});
+        BackupTab tab(services(), commands);
+        const QString gone = services().backups.list().entries().front().path;
+        QVERIFY(QFile::remove(gone));
+        tab.list()->setCurrentItem(tab.list()->topLevelItem(0));
+        Dialogs::answerNext(QStringLiteral("Ok"));
+        child<QPushButton>(&tab, "restore")->click();
+        QCOMPARE(Dialogs::asked().size(), 1);
+        QCOMPARE(Dialogs::asked().last().text,
+                 QStringLiteral("This backup's file is gone, so it can't be restored."));
+
+        QVERIFY(QDir().mkpath(gone + QStringLiteral("/in the way")));
+        app().settings.setValue(SettingsKeys::backupOption, 2);
+        Dialogs::answerNext(QStringLiteral("Ok"));
+        services().backups.pruneAtLaunch();
+        QTRY_COMPARE(Dialogs::asked().size(), 2);
+        QVERIFY(Dialogs::asked().last().text.contains(QStringLiteral("could not be deleted")));
+        QVERIFY(Dialogs::asked().last().information.contains(gone));
+    }
 };
 
 LULLET_TEST_MAIN_WITH(QApplication, TestPreferences)

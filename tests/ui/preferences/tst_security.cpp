@@ -167,10 +167,11 @@ private Q_SLOTS:
     // Preferences reach the security tab alone until the user is in.
     void theLockHidesTheData()
     {
-        launch(true, QStringLiteral("Kestrel9"));
-        app().addItem(QStringLiteral("Secret plan"), at(2026, 11, 23, 11));
+        // The windows are made before the store is read and the lock switched on, as at launch.
         MainWindow window;
         Shell shell(services(), window, app().presence, app().notifier);
+        launch(true, QStringLiteral("Kestrel9"));
+        app().addItem(QStringLiteral("Secret plan"), at(2026, 11, 23, 11));
         shell.showTray();
         shell.setLoaded();
         shell.bringMainWindowForward();
@@ -191,9 +192,17 @@ private Q_SLOTS:
         const QList<QAction*> entries = window.menuBar()->actions().first()->menu()->actions();
         for (QAction* entry : entries) {
             if (entry->text().contains(QLatin1String("Back Up")) ||
+                entry->text().contains(QLatin1String("Restore")) ||
                 entry->text().contains(QLatin1String("Quick")))
-                QVERIFY(!entry->isEnabled());
+                QVERIFY2(!entry->isEnabled(), qPrintable(entry->text()));
         }
+        // Nor does a way round the menu copy or replace the data.
+        Dialogs::answerNext(QStringLiteral("Ok"));
+        Q_EMIT window.backUpRequested();
+        QCOMPARE(Dialogs::asked().last().text, QStringLiteral("Lullet is locked."));
+        Dialogs::answerNext(QStringLiteral("Ok"));
+        Q_EMIT window.restoreRequested();
+        QCOMPARE(Dialogs::asked().last().text, QStringLiteral("Lullet is locked."));
 
         Q_EMIT child<QPushButton>(shell.content()->loginPage(), "preferences")->clicked();
         PreferencesWindow* preferences = shell.preferences();
@@ -216,7 +225,7 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         saveShot(preferences, QStringLiteral("preferences-general"));
         for (QAction* entry : entries)
-            QVERIFY(entry->isEnabled());
+            QVERIFY2(entry->isEnabled() || !entry->isVisible(), qPrintable(entry->text()));
     }
 
     void theLoginPageSaysWhatWentWrong()
@@ -246,8 +255,36 @@ private Q_SLOTS:
         QVERIFY(services().lock.isLocked());
         saveShot(&page, QStringLiteral("login-unreachable"));
         app().secrets.unavailable = false;
+
+        // A keyring that never answers: the page gives up after a while, and stays locked.
+        app().secrets.holding = true;
+        protection().setKeyringPatience(std::chrono::milliseconds(100));
+        child<QPushButton>(unreachable, "retry")->click();
+        QVERIFY(!field->isEnabled());
+        QTRY_VERIFY(field->isEnabled());
+        QVERIFY(seen(unreachable));
+        QVERIFY(child<QLabel>(unreachable)->text().contains(u"did not answer"));
+        app().secrets.release();
+        QVERIFY(services().lock.isLocked());
         child<QPushButton>(unreachable, "retry")->click();
         QTRY_VERIFY(!services().lock.isLocked());
+    }
+
+    // Protection switched off while the keyring can't remove the password: off, and said.
+    void switchingOffWhenTheKeyringKeepsThePassword()
+    {
+        launch(true, QStringLiteral("Kestrel9"));
+        SecurityTab tab(protection());
+        tab.show();
+        type(&tab, "currentPassword", QStringLiteral("Kestrel9"));
+        QTRY_VERIFY(seen(child<QLineEdit>(&tab, "currentPassword")));
+        child<QPushButton>(&tab, "continue")->click();
+        app().secrets.unavailable = true;
+        Dialogs::answerNext(QStringLiteral("Ok"));
+        child<QCheckBox>(&tab, "protection")->click();
+        QVERIFY(!protectionOn());
+        QTRY_COMPARE(Dialogs::asked().size(), 1);
+        QVERIFY(Dialogs::asked().first().text.contains(u"could not remove the password"));
     }
 };
 

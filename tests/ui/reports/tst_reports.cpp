@@ -57,7 +57,7 @@ private Q_SLOTS:
         }
         app().addItem(QStringLiteral("Buy seeds"), std::nullopt)->setToProject(garden);
 
-        Report report = Report::ofProject(s.library, *garden, s.clock, s.running);
+        Report report = Report::ofProject(s.library, s.history, garden, s.clock, s.running);
         // Upcoming and Completed print their chart under the head.
         report.hoursByDay = {{QStringLiteral("24 Nov"), 1.5}, {QStringLiteral("25 Nov"), 0.25}};
         QCOMPARE(report.stats.totalCount, 61);
@@ -131,8 +131,8 @@ private Q_SLOTS:
     void emptyReportsAndFileNames()
     {
         ReportCommands commands(services().clock, path(QStringLiteral("temp")));
-        const Report empty =
-            Report::ofRows(QStringLiteral("Today"), {}, services().clock, services().running);
+        Report empty;
+        empty.title = QStringLiteral("Today");
         Dialogs::answerNext(QStringLiteral("Ok"));
         Dialogs::answerNext(QStringLiteral("Ok"));
         commands.savePdf(empty, nullptr, ReportCommands::emptyListText());

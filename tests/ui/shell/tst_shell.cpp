@@ -128,6 +128,12 @@ private Q_SLOTS:
         QVERIFY(quick);
         QTest::keyClick(quick->nameField(), Qt::Key_Escape);
         QVERIFY(!quick->isVisible());
+        // A window minimised would hide its own bar: the quick-add window comes instead.
+        ui.shell.bringMainWindowForward();
+        ui.window.showMinimized();
+        Q_EMIT ui.window.quickAddRequested();
+        QVERIFY(quick->isVisible());
+        QVERIFY(!ui.shell.content()->mainView()->quickAddBar()->isVisible());
 
         QVERIFY(trayMenu);
         QSignalSpy quit(&ui.shell, &Shell::quitRequested);
@@ -168,8 +174,12 @@ private Q_SLOTS:
         app().addItem(QStringLiteral("Read"), at(2026, 11, 23, 13, 0));
         QVERIFY(library().save());
         QSignalSpy restored(&services().backups, &Backups::restored);
+        // The menu asks before anything is replaced, as the backup settings do.
+        Dialogs::forgetAsked();
+        Dialogs::answerNext(QStringLiteral("Yes"));
         Dialogs::chooseFileNext(copy);
         Q_EMIT ui.window.restoreRequested();
+        QCOMPARE(Dialogs::asked().front().text, QStringLiteral("Confirm Restore"));
         QVERIFY(restored.wait(5000));
         QVERIFY(view->shownProject() && view->shownProject()->hasContext());
         QCOMPARE(*view->shownProject()->name(), QStringLiteral("Home"));
@@ -178,10 +188,11 @@ private Q_SLOTS:
         // A text file is refused, and the user is told why.
         const QString text = writeFile(QStringLiteral("notes.txt"), "not a store");
         Dialogs::forgetAsked();
+        Dialogs::answerNext(QStringLiteral("Yes"));
         Dialogs::answerNext(QStringLiteral("Ok"));
         Dialogs::chooseFileNext(text);
         Q_EMIT ui.window.restoreRequested();
-        QCOMPARE(Dialogs::asked().size(), 2);
+        QCOMPARE(Dialogs::asked().size(), 3);
         QCOMPARE(Dialogs::asked().back().text,
                  QStringLiteral("This file can't be restored. Nothing was changed."));
     }

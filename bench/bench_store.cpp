@@ -1,5 +1,6 @@
 // Start-up and save costs of a large store, and the date operations used in loops.
 #include "BenchClock.h"
+#include "BenchLaunch.h"
 #include "StoreGenerator.h"
 #include "core/dates/CalendarContext.h"
 #include "core/dates/Clock.h"
@@ -31,9 +32,10 @@ int main(int argc, char* argv[])
     {
         Store store(dir.path(), clock);
         store.open();
-        generateStore(store, now, 50'000, 100, 50);
+        generateStore(store, now, benchItems(), 100, 50);
     }
-    // With --keep FILE the generated store is copied out, for measuring the running program.
+    // With --keep FILE the generated store is copied out, for measuring the running program;
+    // --items N makes it of N items.
     const QStringList args = QCoreApplication::arguments();
     if (const qsizetype at = args.indexOf(QStringLiteral("--keep"));
         at >= 0 && at + 1 < args.size()) {
@@ -54,7 +56,8 @@ int main(int argc, char* argv[])
             return a->effectiveDate().value_or(Date()) < b->effectiveDate().value_or(Date());
         });
     });
-    report("open a store of 50,000 items, as a launch does (median)", load, 250e6);
+    std::printf("(a store of %d items)\n", benchItems());
+    report("open the store, as a launch does (median)", load, 250e6);
 
     Store store(dir.path(), clock);
     store.open();

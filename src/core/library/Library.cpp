@@ -99,6 +99,16 @@ void Library::readHistory(const std::vector<qint64>& rowIds,
         tellRead(m_store.history().read(rowIds, visit));
 }
 
+void Library::historySums(std::vector<HistoryOnDisk::Sums>& out)
+{
+    tellRead(m_store.history().sums(out));
+}
+
+void Library::historyByMonth(const std::vector<Date>& starts, std::vector<int>& months)
+{
+    tellRead(m_store.history().countByMonth(starts, months));
+}
+
 Item* Library::bringIn(qint64 rowId)
 {
     const bool listed = std::any_of(m_items.begin(), m_items.end(),

@@ -48,6 +48,8 @@ public:
                                                     const Project* project)>& visit);
     void readHistory(const std::vector<qint64>& rowIds,
                      const std::function<void(const Item&)>& visit);
+    void historySums(std::vector<HistoryOnDisk::Sums>& out);
+    void historyByMonth(const std::vector<Date>& starts, std::vector<int>& months);
     // The item of that row of the history, read into memory and listed, to be acted on; none
     // when it has gone.
     Item* bringIn(qint64 rowId);

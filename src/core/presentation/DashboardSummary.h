@@ -50,6 +50,8 @@ struct DashboardSummary {
     public:
         explicit Months(Date now);
         int year() const { return m_year; }
+        // The start of each month, and the end of December.
+        std::vector<Date> starts() const { return {m_starts.begin(), m_starts.end()}; }
         void count(std::array<int, 12>& months, const Item& item, int sign = 1) const;
 
     private:

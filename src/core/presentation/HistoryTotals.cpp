@@ -5,8 +5,6 @@
 #include "core/model/Item.h"
 #include "core/presentation/DashboardSummary.h"
 
-#include <unordered_map>
-
 namespace lullet {
 
 HistoryTotals::HistoryTotals(Library& library, const Clock& clock, const RunningItem& running,
@@ -45,24 +43,27 @@ HistoryTotals& HistoryTotals::fresh()
     m_all = m_noProject = TaskStats();
     m_projects.clear();
     m_months.fill(0);
-    // One tally for all, one per project, fed item by item as the rows go by.
-    TaskStats::Tally all(m_clock, m_running);
-    TaskStats::Tally loose(m_clock, m_running);
-    std::unordered_map<const Project*, TaskStats::Tally> tallies;
-    const DashboardSummary::Months months(m_clock.now());
-    m_library.scanHistory([&](const Item& item) {
-        m_finished += item.isFinished() ? 1 : 0;
-        all.add(item);
-        if (const Project* project = item.toProject())
-            tallies.try_emplace(project, m_clock, m_running).first->second.add(item);
-        else
-            loose.add(item);
-        months.count(m_months, item);
-    });
-    m_all = all.sums();
-    m_noProject = loose.sums();
-    for (const auto& [project, tally] : tallies)
-        m_projects.insert(project, tally.sums());
+    // Summed by SQLite, project by project; every item of the history is finished and long past.
+    std::vector<HistoryOnDisk::Sums> sums;
+    m_library.historySums(sums);
+    QHash<qint64, const Project*> projects;
+    for (const Project* project : m_library.projects())
+        projects.insert(project->rowId(), project);
+    for (const HistoryOnDisk::Sums& part : sums) {
+        TaskStats stats;
+        stats.totalCount = stats.completedCount = part.count;
+        stats.timeCompleted = stats.timeCompletedRunning = part.used;
+        stats.totalTimeAllotted = part.planned;
+        m_finished += part.count;
+        m_all.add(stats);
+        // A project that is gone counts as none, as its items read.
+        const Project* project = projects.value(part.projectRowId);
+        (project ? m_projects[project] : m_noProject).add(stats);
+    }
+    // This year's months, counted as DashboardSummary::Months counts an item.
+    std::vector<int> months;
+    m_library.historyByMonth(DashboardSummary::Months(m_clock.now()).starts(), months);
+    std::copy_n(months.begin(), std::min(months.size(), m_months.size()), m_months.begin());
     return *this;
 }
 

@@ -47,6 +47,21 @@ public:
     using Part = HistoryPart;
     // Appends a line for each item of the part, in no order.
     bool lines(std::vector<Line>& out, Part part = {}) const;
+    // What the history of each project, and of no project (row 0), adds to a list's totals:
+    // every one of its items is finished, and those that are no to-do add their time.
+    struct Sums {
+        qint64 projectRowId = 0;
+        int count = 0;
+        // Of the items that are no to-do: seconds used, and seconds planned as a finished item
+        // counts them (its limit, else its planned length, no more than it used).
+        qint64 used = 0;
+        qint64 planned = 0;
+    };
+    bool sums(std::vector<Sums>& out) const;
+    // How many items count in each of the months that `starts` bound (the start of each, and
+    // the end of the last): one in the month of its own date, and in that of its postponed date
+    // where that is another.
+    bool countByMonth(const std::vector<Date>& starts, std::vector<int>& months) const;
     // Calls `visit` for each item, or each of one project's, read into one scratch record that
     // lives only for the call and is linked to its project one way.
     bool scan(const std::function<void(const Item&)>& visit,
@@ -61,9 +76,15 @@ public:
     Item* bringIn(qint64 rowId);
 
 private:
+    // The rows of the items in memory, in a table of the connection's own, so that a query left
+    // to SQLite can pass them over.
+    bool noteItemsInMemory() const;
     // The history's rows as `select` gives them, with `project` bound when given; rows already
     // in memory are passed over.
-    bool query(const char* select, Part part, const std::function<void(const Stmt&)>& row) const;
+    // `byTable`: a read of the rows' texts goes through the table in its order, which beats the
+    // history's index and a look-up per row.
+    bool query(const char* select, Part part, const std::function<void(const Stmt&)>& row,
+               bool byTable = false) const;
 
     ObjectContext& m_context;
     Db& m_db;

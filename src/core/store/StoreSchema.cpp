@@ -13,7 +13,7 @@ namespace {
 
 // Each step takes the file from the version before it to its own number. Steps are never edited
 // once released: a change of layout is a new step.
-constexpr std::array<const char*, 1> steps = {
+constexpr std::array<const char*, 2> steps = {
     R"sql(
 CREATE TABLE Project (
     id INTEGER PRIMARY KEY,
@@ -63,6 +63,13 @@ CREATE TABLE ReminderInfo (
     toProject INTEGER REFERENCES Project(id) ON DELETE SET NULL
 );
 CREATE INDEX ReminderInfo_toProject ON ReminderInfo(toProject);
+)sql",
+    // The history, finished and not started, as its lists and sums read it without a look at
+    // the table's texts: by project, with its dates and times.
+    R"sql(
+CREATE INDEX ReminderInfo_history ON ReminderInfo(toProject, repeatOption, elapsedTime,
+    timeLimit, durationHr, durationMin, dtReminder, dtReminderPostponed)
+    WHERE hasFinished = 1 AND coalesce(hasStarted, 0) = 0;
 )sql",
 };
 

@@ -1,5 +1,6 @@
 // A store of months: the history stays on disk at launch, and every list and count must read
 // as it would with every item in memory.
+#include "core/presentation/DashboardSummary.h"
 #include "core/presentation/HistoryTotals.h"
 #include "core/presentation/ListBuilder.h"
 #include "core/presentation/ListLines.h"
@@ -171,16 +172,31 @@ private Q_SLOTS:
         QVERIFY(found.contains(QStringLiteral("Loose 19")));
         QCOMPARE(library().items().size(), std::size_t(6));
 
-        // The totals of the list's head count the history, as if it were all in memory.
+        // The totals of the list's head and the dashboard count the history, as they would with
+        // it all in memory.
         ListLines lines(s.clock, s.library, s.history, s.running);
         lines.build({Segment::Project, project(QStringLiteral("Garden")), false});
         const TaskStats onDisk = lines.stats();
+        const auto dashboard = [&s] {
+            const DashboardSummary d = DashboardSummary::of(s.library.items(), s.library.projects(),
+                                                            s.history, s.clock, s.running);
+            QStringList rows;
+            for (const DashboardSummary::ProjectRow& row : d.rows)
+                rows << QStringLiteral("%1 %2 %3")
+                            .arg(row.title)
+                            .arg(row.count)
+                            .arg(row.plannedSeconds);
+            return std::pair(d.months, rows);
+        };
+        const auto dashboardOnDisk = dashboard();
         (void)gardenHistory();
         lines.build({Segment::Project, project(QStringLiteral("Garden")), false});
         const TaskStats inMemory = lines.stats();
         QCOMPARE(onDisk.totalCount, inMemory.totalCount);
         QCOMPARE(onDisk.totalTimeAllotted, inMemory.totalTimeAllotted);
         QCOMPARE(onDisk.timeCompletedRunning, inMemory.timeCompletedRunning);
+        QCOMPARE(dashboard(), dashboardOnDisk);
+        QCOMPARE(dashboardOnDisk.first[8], 37);
     }
 
     void editsAndDeletionsAreNeverListedTwice()

@@ -1,12 +1,11 @@
 #include "core/store/Db.h"
 #include "core/store/Store.h"
 #include "support/FakeClock.h"
-#include "support/TestMain.h"
+#include "support/FolderTest.h"
 
 #include <QDir>
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 
 #include <csignal>
 
@@ -46,13 +45,12 @@ QString storeWith(const QString& folder, const QString& title)
 
 // Processes that save or restore in a loop, killed at random moments: every change committed is
 // still there, and the store is whole, every time.
-class TestCrashSafety : public QObject {
+class TestCrashSafety : public lullet::test::FolderTest {
     Q_OBJECT
 private Q_SLOTS:
     void killedWhileSavingLosesNothing()
     {
-        QTemporaryDir dir;
-        const QString folder = dir.filePath(QStringLiteral("data"));
+        const QString folder = path(QStringLiteral("data"));
         QRandomGenerator random(20261122);
         int lastCommitted = 0;
         for (int round = 0; round < 50; ++round) {
@@ -80,10 +78,9 @@ private Q_SLOTS:
     // never an empty one.
     void killedWhileRestoringLosesNothing()
     {
-        QTemporaryDir dir;
-        const QString folder = dir.filePath(QStringLiteral("data"));
-        const QString first = storeWith(dir.filePath(QStringLiteral("a")), QStringLiteral("A"));
-        const QString second = storeWith(dir.filePath(QStringLiteral("b")), QStringLiteral("B"));
+        const QString folder = path(QStringLiteral("data"));
+        const QString first = storeWith(path(QStringLiteral("a")), QStringLiteral("A"));
+        const QString second = storeWith(path(QStringLiteral("b")), QStringLiteral("B"));
         QVERIFY(QDir().mkpath(folder));
         QVERIFY(QFile::copy(first, QDir(folder).filePath(QStringLiteral("Lullet.sqlite"))));
         QRandomGenerator random(20261124);

@@ -1,27 +1,28 @@
 #include "core/store/Db.h"
-#include "support/TestMain.h"
+#include "support/FolderTest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <csignal>
 #include <memory>
+#include <optional>
 #include <vector>
 
 // The real program, started and stopped as the desktop would.
-class TestLifecycle : public QObject {
+class TestLifecycle : public lullet::test::FolderTest {
     Q_OBJECT
 
-    static QProcessEnvironment environmentFor(const QString& home)
+    // The test's folder is the program's home.
+    QProcessEnvironment environment() const
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("HOME"), home);
+        env.insert(QStringLiteral("HOME"), folder());
         // A runtime folder of its own: the test's Lullet must not meet the user's.
-        const QString runtime = QDir(home).filePath(QStringLiteral("runtime"));
+        const QString runtime = path(QStringLiteral("runtime"));
         QDir().mkpath(runtime);
         QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                            QFileDevice::ExeOwner);
@@ -32,9 +33,24 @@ class TestLifecycle : public QObject {
         return env;
     }
 
-    static QString storePath(const QString& home)
+    QString storePath() const { return path(QStringLiteral(".local/share/Lullet/Lullet.sqlite")); }
+
+    std::unique_ptr<QProcess> launch(const QStringList& arguments,
+                                     std::optional<QProcessEnvironment> env = std::nullopt) const
     {
-        return QDir(home).filePath(QStringLiteral(".local/share/Lullet/Lullet.sqlite"));
+        auto lullet = std::make_unique<QProcess>();
+        lullet->setProcessEnvironment(env.value_or(environment()));
+        lullet->start(QStringLiteral(LULLET_BINARY), arguments);
+        return lullet;
+    }
+
+    // Ends the program as the desktop does at logout: it must quit cleanly.
+    static void terminate(QProcess& lullet)
+    {
+        ::kill(pid_t(lullet.processId()), SIGTERM);
+        QVERIFY(lullet.waitForFinished(10000));
+        QCOMPARE(lullet.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(lullet.exitCode(), 0);
     }
 
 private Q_SLOTS:
@@ -48,19 +64,13 @@ private Q_SLOTS:
     void sigtermSavesAndExitsCleanly()
     {
         QFETCH(QStringList, arguments);
-        QTemporaryDir home;
-        QProcess lullet;
-        lullet.setProcessEnvironment(environmentFor(home.path()));
-        lullet.start(QStringLiteral(LULLET_BINARY), arguments);
-        QVERIFY(lullet.waitForStarted());
+        const auto lullet = launch(arguments);
+        QVERIFY(lullet->waitForStarted());
         // Killed while it may still be starting: the request waits for the quit path.
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath(home.path())), 10000);
-        ::kill(pid_t(lullet.processId()), SIGTERM);
-        QVERIFY(lullet.waitForFinished(10000));
-        QCOMPARE(lullet.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(lullet.exitCode(), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath()), 10000);
+        terminate(*lullet);
 
-        lullet::Db db(storePath(home.path()), true);
+        lullet::Db db(storePath(), true);
         QVERIFY(db.isOpen());
         QCOMPARE(db.queryText("PRAGMA quick_check").value_or(QString()), QStringLiteral("ok"));
         QCOMPARE(db.queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 0);
@@ -68,44 +78,30 @@ private Q_SLOTS:
 
     void aSecondLaunchHandsOverAndEnds()
     {
-        QTemporaryDir home;
-        QProcess first;
-        first.setProcessEnvironment(environmentFor(home.path()));
-        first.start(QStringLiteral(LULLET_BINARY), {});
-        QVERIFY(first.waitForStarted());
-        QTRY_VERIFY_WITH_TIMEOUT(
-            QFile::exists(QDir(home.path()).filePath(QStringLiteral("runtime/lullet.socket"))),
-            10000);
+        const auto first = launch({});
+        QVERIFY(first->waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(QStringLiteral("runtime/lullet.socket"))),
+                                 10000);
         for (const QStringList& args :
              {QStringList{}, QStringList{QStringLiteral("--quick-add")}}) {
-            QProcess second;
-            second.setProcessEnvironment(environmentFor(home.path()));
-            second.start(QStringLiteral(LULLET_BINARY), args);
-            QVERIFY(second.waitForFinished(10000));
-            QCOMPARE(second.exitCode(), 0);
+            const auto second = launch(args);
+            QVERIFY(second->waitForFinished(10000));
+            QCOMPARE(second->exitCode(), 0);
         }
-        QProcess wrong;
-        wrong.setProcessEnvironment(environmentFor(home.path()));
-        wrong.start(QStringLiteral(LULLET_BINARY), {QStringLiteral("--verbose")});
-        QVERIFY(wrong.waitForFinished(10000));
-        QCOMPARE(wrong.exitCode(), 2);
-        QCOMPARE(first.state(), QProcess::Running);
-        ::kill(pid_t(first.processId()), SIGTERM);
-        QVERIFY(first.waitForFinished(10000));
-        QCOMPARE(first.exitCode(), 0);
+        const auto wrong = launch({QStringLiteral("--verbose")});
+        QVERIFY(wrong->waitForFinished(10000));
+        QCOMPARE(wrong->exitCode(), 2);
+        QCOMPARE(first->state(), QProcess::Running);
+        terminate(*first);
     }
 
     // Five launches at the same moment, again and again: exactly one stays.
     void aBurstOfLaunchesLeavesOne()
     {
-        QTemporaryDir home;
         for (int burst = 0; burst < 6; ++burst) {
             std::vector<std::unique_ptr<QProcess>> launches;
-            for (int i = 0; i < 5; ++i) {
-                launches.push_back(std::make_unique<QProcess>());
-                launches.back()->setProcessEnvironment(environmentFor(home.path()));
-                launches.back()->start(QStringLiteral(LULLET_BINARY), {});
-            }
+            for (int i = 0; i < 5; ++i)
+                launches.push_back(launch({}));
             const auto ended = [&launches] {
                 return std::count_if(launches.begin(), launches.end(), [](const auto& launch) {
                     return launch->state() == QProcess::NotRunning;
@@ -121,35 +117,27 @@ private Q_SLOTS:
                 else
                     QCOMPARE(launch->exitCode(), 0);
             }
-            ::kill(pid_t(survivor->processId()), SIGTERM);
-            QVERIFY(survivor->waitForFinished(10000));
-            QCOMPARE(survivor->exitCode(), 0);
+            terminate(*survivor);
         }
     }
 
     void theUsersFilesArePrivate()
     {
-        QTemporaryDir home;
-        QProcessEnvironment env = environmentFor(home.path());
+        QProcessEnvironment env = environment();
         // Without a runtime folder, the socket goes to a private folder of its own.
         env.remove(QStringLiteral("XDG_RUNTIME_DIR"));
-        QProcess lullet;
-        lullet.setProcessEnvironment(env);
-        lullet.start(QStringLiteral(LULLET_BINARY), {});
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath(home.path())), 10000);
+        const auto lullet = launch({}, env);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(storePath()), 10000);
         QTest::qWait(300);
-        ::kill(pid_t(lullet.processId()), SIGTERM);
-        QVERIFY(lullet.waitForFinished(10000));
+        terminate(*lullet);
         const auto owner = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-        const QString data = QFileInfo(storePath(home.path())).path();
+        const QString data = QFileInfo(storePath()).path();
         QCOMPARE(QFileInfo(data).permissions() & 0x7077,
                  QFileDevice::Permissions(owner | QFileDevice::ExeOwner));
-        QCOMPARE(QFileInfo(storePath(home.path())).permissions() & 0x7077,
-                 QFileDevice::Permissions(owner));
-        const QString settings =
-            QDir(home.path()).filePath(QStringLiteral(".config/Lullet/Lullet.conf"));
+        QCOMPARE(QFileInfo(storePath()).permissions() & 0x7077, QFileDevice::Permissions(owner));
+        const QString settings = path(QStringLiteral(".config/Lullet/Lullet.conf"));
         QCOMPARE(QFileInfo(settings).permissions() & 0x7077, QFileDevice::Permissions(owner));
-        const QString runtime = QDir(home.path()).filePath(QStringLiteral(".cache/lullet"));
+        const QString runtime = path(QStringLiteral(".cache/lullet"));
         QCOMPARE(QFileInfo(runtime).permissions() & 0x7077,
                  QFileDevice::Permissions(owner | QFileDevice::ExeOwner));
     }
@@ -178,44 +166,33 @@ private Q_SLOTS:
         QFETCH(int, status);
         QFETCH(QByteArray, out);
         QFETCH(QByteArray, error);
-        QTemporaryDir home;
-        QProcessEnvironment env = environmentFor(home.path());
+        QProcessEnvironment env = environment();
         env.remove(QStringLiteral("DISPLAY"));
         env.remove(QStringLiteral("WAYLAND_DISPLAY"));
         env.remove(QStringLiteral("QT_QPA_PLATFORM"));
-        QProcess lullet;
-        lullet.setProcessEnvironment(env);
-        lullet.start(QStringLiteral(LULLET_BINARY),
-                     option.isEmpty() ? QStringList{} : QStringList{option});
-        QVERIFY(lullet.waitForFinished(10000));
-        QCOMPARE(lullet.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(lullet.exitCode(), status);
-        const QByteArray printed = lullet.readAllStandardOutput();
-        const QByteArray complained = lullet.readAllStandardError();
+        const auto lullet = launch(option.isEmpty() ? QStringList{} : QStringList{option}, env);
+        QVERIFY(lullet->waitForFinished(10000));
+        QCOMPARE(lullet->exitStatus(), QProcess::NormalExit);
+        QCOMPARE(lullet->exitCode(), status);
+        const QByteArray printed = lullet->readAllStandardOutput();
+        const QByteArray complained = lullet->readAllStandardError();
         QVERIFY2(printed.contains(out), printed.constData());
         QVERIFY2(complained.contains(error), complained.constData());
         // Nothing was made in the home folder besides the test's runtime folder.
-        QCOMPARE(QDir(home.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+        QCOMPARE(QDir(folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  QStringList{QStringLiteral("runtime")});
     }
 
     void aFileInPlaceOfTheDataFolderEndsAtOnce()
     {
-        QTemporaryDir home;
-        const QString folder = QDir(home.path()).filePath(QStringLiteral(".local/share/Lullet"));
-        QVERIFY(QDir().mkpath(QFileInfo(folder).path()));
-        QFile blocker(folder);
-        QVERIFY(blocker.open(QIODevice::WriteOnly));
-        blocker.close();
-
-        QProcess lullet;
-        lullet.setProcessEnvironment(environmentFor(home.path()));
-        lullet.start(QStringLiteral(LULLET_BINARY), {});
-        QVERIFY(lullet.waitForFinished(10000));
-        QCOMPARE(lullet.exitCode(), 1);
-        QVERIFY(QString::fromUtf8(lullet.readAllStandardError())
+        QVERIFY(QDir().mkpath(path(QStringLiteral(".local/share"))));
+        const QString blocker = writeFile(QStringLiteral(".local/share/Lullet"), {});
+        const auto lullet = launch({});
+        QVERIFY(lullet->waitForFinished(10000));
+        QCOMPARE(lullet->exitCode(), 1);
+        QVERIFY(QString::fromUtf8(lullet->readAllStandardError())
                     .contains(QStringLiteral("Expected a folder to store application data")));
-        QVERIFY(QFileInfo(folder).isFile());
+        QVERIFY(QFileInfo(blocker).isFile());
     }
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/dates/CalendarContext.h"
+#include "core/dates/Date.h"
 
 namespace lullet::test {
 
@@ -10,6 +11,12 @@ inline void useTestCalendar()
 {
     CalendarContext::setLocale(QStringLiteral("en_US"));
     CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin"));
+}
+
+// A moment on the test calendar's wall clock.
+inline Date at(int y, int mo, int d, int h = 0, int mi = 0, int s = 0)
+{
+    return Date::dateFromComponents(y, mo, d, h, mi, s);
 }
 
 } // namespace lullet::test

@@ -10,10 +10,21 @@ namespace lullet {
 
 namespace {
 
-QQueue<int>& answers()
+QQueue<QString>& answers()
 {
-    static QQueue<int> queue;
+    static QQueue<QString> queue;
     return queue;
+}
+
+// The index of the button a test answers with.
+int answeredButton(const Dialogs::Question& question, const QString& label)
+{
+    const qsizetype index = question.buttons.indexOf(label);
+    if (index < 0)
+        qFatal("The question \"%s\" has no button \"%s\", only \"%s\".",
+               qUtf8Printable(question.text), qUtf8Printable(label),
+               qUtf8Printable(question.buttons.join(QStringLiteral("\", \""))));
+    return int(index);
 }
 
 QQueue<QString>& chosenFiles()
@@ -34,7 +45,7 @@ int Dialogs::ask(QWidget* parent, const Question& question)
 {
     history().append(question);
     if (!answers().isEmpty())
-        return answers().dequeue();
+        return answeredButton(question, answers().dequeue());
     QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Lullet"), question.text,
                     QMessageBox::NoButton, parent);
     box.setInformativeText(question.information);
@@ -83,9 +94,9 @@ void Dialogs::chooseFileNext(const QString& path)
     chosenFiles().enqueue(path);
 }
 
-void Dialogs::answerNext(int button)
+void Dialogs::answerNext(const QString& buttonLabel)
 {
-    answers().enqueue(button);
+    answers().enqueue(buttonLabel);
 }
 
 const QList<Dialogs::Question>& Dialogs::asked()

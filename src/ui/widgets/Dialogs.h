@@ -33,8 +33,9 @@ public:
                                     const QString& proposed);
     static QString chooseFileToOpen(QWidget* parent, const QString& caption, const QString& folder);
 
-    // Tests: the next question is answered with this button, without a panel. Answers queue up.
-    static void answerNext(int button);
+    // Tests: the next question is answered with the button of this label, without a panel.
+    // Answers queue up. A label the question has no button for ends the program, loudly.
+    static void answerNext(const QString& buttonLabel);
     // Tests: the next file panel answers with this path (empty: cancelled), without a panel.
     static void chooseFileNext(const QString& path);
     // Tests: every question asked so far, the pre-answered ones included.

@@ -1,23 +1,12 @@
 #include "core/backup/BackupList.h"
-#include "core/backup/Backups.h"
-#include "core/backup/StoreCopy.h"
-#include "core/dates/CalendarContext.h"
-#include "core/settings/SettingsKeys.h"
 #include "core/store/Db.h"
-#include "core/store/Store.h"
 #include "core/store/StoreSchema.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/LaunchedTest.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 
-#include <memory>
 #include <sys/stat.h>
 
 using namespace lullet;
@@ -48,39 +37,28 @@ QStringList titlesIn(const QString& storeFile)
 } // namespace
 
 // Copies of the store and restores from them, over a real store in a temporary folder.
-class TestBackups : public QObject {
+class TestBackups : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 15, 30); }
 
-    Launched& app() { return *m_app; }
-    Backups& backups() { return app().services().backups; }
-    QString storeFile()
-    {
-        return QDir(m_dir->path()).filePath(QStringLiteral("data/Lullet.sqlite"));
-    }
-    QString file(const QString& name) { return QDir(m_dir->path()).filePath(name); }
+    Backups& backups() { return services().backups; }
 
     void add(const QString& title)
     {
         app().addItem(title, at(2026, 11, 23, 12, 0));
-        QVERIFY(app().library().save());
+        QVERIFY(library().save());
     }
 
     QStringList titles()
     {
-        QStringList list;
-        for (const Item* item : app().library().items())
-            list << item->title().value_or(QString());
+        QStringList list = titlesOf(library().items());
         list.sort();
         return list;
     }
 
     BackupInfo listed(const QString& path, std::optional<Date> created)
     {
-        QFile f(path);
-        f.open(QIODevice::WriteOnly);
-        f.write("x");
+        writeFile(path, "x");
         return {path, created, QStringLiteral("1 byte"), QStringLiteral("Backup"), {}};
     }
 
@@ -93,28 +71,13 @@ class TestBackups : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase() { lullet::test::useTestCalendar(); }
-
-    void init()
-    {
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 15, 30));
-        QVERIFY(app().open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     // Committed rows still in the live store's log are in the copy, which is one whole file.
-    void aCopyIsWholeAndStandsAlone()
+    void copiesAreWholeAndTheLaunchsIsListed()
     {
         add(QStringLiteral("Walk"));
         add(QStringLiteral("Read"));
-        QVERIFY(QFile::exists(storeFile() + QStringLiteral("-wal")));
-        const QString copy = file(QStringLiteral("copy.sqlite"));
+        QVERIFY(QFile::exists(storePath() + QStringLiteral("-wal")));
+        const QString copy = path(QStringLiteral("copy.sqlite"));
         backUpTo(copy);
         QCOMPARE(titlesIn(copy), (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
         Db db(copy, true);
@@ -122,7 +85,7 @@ private Q_SLOTS:
         QCOMPARE(db.queryInt("PRAGMA application_id"), qint64(StoreSchema::applicationId));
         QVERIFY(!QFile::exists(copy + QStringLiteral("-wal")));
         QVERIFY(!QFile::exists(copy + QStringLiteral("-shm")));
-        QVERIFY(!QFile::exists(file(QStringLiteral("data/temp/copy.sqlite"))));
+        QVERIFY(!QFile::exists(path(QStringLiteral("data/temp/copy.sqlite"))));
         // A copy saved by hand is not listed.
         QVERIFY(backups().list().entries().empty());
 
@@ -131,12 +94,8 @@ private Q_SLOTS:
         backups().backUpTo(copy);
         QVERIFY(failed.wait(5000));
         QVERIFY(failed.first().first().toString().contains(QStringLiteral("already exists")));
-    }
 
-    // The launch's copy is listed, named by a moment a file name can hold.
-    void theLaunchCopyIsListed()
-    {
-        add(QStringLiteral("Walk"));
+        // The launch's copy is listed, named by a moment a file name can hold.
         QSignalSpy created(&backups(), &Backups::backupCreated);
         backups().createLaunchBackup();
         QVERIFY(created.wait(5000));
@@ -145,14 +104,15 @@ private Q_SLOTS:
         QCOMPARE(list[0].type, QStringLiteral("Backup"));
         QCOMPARE(*list[0].createdDate, at(2026, 11, 23, 10, 15, 30));
         QVERIFY(list[0].path.startsWith(backups().backupsFolder()));
-        QCOMPARE(titlesIn(list[0].path), QStringList{QStringLiteral("Walk")});
+        QCOMPARE(titlesIn(list[0].path),
+                 (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
         QVERIFY(list[0].sizeDisplay.endsWith(QStringLiteral(" KB")));
         const QString name = QFileInfo(list[0].path).fileName();
         for (const QChar bad : {QChar(u':'), QChar(u'/'), QChar(0x202F), QChar(0x00A0)})
             QVERIFY2(!name.contains(bad), qPrintable(name));
         QVERIFY(name.startsWith(QStringLiteral("Backup-Nov 23  2026")));
         QVERIFY(backups().proposedFileName().startsWith(QStringLiteral("Lullet Backup-")));
-        QCOMPARE(BackupList::sizeToDisplay(file(QStringLiteral("none"))),
+        QCOMPARE(BackupList::sizeToDisplay(path(QStringLiteral("none"))),
                  QStringLiteral("Zero Byte"));
     }
 
@@ -178,18 +138,18 @@ private Q_SLOTS:
         app().settings.setValue(SettingsKeys::backupOption, option);
         const QString folder = backups().backupsFolder();
         QDir().mkpath(folder);
-        const auto path = [&](const QString& name) {
+        const auto listedAs = [&](const QString& name) {
             return QDir(folder).filePath(name + QStringLiteral(".sqlite"));
         };
         std::vector<BackupInfo> list = {
-            listed(path(QStringLiteral("today")), at(2026, 11, 23, 8, 0)),
-            listed(path(QStringLiteral("six")), at(2026, 11, 17, 0, 0)),
-            listed(path(QStringLiteral("seven")), at(2026, 11, 16, 0, 0)),
-            {path(QStringLiteral("gone")), at(2026, 10, 1), {}, QStringLiteral("Backup"), {}},
-            listed(path(QStringLiteral("undated")), std::nullopt),
+            listed(listedAs(QStringLiteral("today")), at(2026, 11, 23, 8, 0)),
+            listed(listedAs(QStringLiteral("six")), at(2026, 11, 17, 0, 0)),
+            listed(listedAs(QStringLiteral("seven")), at(2026, 11, 16, 0, 0)),
+            {listedAs(QStringLiteral("gone")), at(2026, 10, 1), {}, QStringLiteral("Backup"), {}},
+            listed(listedAs(QStringLiteral("undated")), std::nullopt),
         };
         // Someone else's file, named in the list: never deleted.
-        const QString outside = file(QStringLiteral("mine.sqlite"));
+        const QString outside = path(QStringLiteral("mine.sqlite"));
         list.push_back(listed(outside, at(2026, 1, 1)));
         kept << (option == 0 ? QStringList{QStringLiteral("mine")} : QStringList{});
         app().settings.setValue(SettingsKeys::backupFiles2, BackupInfo::archive(list));
@@ -199,8 +159,8 @@ private Q_SLOTS:
         for (const BackupInfo& info : backups().list().entries())
             names << QFileInfo(info.path).completeBaseName();
         QCOMPARE(names, kept);
-        QCOMPARE(QFile::exists(path(QStringLiteral("seven"))), option == 0);
-        QCOMPARE(QFile::exists(path(QStringLiteral("today"))), option != 2);
+        QCOMPARE(QFile::exists(listedAs(QStringLiteral("seven"))), option == 0);
+        QCOMPARE(QFile::exists(listedAs(QStringLiteral("today"))), option != 2);
         QVERIFY(QFile::exists(outside));
         if (kept.isEmpty())
             QVERIFY(!app().settings.contains(SettingsKeys::backupFiles2));
@@ -210,26 +170,24 @@ private Q_SLOTS:
     // there was, and every list was read anew.
     void aRestoreRoundTrip()
     {
-        Project* home = app().library().newProject();
-        home->setName(QStringLiteral("Home"));
-        app().library().addProject(home);
+        app().addProject(QStringLiteral("Home"));
         add(QStringLiteral("Walk"));
-        const QString copy = file(QStringLiteral("copy.sqlite"));
+        const QString copy = path(QStringLiteral("copy.sqlite"));
         backUpTo(copy);
         add(QStringLiteral("Read"));
-        Item* running = app().library().items().front();
+        Item* running = library().items().front();
         app().running().start(*running);
         QSignalSpy restored(&backups(), &Backups::restored);
-        QSignalSpy reloaded(&app().library(), &Library::itemsChanged);
+        QSignalSpy reloaded(&library(), &Library::itemsChanged);
         backups().restoreFrom(copy, QStringLiteral("Home"));
         QVERIFY(restored.wait(5000));
         QCOMPARE(restored.first().first().toString(), QStringLiteral("Home"));
         QCOMPARE(titles(), QStringList{QStringLiteral("Walk")});
-        QVERIFY(app().library().projectNamed(QStringLiteral("Home")));
+        QVERIFY(library().projectNamed(QStringLiteral("Home")));
         QVERIFY(!app().running().item());
         QVERIFY(!running->hasContext());
         QVERIFY(!reloaded.isEmpty());
-        QVERIFY(!QFile::exists(storeFile() + QStringLiteral(".before-restore")));
+        QVERIFY(!QFile::exists(storePath() + QStringLiteral(".before-restore")));
 
         const std::vector<BackupInfo> list = backups().list().entries();
         QCOMPARE(list.size(), std::size_t(1));
@@ -239,7 +197,7 @@ private Q_SLOTS:
         // The chosen file was copied, not moved; the restored store saves as before.
         QVERIFY(QFile::exists(copy));
         add(QStringLiteral("Stretch"));
-        QCOMPARE(titlesIn(storeFile()),
+        QCOMPARE(titlesIn(storePath()),
                  (QStringList{QStringLiteral("Stretch"), QStringLiteral("Walk")}));
     }
 
@@ -247,30 +205,23 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("kind");
         QTest::addColumn<QString>("because");
-        QTest::newRow("text") << "text"
-                              << "not a database";
-        QTest::newRow("empty") << "empty"
-                               << "not a database";
-        QTest::newRow("truncated") << "truncated"
-                                   << "damaged";
-        QTest::newRow("foreign") << "foreign"
-                                 << "another program";
-        QTest::newRow("newer") << "newer"
-                               << "newer version";
-        QTest::newRow("no tables") << "tables"
-                                   << "lacks the tables";
-        QTest::newRow("a folder") << "folder"
-                                  << "Only a file";
-        QTest::newRow("a pipe no one writes to") << "pipe"
-                                                 << "Only a file";
-        QTest::newRow("a device") << "device"
-                                  << "Only a file";
-        QTest::newRow("the store in use") << "store"
-                                          << "is the store Lullet is using";
-        QTest::newRow("the store a restore set aside") << "kept"
-                                                       << "one Lullet works with";
-        QTest::newRow("a copy being made") << "work"
-                                           << "one Lullet works with";
+        QTest::newRow("text") << QStringLiteral("text") << QStringLiteral("not a database");
+        QTest::newRow("empty") << QStringLiteral("empty") << QStringLiteral("not a database");
+        QTest::newRow("truncated") << QStringLiteral("truncated") << QStringLiteral("damaged");
+        QTest::newRow("foreign") << QStringLiteral("foreign") << QStringLiteral("another program");
+        QTest::newRow("newer") << QStringLiteral("newer") << QStringLiteral("newer version");
+        QTest::newRow("no tables")
+            << QStringLiteral("tables") << QStringLiteral("lacks the tables");
+        QTest::newRow("a folder") << QStringLiteral("folder") << QStringLiteral("Only a file");
+        QTest::newRow("a pipe no one writes to")
+            << QStringLiteral("pipe") << QStringLiteral("Only a file");
+        QTest::newRow("a device") << QStringLiteral("device") << QStringLiteral("Only a file");
+        QTest::newRow("the store in use")
+            << QStringLiteral("store") << QStringLiteral("is the store Lullet is using");
+        QTest::newRow("the store a restore set aside")
+            << QStringLiteral("kept") << QStringLiteral("one Lullet works with");
+        QTest::newRow("a copy being made")
+            << QStringLiteral("work") << QStringLiteral("one Lullet works with");
     }
 
     void aRefusedFileChangesNothing()
@@ -278,12 +229,11 @@ private Q_SLOTS:
         QFETCH(QString, kind);
         QFETCH(QString, because);
         add(QStringLiteral("Walk"));
-        QString chosen = file(QStringLiteral("chosen.sqlite"));
+        QString chosen = path(QStringLiteral("chosen.sqlite"));
         if (kind == QStringLiteral("text") || kind == QStringLiteral("empty")) {
-            QFile f(chosen);
-            QVERIFY(f.open(QIODevice::WriteOnly));
-            if (kind == QStringLiteral("text"))
-                f.write("Dear diary, today I backed up nothing at all.\n");
+            writeFile(chosen, kind == QStringLiteral("text")
+                                  ? "Dear diary, today I backed up nothing at all.\n"
+                                  : QByteArray());
         } else if (kind == QStringLiteral("truncated")) {
             backUpTo(chosen);
             QFile f(chosen);
@@ -296,12 +246,12 @@ private Q_SLOTS:
         } else if (kind == QStringLiteral("device")) {
             chosen = QStringLiteral("/dev/zero");
         } else if (kind == QStringLiteral("store")) {
-            chosen = storeFile();
+            chosen = storePath();
         } else if (kind == QStringLiteral("kept") || kind == QStringLiteral("work")) {
             // A whole, good store, under the name of one of Lullet's own files.
             chosen = kind == QStringLiteral("kept")
-                         ? storeFile() + QStringLiteral(".before-restore")
-                         : file(QStringLiteral("data/temp/copy.sqlite"));
+                         ? storePath() + QStringLiteral(".before-restore")
+                         : path(QStringLiteral("data/temp/copy.sqlite"));
             QVERIFY(QDir().mkpath(QFileInfo(chosen).path()));
             backUpTo(chosen);
         } else {
@@ -317,7 +267,7 @@ private Q_SLOTS:
                 other.exec("CREATE TABLE notes (body TEXT)");
             }
         }
-        const QByteArray before = digest(storeFile());
+        const QByteArray before = digest(storePath());
         QSignalSpy refused(&backups(), &Backups::restoreRefused);
         QSignalSpy created(&backups(), &Backups::backupCreated);
         backups().restoreFrom(chosen, QString());
@@ -328,7 +278,7 @@ private Q_SLOTS:
         QVERIFY(created.isEmpty());
         QVERIFY(!backups().isRestoring());
         QVERIFY(backups().list().entries().empty());
-        QCOMPARE(digest(storeFile()), before);
+        QCOMPARE(digest(storePath()), before);
         QCOMPARE(titles(), QStringList{QStringLiteral("Walk")});
     }
 
@@ -336,15 +286,15 @@ private Q_SLOTS:
     // through SQLite, as one whole file.
     void aFileWithItsLogIsRestoredWhole()
     {
-        const QString chosen = file(QStringLiteral("chosen.sqlite"));
+        const QString chosen = path(QStringLiteral("chosen.sqlite"));
         {
-            Launched other(file(QStringLiteral("other")), at(2026, 11, 23, 10, 15));
+            Launched other(path(QStringLiteral("other")), at(2026, 11, 23, 10, 15));
             QVERIFY(other.open());
             // Still open: what it saved lives in its log, not yet in the file.
             other.addItem(QStringLiteral("Walk"), at(2026, 11, 23, 12, 0));
             other.addItem(QStringLiteral("Read"), at(2026, 11, 23, 12, 0));
             QVERIFY(other.library().save());
-            const QString source = file(QStringLiteral("other/data/Lullet.sqlite"));
+            const QString source = path(QStringLiteral("other/data/Lullet.sqlite"));
             QVERIFY(QFile::copy(source, chosen));
             QVERIFY(QFile::copy(source + QStringLiteral("-wal"), chosen + QStringLiteral("-wal")));
         }
@@ -359,7 +309,7 @@ private Q_SLOTS:
     void aSparseFileIsCopiedAsItsData()
     {
         add(QStringLiteral("Walk"));
-        const QString chosen = file(QStringLiteral("chosen.sqlite"));
+        const QString chosen = path(QStringLiteral("chosen.sqlite"));
         backUpTo(chosen);
         QFile grown(chosen);
         QVERIFY(grown.resize(qint64(256) << 20));
@@ -367,7 +317,7 @@ private Q_SLOTS:
         backups().restoreFrom(chosen, QString());
         QVERIFY(restored.wait(10000));
         QCOMPARE(titles(), QStringList{QStringLiteral("Walk")});
-        QVERIFY(QFileInfo(storeFile()).size() < (qint64(1) << 20));
+        QVERIFY(QFileInfo(storePath()).size() < (qint64(1) << 20));
     }
 
     // The store in use can't be set aside: nothing is restored, no success is told, and the
@@ -375,10 +325,10 @@ private Q_SLOTS:
     void aStoreThatCannotBeSetAsideIsNotReplaced()
     {
         add(QStringLiteral("Walk"));
-        const QString copy = file(QStringLiteral("copy.sqlite"));
+        const QString copy = path(QStringLiteral("copy.sqlite"));
         backUpTo(copy);
         add(QStringLiteral("Read"));
-        QVERIFY(QDir().mkpath(storeFile() + QStringLiteral(".before-restore/in the way")));
+        QVERIFY(QDir().mkpath(storePath() + QStringLiteral(".before-restore/in the way")));
         QSignalSpy restored(&backups(), &Backups::restored);
         QSignalSpy failed(&backups(), &Backups::restoreFailed);
         backups().restoreFrom(copy, QString());
@@ -387,7 +337,7 @@ private Q_SLOTS:
         QVERIFY(restored.isEmpty());
         QCOMPARE(titles(), (QStringList{QStringLiteral("Read"), QStringLiteral("Walk")}));
         add(QStringLiteral("Stretch"));
-        QCOMPARE(titlesIn(storeFile()),
+        QCOMPARE(titlesIn(storePath()),
                  (QStringList{QStringLiteral("Read"), QStringLiteral("Stretch"),
                               QStringLiteral("Walk")}));
     }

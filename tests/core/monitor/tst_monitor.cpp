@@ -1,39 +1,15 @@
-#include "core/dates/CalendarContext.h"
-#include "core/model/RepeatCodes.h"
 #include "core/monitor/IdlePrompt.h"
-#include "core/monitor/Monitor.h"
-#include "core/scheduling/Catalogue.h"
-#include "core/scheduling/WorkingSchedule.h"
-#include "core/security/Lock.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
+#include "support/LaunchedTest.h"
 
 using namespace lullet;
 using namespace lullet::test;
 
 // A working day on the fake clock: the monitor runs second by second, headless.
-class TestMonitor : public QObject {
+class TestMonitor : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
-    std::unique_ptr<QSignalSpy> m_ticksDone;
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
-    Launched& app() { return *m_app; }
-    PromptRecorder& host() { return m_app->prompts; }
-
-    void launch(Date at, bool welcomeDone = true)
-    {
-        m_app = std::make_unique<Launched>(m_dir->path(), at);
-        QVERIFY(app().open(welcomeDone));
-        m_ticksDone = std::make_unique<QSignalSpy>(&app().monitor(), &Monitor::ticked);
-    }
+    PromptRecorder& host() { return app().prompts; }
 
     void runUntil(Date until) { app().runUntil(until); }
 
@@ -46,31 +22,15 @@ class TestMonitor : public QObject {
 
     Item* running(int timeLimit)
     {
-        Item* r = item(QStringLiteral("Running"), m_app->clock.now(), false);
+        Item* r = item(QStringLiteral("Running"), clock().now(), false);
         app().running().start(*r);
         r->setTimeLimit(timeLimit);
         return r;
     }
 
 private Q_SLOTS:
-    void initTestCase() { init(); }
-
-    void init()
-    {
-        lullet::test::useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-    }
-
-    void cleanup()
-    {
-        m_ticksDone.reset();
-        m_app.reset();
-        m_dir.reset();
-    }
-
     void aDueItemPromptsOncePerMinute()
     {
-        launch(at(2026, 11, 23, 10, 0));
         Item* first = item(QStringLiteral("First"), at(2026, 11, 23, 10, 15));
         Item* second = item(QStringLiteral("Second"), at(2026, 11, 23, 10, 15, 30));
         item(QStringLiteral("Quiet"), at(2026, 11, 23, 10, 16), false);
@@ -86,23 +46,15 @@ private Q_SLOTS:
         QCOMPARE(host().prompts[1].item, second);
         QVERIFY(!host().prompts[0].previous);
         QCOMPARE(*app().running().lastPromptAt(), at(2026, 11, 23, 10, 15));
+        // A minute is passed once however often it ticks.
+        app().monitor().tick();
+        QCoreApplication::processEvents();
         runUntil(at(2026, 11, 23, 10, 20));
         QCOMPARE(host().prompts.size(), std::size_t(2));
     }
 
-    void aMinuteIsPassedOnceHoweverOftenItTicks()
-    {
-        launch(at(2026, 11, 23, 10, 14, 59));
-        item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15));
-        runUntil(at(2026, 11, 23, 10, 15, 0));
-        app().monitor().tick();
-        QCoreApplication::processEvents();
-        QCOMPARE(host().kinds(), QStringList{QStringLiteral("reminder")});
-    }
-
     void theRunningItemIsAskedAboutWithTheDueOne()
     {
-        launch(at(2026, 11, 23, 10, 0));
         Item* runningItem = item(QStringLiteral("Writing"), at(2026, 11, 23, 9, 0), false);
         runningItem->setHasStarted(true);
         Item* due = item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 1));
@@ -114,7 +66,7 @@ private Q_SLOTS:
 
     void aToDoFromLastWeekPromptsAtItsTimeToday()
     {
-        launch(at(2026, 11, 23, 9, 0));
+        relaunch(at(2026, 11, 23, 9, 0));
         app().running().setPromptPeriod(60);
         Item* todo = item(QStringLiteral("Water"), at(2026, 11, 16, 9, 30), false);
         todo->setRepeatOption(RepeatEnd::toDoMarker);
@@ -131,9 +83,9 @@ private Q_SLOTS:
         QCOMPARE(host().kinds().count(QStringLiteral("todo")), 1);
     }
 
-    void theIdleQuestionComesAtItsEarlyEdge()
+    void theIdleQuestionComesAtItsEarlyEdgeAndAfterAPutOff()
     {
-        launch(at(2026, 11, 23, 9, 0, 0));
+        relaunch(at(2026, 11, 23, 9, 0, 0));
         // Stamped at second 10, a 15-minute period is over at the pass 14:50 later: more than
         // 14 minutes and 30 seconds.
         app().running().stampPrompt(at(2026, 11, 23, 9, 0, 10));
@@ -150,29 +102,20 @@ private Q_SLOTS:
         runUntil(at(2026, 11, 23, 9, 16, 0));
         QCOMPARE(host().prompts.size(), std::size_t(2));
         QCOMPARE(host().prompts[1].since, at(2026, 11, 23, 9, 15));
-    }
 
-    // Put off ("Later", Escape), the question comes back one full period after the dismissal,
-    // over the whole gap, however long it stood open.
-    void aQuestionPutOffComesBackAfterOnePeriod()
-    {
-        launch(at(2026, 11, 23, 9, 0, 0));
+        // Put off ("Later", Escape), the question comes back one full period after the
+        // dismissal, over the whole gap, however long it stood open: the user notices it at
+        // 9:27 and puts it off.
         app().running().setPromptPeriod(15);
-        app().running().stampPrompt(at(2026, 11, 23, 9, 0, 0));
-        runUntil(at(2026, 11, 23, 9, 15, 0));
-        QCOMPARE(host().prompts.size(), std::size_t(1));
-        // The user notices it at 9:27 and puts it off.
-        m_app->clock.set(at(2026, 11, 23, 9, 27, 0));
-        IdlePrompt question(app().clock, app().library(), app().running(), host().prompts[0].since,
-                            false);
+        clock().set(at(2026, 11, 23, 9, 27, 0));
+        IdlePrompt question(clock(), library(), app().running(), host().prompts[1].since, false);
         question.putOff();
         runUntil(at(2026, 11, 23, 9, 41, 59));
-        QCOMPARE(host().prompts.size(), std::size_t(1));
-        runUntil(at(2026, 11, 23, 9, 42, 0));
         QCOMPARE(host().prompts.size(), std::size_t(2));
-        IdlePrompt again(app().clock, app().library(), app().running(), host().prompts[1].since,
-                         false);
-        QCOMPARE(again.gapStart(), at(2026, 11, 23, 9, 0, 0));
+        runUntil(at(2026, 11, 23, 9, 42, 0));
+        QCOMPARE(host().prompts.size(), std::size_t(3));
+        IdlePrompt again(clock(), library(), app().running(), host().prompts[2].since, false);
+        QCOMPARE(again.gapStart(), at(2026, 11, 23, 9, 15));
     }
 
     void theIdleQuestionHasItsGates_data()
@@ -189,18 +132,19 @@ private Q_SLOTS:
     void theIdleQuestionHasItsGates()
     {
         QFETCH(QString, gate);
-        const bool evening = gate == QStringLiteral("hours");
-        launch(evening ? at(2026, 11, 23, 18, 0) : at(2026, 11, 23, 10, 0),
-               gate != QStringLiteral("welcome"));
+        if (gate == QStringLiteral("hours"))
+            relaunch(at(2026, 11, 23, 18, 0));
+        if (gate == QStringLiteral("welcome"))
+            app().settings.setValue(SettingsKeys::isShowFirst, 0);
         if (gate == QStringLiteral("disable"))
-            m_app->settings.setValue(SettingsKeys::disableAutoPrompt, 1);
+            app().settings.setValue(SettingsKeys::disableAutoPrompt, 1);
         if (gate == QStringLiteral("locked"))
-            app().services().lock.lock();
+            services().lock.lock();
         if (gate == QStringLiteral("period"))
             app().running().setPromptPeriod(0);
         if (gate == QStringLiteral("running"))
             running(0)->setTimeLimitExtendedBy(3 * 3600);
-        runUntil(m_app->clock.now().dateByAddingMinutes(40));
+        runUntil(clock().now().dateByAddingMinutes(40));
         QCOMPARE(host().kinds(), QStringList());
         app().monitor().askWhatNow();
         QCoreApplication::processEvents();
@@ -210,12 +154,12 @@ private Q_SLOTS:
 
     void aChangedScheduleCountsAtOnce()
     {
-        launch(at(2026, 11, 23, 19, 0));
+        relaunch(at(2026, 11, 23, 19, 0));
         app().running().setPromptPeriod(15);
         runUntil(at(2026, 11, 23, 19, 40));
         QVERIFY(host().prompts.empty());
         // Monday's hours now run to 21:00; the monitor needs no relaunch to see it.
-        app().services().schedule.entriesFor(2).front()->endTime = at(2026, 11, 23, 21, 0);
+        services().schedule.entriesFor(2).front()->endTime = at(2026, 11, 23, 21, 0);
         runUntil(at(2026, 11, 23, 19, 41));
         QCOMPARE(host().kinds(), QStringList{QStringLiteral("idle")});
     }
@@ -223,7 +167,7 @@ private Q_SLOTS:
     void aRunThatCrossesMidnightSeesNoHours()
     {
         // Launched ten minutes before the end of Monday's hours: Tuesday's hours are never seen.
-        launch(at(2026, 11, 23, 17, 50));
+        relaunch(at(2026, 11, 23, 17, 50));
         Item* due = item(QStringLiteral("Tomorrow's"), at(2026, 11, 24, 10, 0));
         runUntil(at(2026, 11, 24, 10, 0));
         QCOMPARE(host().kinds(), QStringList{QStringLiteral("reminder")});
@@ -232,17 +176,17 @@ private Q_SLOTS:
 
     void aLimitedItemIsOverOnceOnTheTickThatReachesItsLimit()
     {
-        launch(at(2026, 11, 23, 10, 13, 0));
+        relaunch(at(2026, 11, 23, 10, 13, 0));
         Item* r = running(120);
         Item* due = item(QStringLiteral("Missed"), at(2026, 11, 23, 10, 15));
-        const int before = int(m_ticksDone->count());
+        QSignalSpy ticks(&app().monitor(), &Monitor::ticked);
         // The limit is reached on the tick of 10:15:00: that tick neither posts nor passes, so
         // the item due in that very second is missed.
         runUntil(at(2026, 11, 23, 10, 15, 0));
         QCOMPARE(*r->elapsedTime(), 120);
         QCOMPARE(host().kinds(), QStringList{QStringLiteral("timeOver")});
         QCOMPARE(host().prompts[0].item, r);
-        QCOMPARE(m_ticksDone->count() - before, 119);
+        QCOMPARE(ticks.count(), 119);
         QCOMPARE(*app().running().lastPromptAt(), at(2026, 11, 23, 10, 15));
         runUntil(at(2026, 11, 23, 10, 30));
         QCOMPARE(host().prompts.size(), std::size_t(1));
@@ -251,7 +195,6 @@ private Q_SLOTS:
 
     void anUnlimitedItemIsAskedAboutEveryPeriod()
     {
-        launch(at(2026, 11, 23, 10, 0, 0));
         app().running().setPromptPeriod(2);
         app().running().stampPrompt(at(2026, 11, 23, 10, 0, 0));
         Item* r = running(0);
@@ -270,7 +213,6 @@ private Q_SLOTS:
 
     void aPeriodOfZeroMovesTheClockButAsksNothing()
     {
-        launch(at(2026, 11, 23, 10, 0, 0));
         app().running().setPromptPeriod(0);
         app().running().stampPrompt(at(2026, 11, 23, 10, 0, 0));
         running(0);
@@ -282,7 +224,7 @@ private Q_SLOTS:
 
     void theLaunchAsksRightAfterTheWindowAppears()
     {
-        launch(at(2026, 11, 23, 10, 0, 10));
+        relaunch(at(2026, 11, 23, 10, 0, 10));
         app().monitor().askWhatNow();
         QCoreApplication::processEvents();
         QCOMPARE(host().kinds(), QStringList{QStringLiteral("idle")});
@@ -292,28 +234,20 @@ private Q_SLOTS:
 
     void theRulesMoveOnAtEachMinute()
     {
-        launch(at(2026, 11, 23, 10, 0, 0));
-        Rule* rule = app().library().newRule();
-        rule->setUniqueId(QStringLiteral("Stretch_1"));
-        rule->setTitle(QStringLiteral("Stretch"));
-        rule->setDtReminder(at(2026, 11, 23, 9, 30));
-        rule->setRepeatIntervalType(RepeatUnit::Hour);
-        rule->setRepeatInterval(1);
-        rule->setIsCustom(true);
-        rule->setIsActive(true);
-        app().services().catalogue.registerRule(rule);
-        QCOMPARE(app().library().items().size(), std::size_t(1));
-        Item* first = app().library().items().front();
+        services().catalogue.registerRule(
+            app().addRule(QStringLiteral("Stretch"), RepeatUnit::Hour, 1, at(2026, 11, 23, 9, 30)));
+        QCOMPARE(library().items().size(), std::size_t(1));
+        Item* first = library().items().front();
         QCOMPARE(*first->dtReminder(), at(2026, 11, 23, 10, 30));
         QSignalSpy updates(&app().monitor(), &Monitor::minutePassed);
         runUntil(at(2026, 11, 23, 10, 35, 30));
-        QCOMPARE(app().library().items().size(), std::size_t(1));
+        QCOMPARE(library().items().size(), std::size_t(1));
         // Finished without its follower: the next minute's pass makes it.
         first->setHasFinished(true);
         runUntil(at(2026, 11, 23, 10, 36, 0));
         QCOMPARE(updates.count(), 36);
-        QCOMPARE(app().library().items().size(), std::size_t(2));
-        QCOMPARE(*app().library().items().front()->dtReminder(), at(2026, 11, 23, 11, 30));
+        QCOMPARE(library().items().size(), std::size_t(2));
+        QCOMPARE(*library().items().front()->dtReminder(), at(2026, 11, 23, 11, 30));
     }
 };
 

@@ -12,20 +12,17 @@
 #include "support/FakeClock.h"
 #include "support/FakeInhibitor.h"
 #include "support/FakeSecretStore.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/FolderTest.h"
 
 #include <QDir>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
 namespace {
 
-Date at(int h, int mi = 0, int s = 0)
+// A moment of the test's Monday.
+Date monday(int h, int mi = 0, int s = 0)
 {
     return Date::dateFromComponents(2026, 11, 23, h, mi, s);
 }
@@ -156,14 +153,9 @@ struct Day {
 
 // No reminder is lost, and none comes at the wrong moment: prompts wait their turn, and wait
 // while the user paused them, locked the screen or is away.
-class TestPromptQueue : public QObject {
+class TestPromptQueue : public FolderTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-
 private Q_SLOTS:
-    void initTestCase() { useTestCalendar(); }
-    void init() { m_dir = std::make_unique<QTemporaryDir>(); }
-
     void itemsDueInTheSameMinuteAreAllShown_data()
     {
         QTest::addColumn<int>("count");
@@ -175,36 +167,36 @@ private Q_SLOTS:
     void itemsDueInTheSameMinuteAreAllShown()
     {
         QFETCH(int, count);
-        Day day(m_dir->path(), at(8, 58));
+        Day day(folder(), monday(8, 58));
         QStringList due;
         for (int i = 0; i < count; ++i) {
             due << QStringLiteral("Break %1").arg(i, 2, 10, QLatin1Char('0'));
-            day.reminder(due.back(), at(9));
+            day.reminder(due.back(), monday(9));
         }
-        day.runUntil(at(9, 0, 1));
+        day.runUntil(monday(9, 0, 1));
         // One at a time, each after the other is put away, in the lists' order.
         QCOMPARE(day.port.shown.size(), std::size_t(1));
         QCOMPARE(day.port.putAwayAll(), due);
-        day.runUntil(at(9, 30));
+        day.runUntil(monday(9, 30));
         QCOMPARE(day.port.shown.size(), std::size_t(count));
     }
 
     // The idle question gives way to a reminder, and comes back after it.
     void aReminderDuringTheIdleQuestion()
     {
-        Day day(m_dir->path(), at(9, 40));
+        Day day(folder(), monday(9, 40));
         day.settings.setIdleQuestionsOff(false);
         day.services().running.setPromptPeriod(15);
-        day.reminder(QStringLiteral("Tea"), at(10, 0));
-        day.runUntil(at(9, 55, 1));
+        day.reminder(QStringLiteral("Tea"), monday(10, 0));
+        day.runUntil(monday(9, 55, 1));
         QCOMPARE(day.port.titles(), QStringList{QStringLiteral("idle")});
-        day.runUntil(at(10, 0, 1));
+        day.runUntil(monday(10, 0, 1));
         QCOMPARE(day.port.titles(), (QStringList{QStringLiteral("idle"), QStringLiteral("Tea")}));
         day.core.services().prompts.closed();
         QCoreApplication::processEvents();
         QCOMPARE(day.port.titles().last(), QStringLiteral("idle"));
         // Asked again, it covers the whole gap.
-        QCOMPARE(day.port.shown.back().since, at(9, 40));
+        QCOMPARE(day.port.shown.back().since, monday(9, 40));
     }
 
     // Paused: nothing shows; at the pause's end what fell due shows, in order, and the items
@@ -212,25 +204,25 @@ private Q_SLOTS:
     void aPauseOverThreeDueReminders()
     {
         {
-            Day day(m_dir->path(), at(9, 50));
-            std::vector<Item*> items = {day.reminder(QStringLiteral("Tea"), at(10, 0)),
-                                        day.reminder(QStringLiteral("Walk"), at(10, 15)),
-                                        day.reminder(QStringLiteral("Stretch"), at(10, 30))};
+            Day day(folder(), monday(9, 50));
+            std::vector<Item*> items = {day.reminder(QStringLiteral("Tea"), monday(10, 0)),
+                                        day.reminder(QStringLiteral("Walk"), monday(10, 15)),
+                                        day.reminder(QStringLiteral("Stretch"), monday(10, 30))};
             day.services().library.save();
             day.services().pause.pauseFor(60);
             QCOMPARE(day.services().hold.reason(), PromptHold::Reason::Paused);
-            day.runUntil(at(10, 49, 59));
+            day.runUntil(monday(10, 49, 59));
             QVERIFY(day.port.shown.empty());
             for (const Item* item : items)
                 QVERIFY(!item->isStarted() && !item->isFinished() && !item->dtReminderPostponed());
-            day.runUntil(at(10, 50, 1));
+            day.runUntil(monday(10, 50, 1));
             QVERIFY(!day.services().pause.isPaused());
             QCOMPARE(day.port.putAwayAll(),
                      (QStringList{QStringLiteral("Tea"), QStringLiteral("Walk"),
                                   QStringLiteral("Stretch")}));
             day.services().pause.pauseUntilResumed();
         }
-        Day again(m_dir->path(), at(11, 0));
+        Day again(folder(), monday(11, 0));
         QVERIFY(again.services().pause.isPaused());
         QVERIFY(!again.services().pause.until());
         QVERIFY(again.services().hold.isHeld());
@@ -240,12 +232,12 @@ private Q_SLOTS:
 
     void aLockOfAnHour()
     {
-        Day day(m_dir->path(), at(12, 0));
-        day.reminder(QStringLiteral("Water"), at(12, 10));
-        day.reminder(QStringLiteral("Stand up"), at(12, 40));
+        Day day(folder(), monday(12, 0));
+        day.reminder(QStringLiteral("Water"), monday(12, 10));
+        day.reminder(QStringLiteral("Stand up"), monday(12, 40));
         day.presence.set(true);
         QCOMPARE(day.services().hold.reason(), PromptHold::Reason::Locked);
-        day.runUntil(at(13, 0));
+        day.runUntil(monday(13, 0));
         QVERIFY(day.port.shown.empty());
         day.presence.set(false);
         QCOMPARE(day.port.putAwayAll(),
@@ -264,18 +256,18 @@ private Q_SLOTS:
     void anAwayPeriodAcrossABreak()
     {
         QFETCH(bool, naturalBreaks);
-        Day day(m_dir->path(), at(14, 50));
+        Day day(folder(), monday(14, 50));
         day.settings.setNaturalBreaks(naturalBreaks);
-        Item* walk = day.reminder(QStringLiteral("Walk break"), at(15, 0), true, 10);
-        Item* nap = day.reminder(QStringLiteral("Power nap"), at(15, 5), true, 45);
-        day.reminder(QStringLiteral("Call Anna"), at(15, 10));
-        day.presence.lastInput = at(14, 55);
-        day.runUntil(at(15, 0, 1));
+        Item* walk = day.reminder(QStringLiteral("Walk break"), monday(15, 0), true, 10);
+        Item* nap = day.reminder(QStringLiteral("Power nap"), monday(15, 5), true, 45);
+        day.reminder(QStringLiteral("Call Anna"), monday(15, 10));
+        day.presence.lastInput = monday(14, 55);
+        day.runUntil(monday(15, 0, 1));
         QCOMPARE(day.services().hold.reason(), PromptHold::Reason::Away);
-        day.runUntil(at(15, 24, 30));
+        day.runUntil(monday(15, 24, 30));
         QVERIFY(day.port.shown.empty());
-        day.presence.lastInput = at(15, 24, 59);
-        day.runUntil(at(15, 25, 1));
+        day.presence.lastInput = monday(15, 24, 59);
+        day.runUntil(monday(15, 25, 1));
         QCOMPARE(walk->isFinished(), naturalBreaks);
         QVERIFY(!nap->isFinished());
         if (naturalBreaks)
@@ -291,27 +283,27 @@ private Q_SLOTS:
     // answer never books minutes another task timed.
     void aGapNeverCoversATimedItem()
     {
-        Day day(m_dir->path(), at(10, 0));
+        Day day(folder(), monday(10, 0));
         RunningItem& running = day.services().running;
-        running.setUnansweredGapStart(at(10, 0));
+        running.setUnansweredGapStart(monday(10, 0));
         Item* letters = day.services().library.newTask(QStringLiteral("Letters"));
         day.services().library.addItem(letters);
-        day.clock.set(at(10, 10));
+        day.clock.set(monday(10, 10));
         running.start(*letters);
-        day.clock.set(at(10, 30));
+        day.clock.set(monday(10, 30));
         running.finish(*letters);
-        day.clock.set(at(10, 45));
-        const IdlePrompt next(day.clock, day.services().library, running, at(10, 30), false);
-        QCOMPARE(next.gapStart(), at(10, 30));
+        day.clock.set(monday(10, 45));
+        const IdlePrompt next(day.clock, day.services().library, running, monday(10, 30), false);
+        QCOMPARE(next.gapStart(), monday(10, 30));
     }
 
     // A full-screen program holds prompts by preference.
     void fullScreenHoldsByPreference()
     {
-        Day day(m_dir->path(), at(16, 0));
+        Day day(folder(), monday(16, 0));
         day.presence.fullScreen = true;
-        day.reminder(QStringLiteral("Tea"), at(16, 5));
-        day.runUntil(at(16, 5, 1));
+        day.reminder(QStringLiteral("Tea"), monday(16, 5));
+        day.runUntil(monday(16, 5, 1));
         QVERIFY(day.port.shown.empty());
         day.settings.setHoldWhileFullScreen(false);
         QCOMPARE(day.port.putAwayAll(), QStringList{QStringLiteral("Tea")});

@@ -1,34 +1,22 @@
-#include "core/activity/ItemActions.h"
-#include "core/dates/CalendarContext.h"
-#include "core/model/RepeatCodes.h"
 #include "core/monitor/IdlePrompt.h"
 #include "core/monitor/ReminderPrompt.h"
 #include "core/monitor/TimeOverPrompt.h"
 #include "core/monitor/TodoPrompt.h"
 #include "core/presentation/ProjectChoices.h"
-#include "core/scheduling/Catalogue.h"
-#include "support/DatePrinting.h"
 #include "support/Heard.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
-
-#include <QTemporaryDir>
-
-#include <memory>
+#include "support/LaunchedTest.h"
 
 using namespace lullet;
 using namespace lullet::test;
 
 // What each prompt's answers do to the records, and what they announce.
-class TestPrompts : public QObject {
+class TestPrompts : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 15, 20); }
+
     std::unique_ptr<Heard> m_heard;
 
-    Launched& app() { return *m_app; }
-    Date now() const { return m_app->clock.now(); }
+    Date now() const { return clock().now(); }
     QStringList& heard() { return m_heard->events; }
 
     Item* item(const QString& title, Date due, int hours = 0, int minutes = 0)
@@ -37,39 +25,27 @@ class TestPrompts : public QObject {
         r->setShouldRemind(true);
         r->setDurationHr(hours);
         r->setDurationMin(minutes);
-        app().library().save();
+        library().save();
         return r;
     }
 
     ReminderPrompt reminder(Item* due, Item* previous)
     {
-        return ReminderPrompt(app().services().postponing, app().running(), due, previous);
+        return ReminderPrompt(services().postponing, app().running(), due, previous);
     }
 
     TimeOverPrompt timeOver(Item* item) { return TimeOverPrompt(app().running(), item); }
 
     IdlePrompt idle(Date since, bool askNow)
     {
-        return IdlePrompt(app().clock, app().library(), app().running(), since, askNow);
+        return IdlePrompt(clock(), library(), app().running(), since, askNow);
     }
 
 private Q_SLOTS:
-    void initTestCase() { init(); }
-
     void init()
     {
-        lullet::test::useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 15, 20));
-        QVERIFY(app().open());
-        m_heard = std::make_unique<Heard>(app().library(), app().running());
-    }
-
-    void cleanup()
-    {
-        m_heard.reset();
-        m_app.reset();
-        m_dir.reset();
+        LaunchedTest::init();
+        m_heard = std::make_unique<Heard>(library(), app().running());
     }
 
     void startingMakesTheItemRun()
@@ -100,7 +76,7 @@ private Q_SLOTS:
     {
         Item* due = item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15));
         due->setDtReminderPostponed(at(2026, 11, 23, 10, 20));
-        app().library().save();
+        library().save();
         const Date alert = *app().running().lastPromptAt();
         QCOMPARE(reminder(due, nullptr).postpone10(), PromptOutcome::Close);
         QCOMPARE(*due->dtReminderPostponed(), at(2026, 11, 23, 10, 30));
@@ -120,7 +96,7 @@ private Q_SLOTS:
         previous->setRunningTimeCovered(40);
         Item* due = item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15));
         heard().clear();
-        m_app->clock.advance(5);
+        clock().advance(5);
         ReminderPrompt prompt = reminder(due, previous);
         QCOMPARE(prompt.previousText(), QStringLiteral("Have you finished : Write ?"));
         QCOMPARE(prompt.finishPrevious(), PromptOutcome::Close);
@@ -174,7 +150,7 @@ private Q_SLOTS:
         Item* r = item(QStringLiteral("Nap"), at(2026, 11, 23, 9, 50), 0, 20);
         reminder(r, nullptr).start();
         r->setRunningTimeCovered(5);
-        m_app->clock.set(at(2026, 11, 23, 10, 40, 7));
+        clock().set(at(2026, 11, 23, 10, 40, 7));
         heard().clear();
         QCOMPARE(timeOver(r).finish(), PromptOutcome::CloseAndAsk);
         QCOMPARE(*r->dtReminder(), now());
@@ -186,32 +162,25 @@ private Q_SLOTS:
 
     void aToDoConfirmedMakesItsNextOccurrence()
     {
-        Rule* rule = app().library().newRule();
-        rule->setUniqueId(QStringLiteral("Water_1"));
-        rule->setTitle(QStringLiteral("Water"));
-        rule->setDtReminder(at(2026, 11, 23, 9, 0));
-        rule->setRepeatIntervalType(RepeatUnit::Hour);
-        rule->setRepeatInterval(2);
-        rule->setIsCustom(true);
-        rule->setIsActive(true);
-        app().services().catalogue.registerRule(rule);
-        Item* occurrence = app().library().items().front();
+        services().catalogue.registerRule(
+            app().addRule(QStringLiteral("Water"), RepeatUnit::Hour, 2, at(2026, 11, 23, 9, 0)));
+        Item* occurrence = library().items().front();
         QCOMPARE(*occurrence->dtReminder(), at(2026, 11, 23, 11, 0));
         occurrence->setDtReminderPostponed(at(2026, 11, 23, 11, 30));
 
-        TodoPrompt cancel(app().services().itemActions, occurrence);
+        TodoPrompt cancel(services().itemActions, occurrence);
         QCOMPARE(cancel.text(), QStringLiteral("Time for : Water. Done ?"));
         QCOMPARE(TodoPrompt::dismiss(), PromptOutcome::Close);
         QVERIFY(!*occurrence->hasFinished());
 
-        m_app->clock.set(at(2026, 11, 23, 11, 0, 5));
+        clock().set(at(2026, 11, 23, 11, 0, 5));
         heard().clear();
-        TodoPrompt(app().services().itemActions, occurrence).done();
+        TodoPrompt(services().itemActions, occurrence).done();
         QVERIFY(*occurrence->hasFinished());
         QCOMPARE(*occurrence->dtReminder(), now());
         // The next one steps from the postponed date it was due on.
-        QCOMPARE(app().library().items().size(), std::size_t(2));
-        QCOMPARE(*app().library().items().front()->dtReminder(), at(2026, 11, 23, 13, 30));
+        QCOMPARE(library().items().size(), std::size_t(2));
+        QCOMPARE(*library().items().front()->dtReminder(), at(2026, 11, 23, 13, 30));
         QCOMPARE(heard().first(), QStringLiteral("finished:Water"));
         // The confirmed to-do is no event for the idle clock.
         QCOMPARE(*app().running().lastPromptAt(), at(2026, 11, 23, 10, 15));
@@ -219,17 +188,15 @@ private Q_SLOTS:
 
     void theIdleAnswerBecomesTheRunningItem()
     {
-        Project* home = app().library().newProject();
-        home->setName(QStringLiteral("Home"));
-        app().library().addProject(home);
-        m_app->clock.set(at(2026, 11, 23, 10, 20));
+        Project* home = app().addProject(QStringLiteral("Home"));
+        clock().set(at(2026, 11, 23, 10, 20));
         app().running().setPromptPeriod(15);
         IdlePrompt prompt = idle(at(2026, 11, 23, 10, 0), false);
-        const ProjectChoices choices(app().library(), IdlePrompt::noProjectChoice());
+        const ProjectChoices choices(library(), IdlePrompt::noProjectChoice());
         QCOMPARE(choices.titles(), (QStringList{QStringLiteral("Today"), QStringLiteral("Home")}));
         QCOMPARE(choices.projectAt(1), home);
         QVERIFY(!choices.projectAt(0));
-        m_app->clock.set(at(2026, 11, 23, 10, 25));
+        clock().set(at(2026, 11, 23, 10, 25));
         QCOMPARE(prompt.questionText(),
                  QStringLiteral("What were you doing for last 25 minutes ?"));
         QVERIFY(prompt.rangeText().startsWith(QStringLiteral("(10:00")));
@@ -237,7 +204,7 @@ private Q_SLOTS:
         QCOMPARE(prompt.answer(QStringLiteral(" walk "), home, false), PromptOutcome::Close);
         // An answer is acted on once.
         QCOMPARE(prompt.answer(QStringLiteral("again"), home, false), PromptOutcome::Stay);
-        QCOMPARE(app().library().items().size(), std::size_t(1));
+        QCOMPARE(library().items().size(), std::size_t(1));
 
         Item* r = app().running().item();
         QVERIFY(r);
@@ -256,7 +223,7 @@ private Q_SLOTS:
 
     void anUnansweredQuestionHandsOnItsStart()
     {
-        m_app->clock.set(at(2026, 11, 23, 10, 30));
+        clock().set(at(2026, 11, 23, 10, 30));
         idle(at(2026, 11, 23, 10, 0), false).leaveUnanswered();
         QCOMPARE(*app().running().unansweredGapStart(), at(2026, 11, 23, 10, 0));
         IdlePrompt next = idle(at(2026, 11, 23, 10, 30), false);
@@ -271,15 +238,15 @@ private Q_SLOTS:
 
     void anAnswerAlreadyDoneFinishesAndAsksAgain()
     {
-        m_app->clock.set(at(2026, 11, 23, 10, 30));
+        clock().set(at(2026, 11, 23, 10, 30));
         app().running().setPromptPeriod(0);
         IdlePrompt prompt = idle(at(2026, 11, 23, 10, 0), true);
         QCOMPARE(prompt.questionText(), QStringLiteral("What are you doing now ?"));
-        m_app->clock.set(at(2026, 11, 23, 10, 37));
+        clock().set(at(2026, 11, 23, 10, 37));
         QCOMPARE(prompt.answer(QStringLiteral("email"), nullptr, true),
                  PromptOutcome::CloseAtOnceAndAsk);
         QVERIFY(!app().running().item());
-        const Item* r = app().library().items().back();
+        const Item* r = library().items().back();
         QCOMPARE(*r->title(), QStringLiteral("Email"));
         QVERIFY(*r->hasFinished() && !*r->hasStarted());
         // Counted from the moment of asking in the "now" mode; a period of 0 gives 60 × P.

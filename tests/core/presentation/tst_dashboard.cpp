@@ -1,65 +1,37 @@
-#include "core/activity/ProjectActions.h"
-#include "core/model/Project.h"
 #include "core/presentation/DashboardSummary.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
-
-#include <QTemporaryDir>
-
-#include <memory>
+#include "support/LaunchedTest.h"
 
 using namespace lullet;
 using namespace lullet::test;
 
 // The dashboard's counting: the circles with their quirks, the months, the project rows.
-class TestDashboard : public QObject {
+class TestDashboard : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    // Monday 23 November 2026, noon.
+    Date launchedAt() const override { return at(2026, 11, 23, 12, 0); }
 
     DashboardSummary summary()
     {
-        const Services& s = m_app->services();
+        const Services& s = services();
         return DashboardSummary::of(s.library.items(), s.library.projects(), s.history, s.clock,
                                     s.running);
     }
 
     Item* add(const QString& title, std::optional<Date> due, std::optional<int> notice = {})
     {
-        Item* item = m_app->addItem(title, due);
+        Item* item = app().addItem(title, due);
         item->setRemindBefore(notice);
         return item;
     }
 
 private Q_SLOTS:
-    void initTestCase() { useTestCalendar(); }
-
-    void init()
-    {
-        m_dir = std::make_unique<QTemporaryDir>();
-        // Monday 23 November 2026, noon.
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 12, 0));
-        QVERIFY(m_app->open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
-    void nothingCountsWithoutItems()
+    void theCircles()
     {
         const DashboardSummary empty = summary();
         QCOMPARE(empty.overdue + empty.current + empty.upcoming, 0);
         QCOMPARE(empty.months, (std::array<int, 12>{}));
         QVERIFY(empty.rows.empty());
-        QCOMPARE(DashboardSummary::monthLabels().size(), 12);
-    }
 
-    void theCircles()
-    {
         add(QStringLiteral("done this morning"), at(2026, 11, 23, 9, 0))->setHasFinished(true);
         add(QStringLiteral("later today"), at(2026, 11, 23, 15, 0));
         // Yesterday and unfinished: overdue only with a notice set, "On date" being one.
@@ -104,7 +76,7 @@ private Q_SLOTS:
     // Items in no project come first; a project without items has no row.
     void theProjectRows()
     {
-        const Services& s = m_app->services();
+        const Services& s = services();
         Project* home = s.projectActions.addProject(QStringLiteral("Home")).project;
         s.projectActions.addProject(QStringLiteral("Empty"));
         Item* tap = add(QStringLiteral("Fix the tap"), at(2026, 11, 24, 9, 0));

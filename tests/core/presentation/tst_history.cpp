@@ -1,7 +1,5 @@
 // A store of months: the history stays on disk at launch, and every list and count must read
 // as it would with every item in memory.
-#include "core/activity/ProjectActions.h"
-#include "core/model/RepeatCodes.h"
 #include "core/presentation/DashboardSummary.h"
 #include "core/presentation/HistoryTotals.h"
 #include "core/presentation/ListBuilder.h"
@@ -10,15 +8,9 @@
 #include "core/presentation/Sidebar.h"
 #include "core/reports/Report.h"
 #include "core/store/Db.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/LaunchedTest.h"
 
 #include <QSet>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -34,30 +26,15 @@ struct SidebarNumbers {
 
 } // namespace
 
-class TestHistory : public QObject {
+// Each test function starts from a launch at now() over the store that makeStore() made.
+class TestHistory : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
-
-    const Date m_made = at(2026, 10, 1, 12, 0);
-    const Date m_now = at(2026, 11, 25, 12, 0);
-
-    bool launch(Date now)
-    {
-        m_app.reset();
-        m_app = std::make_unique<Launched>(m_dir->path(), now);
-        return m_app->open();
-    }
-
-    Library& library() { return m_app->library(); }
-    QString storePath() const
-    {
-        return QDir(m_dir->path()).filePath(QStringLiteral("data/Lullet.sqlite"));
-    }
+    Date launchedAt() const override { return at(2026, 10, 1, 12, 0); }
+    static Date now() { return at(2026, 11, 25, 12, 0); }
 
     Sidebar sidebar()
     {
-        const Services& s = m_app->services();
+        const Services& s = services();
         return Sidebar(s.clock, s.library, s.catalogue, s.running, s.history);
     }
 
@@ -78,18 +55,10 @@ class TestHistory : public QObject {
 
     Project* project(const QString& name) { return library().projectNamed(name); }
 
-    static QStringList titles(const std::vector<Item*>& items)
-    {
-        QStringList list;
-        for (const Item* item : items)
-            list << item->title().value_or(QString());
-        return list;
-    }
-
     // The titles of a list's items, the history's among them, as the list shows them.
     QStringList lineTitles(const ListBuilder::Scope& scope)
     {
-        const Services& s = m_app->services();
+        const Services& s = services();
         ListLines lines(s.clock, s.library, s.history, s.running);
         lines.build(scope);
         QStringList list;
@@ -104,7 +73,7 @@ class TestHistory : public QObject {
     // The garden's history, read into memory one by one as a user acting on it would.
     std::vector<Item*> gardenHistory()
     {
-        const Services& s = m_app->services();
+        const Services& s = services();
         ListLines lines(s.clock, s.library, s.history, s.running);
         lines.build({Segment::Project, project(QStringLiteral("Garden")), false});
         std::vector<Item*> read;
@@ -117,7 +86,7 @@ class TestHistory : public QObject {
 
     Item* finished(const QString& title, Date when, Project* in, int elapsed)
     {
-        Item* item = m_app->addItem(title, when);
+        Item* item = app().addItem(title, when);
         item->setToProject(in);
         item->setHasFinished(true);
         item->setElapsedTime(elapsed);
@@ -128,10 +97,8 @@ class TestHistory : public QObject {
     // memory whatever their age: open, undated, started, or finished lately.
     void makeStore()
     {
-        QVERIFY(launch(m_made));
-        ProjectActions& actions = m_app->services().projectActions;
-        Project* garden = actions.addProject(QStringLiteral("Garden")).project;
-        Project* kitchen = actions.addProject(QStringLiteral("Kitchen")).project;
+        Project* garden = app().addProject(QStringLiteral("Garden"));
+        Project* kitchen = app().addProject(QStringLiteral("Kitchen"));
         for (int i = 0; i < 30; ++i) {
             Item* item = finished(QStringLiteral("Weed %1").arg(i), at(2026, 9, 1 + i, 9, 0),
                                   garden, 600 + 60 * i);
@@ -145,7 +112,7 @@ class TestHistory : public QObject {
         for (int i = 0; i < 20; ++i)
             finished(QStringLiteral("Loose %1").arg(i), at(2026, 8, 1 + i, 8, 0), nullptr, 300);
         // Open and planned: the project's progress is short of whole by its hour.
-        Item* plan = m_app->addItem(QStringLiteral("Plan beds"), std::nullopt);
+        Item* plan = app().addItem(QStringLiteral("Plan beds"), std::nullopt);
         plan->setToProject(garden);
         plan->setDurationHr(1);
         finished(QStringLiteral("Undated done"), at(2026, 9, 2), nullptr, 60)
@@ -155,29 +122,20 @@ class TestHistory : public QObject {
         // Finished at launch time's recent past: within the last two weeks of the relaunch.
         finished(QStringLiteral("Recent done"), at(2026, 11, 20, 9, 0), kitchen, 400);
         finished(QStringLiteral("Recent two"), at(2026, 11, 21, 9, 0), nullptr, 400);
-        m_app->addItem(QStringLiteral("Overdue"), at(2026, 9, 20, 9, 0));
+        app().addItem(QStringLiteral("Overdue"), at(2026, 9, 20, 9, 0));
         QVERIFY(library().save());
-        m_app.reset();
     }
 
 private Q_SLOTS:
-    void initTestCase() { useTestCalendar(); }
-
     void init()
     {
-        m_dir = std::make_unique<QTemporaryDir>();
+        LaunchedTest::init();
         makeStore();
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
+        relaunch(now());
     }
 
     void theHistoryStaysOnDiskAndTheCountsStayTheSame()
     {
-        QVERIFY(launch(m_now));
         QVERIFY(library().holdsHistory());
         QCOMPARE(library().items().size(), std::size_t(6));
         const SidebarNumbers held = sidebarNumbers();
@@ -196,7 +154,6 @@ private Q_SLOTS:
     // disk: the lists are whole, and none of them reads the history into memory.
     void everyListShowsTheHistoryWithoutReadingItIn()
     {
-        QVERIFY(launch(m_now));
         // Every finished item with a date: all but "Undated done" of the 59 completed.
         const QStringList completed = lineTitles({Segment::Completed, nullptr, false});
         QCOMPARE(completed.size(), 58);
@@ -204,7 +161,7 @@ private Q_SLOTS:
         QCOMPARE(completed.last(), QStringLiteral("Loose 0"));
         QCOMPARE(lineTitles({Segment::Project, project(QStringLiteral("Garden")), false}).size(),
                  32);
-        const Services& s = m_app->services();
+        const Services& s = services();
         const Report loose = Report::ofProject(s.library, s.history, nullptr, s.clock, s.running);
         QCOMPARE(loose.stats.totalCount, 23);
         QCOMPARE(loose.stats.completedCount, 22);
@@ -244,7 +201,6 @@ private Q_SLOTS:
 
     void editsAndDeletionsAreNeverListedTwice()
     {
-        QVERIFY(launch(m_now));
         // Saved as history, and one of them deleted and not yet saved: neither may come back
         // from the disk as a second row.
         Item* kept = nullptr;
@@ -266,9 +222,9 @@ private Q_SLOTS:
         QVERIFY(library().save());
 
         // A project deleted takes its history on disk along.
-        QVERIFY(launch(m_now));
-        m_app->services().projectActions.deleteProject(*project(QStringLiteral("Kitchen")));
-        QVERIFY(launch(m_now));
+        relaunch(now());
+        services().projectActions.deleteProject(*project(QStringLiteral("Kitchen")));
+        relaunch(now());
         const QStringList left = lineTitles({Segment::Completed, nullptr, false});
         QVERIFY(!left.contains(QStringLiteral("Bake 2")));
         QCOMPARE(left.size(), 51);
@@ -276,15 +232,13 @@ private Q_SLOTS:
 
     void aProjectCopiedTakesItsHistory()
     {
-        QVERIFY(launch(m_now));
         Project* copy =
-            m_app->services().projectActions.duplicateAsNew(*project(QStringLiteral("Kitchen")));
+            services().projectActions.duplicateAsNew(*project(QStringLiteral("Kitchen")));
         QCOMPARE(copy->toReminders().size(), std::size_t(6));
     }
 
     void aHistoryThatCannotBeReadIsToldOnceAndReadLater()
     {
-        QVERIFY(launch(m_now));
         QSignalSpy told(&library(), &Library::readFailed);
         QVERIFY(Db(storePath()).exec("ALTER TABLE ReminderInfo RENAME TO Elsewhere"));
         QVERIFY(lineTitles({Segment::Completed, nullptr, false}).size() < 58);
@@ -303,8 +257,8 @@ private Q_SLOTS:
             QVERIFY(db.exec("INSERT INTO ReminderInfo (title, hasFinished, dtReminder, "
                             "dtReminderPostponed) VALUES ('Far date', 1, 0, 1e300)"));
         }
-        QVERIFY(launch(m_now));
-        const QStringList held = titles(library().items());
+        relaunch(now());
+        const QStringList held = titlesOf(library().items());
         // One reads as unfinished, the other as finished in 1970 by its plain date: the store's
         // query takes neither for history, so both are read at the launch, and listed once.
         QVERIFY(held.contains(QStringLiteral("Text flag")));

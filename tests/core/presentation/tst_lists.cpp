@@ -1,6 +1,3 @@
-#include "core/activity/ItemActions.h"
-#include "core/dates/CalendarContext.h"
-#include "core/model/RepeatCodes.h"
 #include "core/presentation/HistoryTotals.h"
 #include "core/presentation/ListBuilder.h"
 #include "core/presentation/ListLines.h"
@@ -8,29 +5,18 @@
 #include "core/presentation/RowTexts.h"
 #include "core/presentation/RunningStatus.h"
 #include "core/presentation/TaskStats.h"
-#include "core/scheduling/Catalogue.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/LaunchedTest.h"
 
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
 #include <tuple>
 
 using namespace lullet;
 using namespace lullet::test;
 
-class TestLists : public QObject {
+class TestLists : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    Date launchedAt() const override { return at(2026, 11, 25, 12, 0); }
 
-    Launched& app() { return *m_app; }
-    ItemActions& actions() { return app().services().itemActions; }
-    const Clock& clock() { return m_app->clock; }
+    ItemActions& actions() { return services().itemActions; }
 
     Item* item(const QString& title, std::optional<Date> due, int remindBefore = 0)
     {
@@ -42,10 +28,7 @@ class TestLists : public QObject {
 
     QStringList titles(const ListBuilder::Scope& scope)
     {
-        QStringList list;
-        for (const Item* r : ListBuilder::itemsFor(scope, app().library(), clock().now()))
-            list << *r->title();
-        return list;
+        return titlesOf(ListBuilder::itemsFor(scope, library(), clock().now()));
     }
 
     QString timeText(Item* r)
@@ -56,7 +39,7 @@ class TestLists : public QObject {
     // A list's rows as it shows them: "# " and the heading's texts, or the item's title.
     QStringList shown(const ListBuilder::Scope& scope)
     {
-        const Services& s = app().services();
+        const Services& s = services();
         ListLines lines(s.clock, s.library, s.history, s.running);
         lines.build(scope);
         QStringList list;
@@ -74,58 +57,42 @@ class TestLists : public QObject {
         }
         return list;
     }
-    QString at(Date d) { return d.toString(DateStyle::None, DateStyle::Short); }
+    static QString timeOf(Date d) { return d.toString(DateStyle::None, DateStyle::Short); }
 
 private Q_SLOTS:
-    void initTestCase() { init(); }
-
-    void init()
+    void todayHoldsTheOverdueAndWhatIsWithinItsWindowAndTellsWhen()
     {
-        lullet::test::useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), test::at(2026, 11, 25, 12, 0));
-        QVERIFY(app().open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
-    void todayHoldsTheOverdueAndWhatIsWithinItsWindow()
-    {
-        Item* yesterday = item(QStringLiteral("Overdue"), test::at(2026, 11, 24, 9, 0));
-        Item* inThree = item(QStringLiteral("In three"), test::at(2026, 11, 28, 9, 0), 3);
-        item(QStringLiteral("In four"), test::at(2026, 11, 29, 9, 0), 3);
+        Item* yesterday = item(QStringLiteral("Overdue"), at(2026, 11, 24, 9, 0));
+        Item* inThree = item(QStringLiteral("In three"), at(2026, 11, 28, 9, 0), 3);
+        item(QStringLiteral("In four"), at(2026, 11, 29, 9, 0), 3);
         // The form stores the menu's row for "10 days", which the lists know nothing of.
-        item(QStringLiteral("Row eight"), test::at(2026, 11, 27, 9, 0), 8);
-        Item* doneYesterday = item(QStringLiteral("Done yesterday"), test::at(2026, 11, 24, 9, 0));
+        item(QStringLiteral("Row eight"), at(2026, 11, 27, 9, 0), 8);
+        Item* doneYesterday = item(QStringLiteral("Done yesterday"), at(2026, 11, 24, 9, 0));
         doneYesterday->setHasFinished(true);
-        Item* doneToday = item(QStringLiteral("Done today"), test::at(2026, 11, 25, 8, 0));
+        Item* doneToday = item(QStringLiteral("Done today"), at(2026, 11, 25, 8, 0));
         doneToday->setHasFinished(true);
         item(QStringLiteral("Anytime"), std::nullopt);
 
         QCOMPARE(titles({}), (QStringList{QStringLiteral("Overdue"), QStringLiteral("In three"),
                                           QStringLiteral("Done today")}));
         QCOMPARE(timeText(yesterday),
-                 QStringLiteral("Overdue by 1 day at ") + at(*yesterday->dtReminder()));
+                 QStringLiteral("Overdue by 1 day at ") + timeOf(*yesterday->dtReminder()));
         QVERIFY(RowTexts::makeRow(yesterday, clock(), RowTexts::ProjectName::InList).dueOrOverdue);
-        QCOMPARE(timeText(inThree), QStringLiteral("In 3 days at ") + at(*inThree->dtReminder()));
+        QCOMPARE(timeText(inThree),
+                 QStringLiteral("In 3 days at ") + timeOf(*inThree->dtReminder()));
         QCOMPARE(titles({Segment::Anytime, nullptr, false}),
                  QStringList{QStringLiteral("Anytime")});
-    }
 
-    void dueTodayTellsHowLate()
-    {
-        Item* late = item(QStringLiteral("Late"), test::at(2026, 11, 25, 10, 30));
+        // Due today: how late, or the time alone.
+        Item* late = item(QStringLiteral("Late"), at(2026, 11, 25, 10, 30));
         QCOMPARE(timeText(late),
-                 QStringLiteral("Due from 1 hr 30 min at ") + at(*late->dtReminder()));
-        Item* hour = item(QStringLiteral("Hour"), test::at(2026, 11, 25, 11, 0));
+                 QStringLiteral("Due from 1 hr 30 min at ") + timeOf(*late->dtReminder()));
+        Item* hour = item(QStringLiteral("Hour"), at(2026, 11, 25, 11, 0));
         // Whole hours leave the minutes out and keep the blank behind " hr ".
-        QCOMPARE(timeText(hour), QStringLiteral("Due from 1 hr  at ") + at(*hour->dtReminder()));
-        Item* soon = item(QStringLiteral("Soon"), test::at(2026, 11, 25, 12, 5));
-        QCOMPARE(timeText(soon), at(*soon->dtReminder()));
+        QCOMPARE(timeText(hour),
+                 QStringLiteral("Due from 1 hr  at ") + timeOf(*hour->dtReminder()));
+        Item* soon = item(QStringLiteral("Soon"), at(2026, 11, 25, 12, 5));
+        QCOMPARE(timeText(soon), timeOf(*soon->dtReminder()));
         QVERIFY(!RowTexts::makeRow(soon, clock(), RowTexts::ProjectName::InList).dueOrOverdue);
         soon->setDurationHr(1);
         soon->setDurationMin(5);
@@ -140,15 +107,15 @@ private Q_SLOTS:
 
     void statisticsNeverPassAHundredPercent()
     {
-        Item* todo = item(QStringLiteral("Water"), test::at(2026, 11, 25, 9, 0));
+        Item* todo = item(QStringLiteral("Water"), at(2026, 11, 25, 9, 0));
         todo->setRepeatOption(RepeatEnd::toDoMarker);
         todo->setHasFinished(true);
-        Item* done = item(QStringLiteral("Done"), test::at(2026, 11, 25, 9, 0));
+        Item* done = item(QStringLiteral("Done"), at(2026, 11, 25, 9, 0));
         done->setDurationMin(10);
         done->setTimeLimit(600);
         done->setElapsedTime(1500);
         done->setHasFinished(true);
-        Item* running = item(QStringLiteral("Running"), test::at(2026, 11, 24, 9, 0));
+        Item* running = item(QStringLiteral("Running"), at(2026, 11, 24, 9, 0));
         running->setHasStarted(true);
         running->setTimeLimit(1800);
         running->setElapsedTime(300);
@@ -175,12 +142,12 @@ private Q_SLOTS:
 
     void startStopAndTheItemAlreadyRunning()
     {
-        Item* first = item(QStringLiteral("First"), test::at(2026, 11, 23, 9, 0));
+        Item* first = item(QStringLiteral("First"), at(2026, 11, 23, 9, 0));
         first->setDurationMin(20);
         QCOMPARE(actions().start(*first), ItemActions::StartResult::Started);
         QCOMPARE(app().running().item(), first);
         QCOMPARE(*first->timeLimit(), 1200);
-        QCOMPARE(*first->dtReminderPostponed(), test::at(2026, 11, 23, 12, 0));
+        QCOMPARE(*first->dtReminderPostponed(), at(2026, 11, 23, 12, 0));
 
         Item* second = item(QStringLiteral("Second"), std::nullopt);
         QCOMPARE(actions().start(*second), ItemActions::StartResult::AnotherIsRunning);
@@ -188,45 +155,35 @@ private Q_SLOTS:
         actions().confirmStart(*second);
         QVERIFY(*first->hasFinished());
         QCOMPARE(app().running().item(), second);
-        QCOMPARE(*second->dtReminderPostponed(), test::at(2026, 11, 25, 12, 0));
+        QCOMPARE(*second->dtReminderPostponed(), at(2026, 11, 25, 12, 0));
 
         // Stopping is finishing, and then the question of what now may come.
         QVERIFY(actions().finish(*second));
         QVERIFY(*second->hasFinished() && !*second->hasStarted());
         QVERIFY(!app().running().item());
-    }
 
-    void aToDoStartIsDoneWithItsNext()
-    {
-        Rule* rule = app().library().newRule();
-        rule->setUniqueId(QStringLiteral("Water_1"));
-        rule->setTitle(QStringLiteral("Water"));
-        rule->setDtReminder(test::at(2026, 11, 25, 9, 0));
-        rule->setRepeatIntervalType(RepeatUnit::Hour);
-        rule->setRepeatInterval(1);
-        rule->setIsCustom(true);
-        rule->setIsActive(true);
-        app().services().catalogue.registerRule(rule);
-        Item* occurrence = app().library().items().front();
-        QCOMPARE(*occurrence->dtReminder(), test::at(2026, 11, 25, 12, 0));
-        m_app->clock.advance(30);
+        // A to-do's start is its confirmation, and makes its next occurrence.
+        services().catalogue.registerRule(
+            app().addRule(QStringLiteral("Water"), RepeatUnit::Hour, 1, at(2026, 11, 25, 9, 0)));
+        Item* occurrence = library().items().front();
+        QCOMPARE(*occurrence->dtReminder(), at(2026, 11, 25, 12, 0));
+        clock().advance(30);
         QCOMPARE(actions().start(*occurrence), ItemActions::StartResult::ToDoDone);
         QVERIFY(*occurrence->hasFinished());
         QVERIFY(!app().running().item());
-        QCOMPARE(*app().library().items().front()->dtReminder(), test::at(2026, 11, 25, 13, 0));
+        QCOMPARE(*library().items().front()->dtReminder(), at(2026, 11, 25, 13, 0));
     }
 
     void aProjectListsItsItemsByDay()
     {
-        Project* home = app().library().newProject();
-        home->setName(QStringLiteral("Home"));
-        item(QStringLiteral("Later"), test::at(2026, 11, 27, 9, 0))->setToProject(home);
-        Item* done = item(QStringLiteral("Done"), test::at(2026, 11, 25, 8, 0));
+        Project* home = app().addProject(QStringLiteral("Home"));
+        item(QStringLiteral("Later"), at(2026, 11, 27, 9, 0))->setToProject(home);
+        Item* done = item(QStringLiteral("Done"), at(2026, 11, 25, 8, 0));
         done->setToProject(home);
         done->setHasFinished(true);
-        item(QStringLiteral("Soon"), test::at(2026, 11, 25, 15, 0))->setToProject(home);
+        item(QStringLiteral("Soon"), at(2026, 11, 25, 15, 0))->setToProject(home);
         item(QStringLiteral("Whenever"), std::nullopt)->setToProject(home);
-        item(QStringLiteral("Elsewhere"), test::at(2026, 11, 25, 9, 0));
+        item(QStringLiteral("Elsewhere"), at(2026, 11, 25, 9, 0));
         QCOMPARE(shown({Segment::Project, home, false}),
                  (QStringList{QStringLiteral("# Wed 25, Nov 2026"), QStringLiteral("Done"),
                               QStringLiteral("Soon"), QStringLiteral("# Fri 27, Nov 2026"),
@@ -236,16 +193,15 @@ private Q_SLOTS:
 
     void upcomingAndCompletedByDay()
     {
-        item(QStringLiteral("Past open"), test::at(2026, 11, 25, 9, 0));
-        item(QStringLiteral("Tomorrow early"), test::at(2026, 11, 26, 8, 0));
-        item(QStringLiteral("Tomorrow late"), test::at(2026, 11, 26, 17, 0));
-        item(QStringLiteral("Later"), test::at(2026, 11, 30, 9, 0));
+        item(QStringLiteral("Past open"), at(2026, 11, 25, 9, 0));
+        item(QStringLiteral("Tomorrow early"), at(2026, 11, 26, 8, 0));
+        item(QStringLiteral("Tomorrow late"), at(2026, 11, 26, 17, 0));
+        item(QStringLiteral("Later"), at(2026, 11, 30, 9, 0));
         item(QStringLiteral("No date"), std::nullopt);
-        for (const auto& [title, due, used] :
-             {std::tuple{"Done a", test::at(2026, 11, 24, 9, 0), 600},
-              std::tuple{"Done b", test::at(2026, 11, 24, 15, 0), 900},
-              std::tuple{"Done c", test::at(2026, 11, 24, 11, 0), 300},
-              std::tuple{"Done d", test::at(2026, 11, 25, 8, 0), 60}}) {
+        for (const auto& [title, due, used] : {std::tuple{"Done a", at(2026, 11, 24, 9, 0), 600},
+                                               std::tuple{"Done b", at(2026, 11, 24, 15, 0), 900},
+                                               std::tuple{"Done c", at(2026, 11, 24, 11, 0), 300},
+                                               std::tuple{"Done d", at(2026, 11, 25, 8, 0), 60}}) {
             Item* r = item(QString::fromLatin1(title), due);
             r->setHasFinished(true);
             r->setElapsedTime(used);
@@ -261,7 +217,7 @@ private Q_SLOTS:
             (QStringList{QStringLiteral("# Wed 25, Nov 2026 1 00:01:00"), QStringLiteral("Done d"),
                          QStringLiteral("# Tue 24, Nov 2026 3 00:30:00"), QStringLiteral("Done b"),
                          QStringLiteral("Done c"), QStringLiteral("Done a")}));
-        const Services& s = app().services();
+        const Services& s = services();
         ListLines completed(s.clock, s.library, s.history, s.running);
         completed.build({Segment::Completed, nullptr, false});
         const auto byDay = completed.usedByDay();
@@ -271,13 +227,9 @@ private Q_SLOTS:
 
     void deleteMoveAndDuplicate()
     {
-        Project* home = app().library().newProject();
-        home->setName(QStringLiteral("Home"));
-        Project* work = app().library().newProject();
-        work->setName(QStringLiteral("Work"));
-        app().library().addProject(home);
-        app().library().addProject(work);
-        Item* task = item(QStringLiteral("Paint"), test::at(2026, 11, 26, 9, 0));
+        Project* home = app().addProject(QStringLiteral("Home"));
+        Project* work = app().addProject(QStringLiteral("Work"));
+        Item* task = item(QStringLiteral("Paint"), at(2026, 11, 26, 9, 0));
         task->setDurationMin(40);
         task->setToProject(home);
         QCOMPARE(actions().otherProjects(*task), std::vector<Project*>{work});
@@ -293,11 +245,11 @@ private Q_SLOTS:
         QVERIFY(!copy->dtReminder());
         QCOMPARE(copy->toProject(), home);
 
-        QSignalSpy removed(&app().library(), &Library::itemRemoved);
+        QSignalSpy removed(&library(), &Library::itemRemoved);
         actions().deleteItem(*task);
         QCOMPARE(removed.count(), 1);
         QVERIFY(!task->hasContext());
-        QCOMPARE(app().library().items(), std::vector<Item*>{copy});
+        QCOMPARE(library().items(), std::vector<Item*>{copy});
         QVERIFY(!app().context().hasChanges());
     }
 
@@ -306,25 +258,25 @@ private Q_SLOTS:
     void theTrayTellsWhatRunsOrComesNext()
     {
         const auto tip = [this] {
-            return RunningStatus::toolTip(app().library(), app().running(), clock());
+            return RunningStatus::toolTip(library(), app().running(), clock());
         };
         QCOMPARE(tip(), QStringLiteral("Lullet"));
-        item(QStringLiteral("Overdue"), test::at(2026, 11, 25, 11, 0));
-        Item* done = item(QStringLiteral("Done"), test::at(2026, 11, 25, 12, 30));
+        item(QStringLiteral("Overdue"), at(2026, 11, 25, 11, 0));
+        Item* done = item(QStringLiteral("Done"), at(2026, 11, 25, 12, 30));
         done->setHasFinished(true);
-        item(QStringLiteral("Tomorrow"), test::at(2026, 11, 26, 9, 0));
-        app().library().save();
+        item(QStringLiteral("Tomorrow"), at(2026, 11, 26, 9, 0));
+        library().save();
         QCOMPARE(tip(), QStringLiteral("Next: Tomorrow on ") +
-                            test::at(2026, 11, 26).toString(DateStyle::Medium, DateStyle::None) +
-                            QStringLiteral(" at ") + at(test::at(2026, 11, 26, 9, 0)));
-        item(QStringLiteral("Stretch"), test::at(2026, 11, 25, 12, 40));
-        app().library().save();
-        QCOMPARE(tip(), QStringLiteral("Next: Stretch at ") + at(test::at(2026, 11, 25, 12, 40)));
+                            at(2026, 11, 26).toString(DateStyle::Medium, DateStyle::None) +
+                            QStringLiteral(" at ") + timeOf(at(2026, 11, 26, 9, 0)));
+        item(QStringLiteral("Stretch"), at(2026, 11, 25, 12, 40));
+        library().save();
+        QCOMPARE(tip(), QStringLiteral("Next: Stretch at ") + timeOf(at(2026, 11, 25, 12, 40)));
 
-        Item* walk = item(QStringLiteral("Walk"), test::at(2026, 11, 25, 12, 0));
+        Item* walk = item(QStringLiteral("Walk"), at(2026, 11, 25, 12, 0));
         walk->setDurationMin(30);
         app().running().start(*walk);
-        app().runUntil(test::at(2026, 11, 25, 12, 12, 59));
+        app().runUntil(at(2026, 11, 25, 12, 12, 59));
         QCOMPARE(tip(), QStringLiteral("Walk: 12 of 30 min"));
         QCOMPARE(RunningStatus::clockText(*walk), QStringLiteral("Walk  00:12:59 / 00:30:00"));
     }

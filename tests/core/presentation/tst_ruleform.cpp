@@ -1,40 +1,25 @@
-#include "core/activity/ProjectActions.h"
-#include "core/dates/CalendarContext.h"
-#include "core/library/Library.h"
-#include "core/model/RepeatCodes.h"
 #include "core/presentation/RuleForm.h"
 #include "core/presentation/TaskForm.h"
-#include "core/scheduling/Catalogue.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
+#include "support/LaunchedTest.h"
 
 using namespace lullet;
 using namespace lullet::test;
 
 // The rule form's Done: what it stores, and when the rule's open occurrence must go.
-class TestRuleForm : public QObject {
+class TestRuleForm : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    Date launchedAt() const override { return at(2026, 11, 23, 9, 0, 17); }
 
-    Launched& app() { return *m_app; }
     RuleForm form()
     {
-        const Services& s = app().services();
+        const Services& s = services();
         return RuleForm({s.clock, s.library, s.generator, s.catalogue});
     }
 
     std::vector<Item*> openOf(const Rule* rule)
     {
         std::vector<Item*> found;
-        for (Item* item : app().library().items()) {
+        for (Item* item : library().items()) {
             if (item->uniqueId() == rule->uniqueId() && !item->isFinished())
                 found.push_back(item);
         }
@@ -54,27 +39,26 @@ class TestRuleForm : public QObject {
         RuleForm f = form();
         if (f.done(fields, nullptr, false) != RuleForm::Outcome::Saved)
             return nullptr;
-        return app().library().rules().back();
+        return library().rules().back();
     }
 
 private Q_SLOTS:
-    void initTestCase() { lullet::test::useTestCalendar(); }
-
-    void init()
-    {
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 9, 0, 17));
-        QVERIFY(app().open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
+    // Refusals change nothing; a new rule is stored with its id and its occurrence, and the
+    // notice's menu row as that row.
     void aNewRuleIsStoredWithItsIdAndOccurrence()
     {
+        RuleForm f = form();
+        RuleForm::Fields fields = f.blankFields();
+        fields.title = QStringLiteral("   ");
+        QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::BlankName);
+        fields.title = QStringLiteral("Review");
+        for (const QString& count : {QString(), QStringLiteral("0")}) {
+            fields.repeatCount = count;
+            QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::NoRepeatCount);
+        }
+        QVERIFY(library().rules().empty());
+        QVERIFY(library().items().empty());
+
         Rule* rule = timedRule();
         QVERIFY(rule);
         QCOMPARE(*rule->uniqueId(), QStringLiteral("Stretch_1795420817.0"));
@@ -84,21 +68,15 @@ private Q_SLOTS:
         QCOMPARE(*rule->dtReminder(), at(2026, 11, 23, 10, 0));
         QCOMPARE(openOf(rule).size(), std::size_t(1));
         QCOMPARE(*openOf(rule).front()->dtReminder(), at(2026, 11, 23, 10, 0));
-    }
 
-    void refusalsChangeNothing()
-    {
-        RuleForm f = form();
-        RuleForm::Fields fields = f.blankFields();
-        fields.title = QStringLiteral("   ");
-        QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::BlankName);
-        fields.title = QStringLiteral("Stretch");
-        for (const QString& count : {QString(), QStringLiteral("0")}) {
-            fields.repeatCount = count;
-            QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::NoRepeatCount);
-        }
-        QVERIFY(app().library().rules().empty());
-        QVERIFY(app().library().items().empty());
+        fields = f.blankFields();
+        fields.title = QStringLiteral("Review");
+        fields.remindBeforeRow = 8; // "10 days"
+        QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::Saved);
+        rule = library().rules().back();
+        QCOMPARE(*rule->remindBefore(), 8);
+        QCOMPARE(RuleForm::fieldsOf(*rule).remindBeforeRow, 8);
+        QCOMPARE(RemindBefore::labels().at(8), QStringLiteral("10 days"));
     }
 
     // Only a change of the schedule replaces the open occurrence; notes or a new time of day on
@@ -144,23 +122,10 @@ private Q_SLOTS:
         QVERIFY(openOf(rule).empty());
     }
 
-    void theNoticeRowIsStoredAsItsRow()
-    {
-        RuleForm::Fields fields = form().blankFields();
-        fields.title = QStringLiteral("Review");
-        fields.remindBeforeRow = 8; // "10 days"
-        RuleForm f = form();
-        QCOMPARE(f.done(fields, nullptr, false), RuleForm::Outcome::Saved);
-        Rule* rule = app().library().rules().back();
-        QCOMPARE(*rule->remindBefore(), 8);
-        QCOMPARE(RuleForm::fieldsOf(*rule).remindBeforeRow, 8);
-        QCOMPARE(RemindBefore::labels().at(8), QStringLiteral("10 days"));
-    }
-
     // A suggestion's defaults fill the form; stored from there it stays a suggestion's rule.
     void aSuggestionOpensWithItsDefaults()
     {
-        const Catalogue& catalogue = app().services().catalogue;
+        const Catalogue& catalogue = services().catalogue;
         CatalogueRowPtr walk;
         for (const CatalogueRowPtr& row : catalogue.rows()) {
             if (row->title == QStringLiteral("Walk break"))
@@ -173,8 +138,8 @@ private Q_SLOTS:
         QCOMPARE(fields.toDo, walk->isToDoOrJob.value_or(true));
         QCOMPARE(fields.repeatCount, QString::number(walk->defaultRepeatValue.value_or(15)));
         QCOMPARE(f.done(fields, nullptr, true), RuleForm::Outcome::Saved);
-        QCOMPARE(*app().library().rules().back()->isCustom(), false);
-        QCOMPARE(walk->representedObject, app().library().rules().back());
+        QCOMPARE(*library().rules().back()->isCustom(), false);
+        QCOMPARE(walk->representedObject, library().rules().back());
     }
 
     // The task mode makes a plain task of the project, announced as added; an edit that leaves
@@ -182,7 +147,7 @@ private Q_SLOTS:
     // both.
     void theTaskMode()
     {
-        const Services& s = app().services();
+        const Services& s = services();
         Project* home = s.projectActions.addProject(QStringLiteral("Home")).project;
         QVERIFY(home);
         TaskForm tasks(s.clock, s.library);

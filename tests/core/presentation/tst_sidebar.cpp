@@ -1,30 +1,17 @@
-#include "core/activity/ProjectActions.h"
-#include "core/dates/CalendarContext.h"
 #include "core/presentation/Sidebar.h"
-#include "core/scheduling/Catalogue.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
+#include "support/LaunchedTest.h"
 
 using namespace lullet;
 using namespace lullet::test;
 
-class TestSidebar : public QObject {
+class TestSidebar : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    Date launchedAt() const override { return at(2026, 11, 25, 12, 0); }
 
-    Launched& app() { return *m_app; }
-    ProjectActions& projects() { return app().services().projectActions; }
+    ProjectActions& projects() { return services().projectActions; }
     Sidebar sidebar()
     {
-        const Services& s = app().services();
+        const Services& s = services();
         return Sidebar(s.clock, s.library, s.catalogue, s.running, s.history);
     }
 
@@ -46,26 +33,9 @@ class TestSidebar : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase() { lullet::test::useTestCalendar(); }
-
-    void init()
-    {
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 25, 12, 0));
-        QVERIFY(app().open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     void theSidebarCounts()
     {
-        Project* home = app().library().newProject();
-        home->setName(QStringLiteral("Home"));
-        app().library().addProject(home);
+        Project* home = app().addProject(QStringLiteral("Home"));
         item(QStringLiteral("Walk the dog"), at(2026, 11, 25, 18, 0));
         item(QStringLiteral("Overdue"), at(2026, 11, 24, 9, 0));
         item(QStringLiteral("Next week"), at(2026, 12, 2, 9, 0), home);
@@ -95,9 +65,7 @@ private Q_SLOTS:
 
     void aSearchForTodayAndWalk()
     {
-        Project* errands = app().library().newProject();
-        errands->setName(QStringLiteral("Errands"));
-        app().library().addProject(errands);
+        Project* errands = app().addProject(QStringLiteral("Errands"));
         item(QStringLiteral("Water the plants"), at(2026, 11, 25, 18, 0));
         item(QStringLiteral("Wälk to the park"), at(2026, 11, 28, 9, 0));
         item(QStringLiteral("Buy stamps"), at(2026, 11, 27, 9, 0), errands);
@@ -116,22 +84,18 @@ private Q_SLOTS:
 
     void aSearchResultLeadsToItsList()
     {
-        Project* home = app().library().newProject();
-        QCOMPARE(Sidebar::segmentFor(*item(QStringLiteral("In project"), std::nullopt, home),
-                                     m_app->clock.now()),
+        const auto segmentOf = [this](const Item* item) {
+            return Sidebar::segmentFor(*item, clock().now());
+        };
+        Project* home = library().newProject();
+        QCOMPARE(segmentOf(item(QStringLiteral("In project"), std::nullopt, home)),
                  Segment::Project);
         Item* done = item(QStringLiteral("Done"), at(2026, 11, 20));
         done->setHasFinished(true);
-        QCOMPARE(Sidebar::segmentFor(*done, m_app->clock.now()), Segment::Completed);
-        QCOMPARE(
-            Sidebar::segmentFor(*item(QStringLiteral("No date"), std::nullopt), m_app->clock.now()),
-            Segment::Anytime);
-        QCOMPARE(
-            Sidebar::segmentFor(*item(QStringLiteral("Late"), at(2026, 11, 1)), m_app->clock.now()),
-            Segment::Today);
-        QCOMPARE(Sidebar::segmentFor(*item(QStringLiteral("Later"), at(2026, 11, 27)),
-                                     m_app->clock.now()),
-                 Segment::Upcoming);
+        QCOMPARE(segmentOf(done), Segment::Completed);
+        QCOMPARE(segmentOf(item(QStringLiteral("No date"), std::nullopt)), Segment::Anytime);
+        QCOMPARE(segmentOf(item(QStringLiteral("Late"), at(2026, 11, 1))), Segment::Today);
+        QCOMPARE(segmentOf(item(QStringLiteral("Later"), at(2026, 11, 27))), Segment::Upcoming);
     }
 
     void projectsAreNamedDeletedAndDuplicated()
@@ -147,7 +111,7 @@ private Q_SLOTS:
         QVERIFY(!projects().renameProject(*work, QStringLiteral("home")));
         QVERIFY(!projects().renameProject(*work, QStringLiteral("  ")));
         QVERIFY(projects().renameProject(*work, QStringLiteral("Another job")));
-        QCOMPARE(app().library().projects().front(), work);
+        QCOMPARE(library().projects().front(), work);
 
         Item* paint = item(QStringLiteral("Paint"), at(2026, 11, 26, 9, 0), home);
         paint->setDurationMin(30);
@@ -163,11 +127,11 @@ private Q_SLOTS:
 
         QVERIFY(ProjectActions::deleteAsks(*home));
         QVERIFY(!ProjectActions::deleteAsks(*work));
-        QSignalSpy removed(&app().library(), &Library::projectRemoved);
+        QSignalSpy removed(&library(), &Library::projectRemoved);
         projects().deleteProject(*home);
         QVERIFY(!paint->hasContext());
         QCOMPARE(removed.count(), 1);
-        QCOMPARE(app().library().projects().size(), std::size_t(3));
+        QCOMPARE(library().projects().size(), std::size_t(3));
         QVERIFY(!app().context().hasChanges());
     }
 };

@@ -1,29 +1,14 @@
-#include "core/dates/CalendarContext.h"
-#include "core/library/Library.h"
-#include "core/model/RepeatCodes.h"
-#include "core/scheduling/Catalogue.h"
-#include "core/scheduling/Generator.h"
-#include "core/scheduling/ScheduleTexts.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
+#include "support/LaunchedTest.h"
 
 using namespace lullet;
 using namespace lullet::test;
 
-class TestCatalogue : public QObject {
+// A monday at 08:00, before the working hours start.
+class TestCatalogue : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    Date launchedAt() const override { return at(2026, 11, 23, 8, 0); }
 
-    Launched& app() { return *m_app; }
-    Catalogue& catalogue() { return app().services().catalogue; }
+    Catalogue& catalogue() { return services().catalogue; }
     const std::vector<CatalogueRowPtr>& rows() { return catalogue().rows(); }
 
     CatalogueRowPtr row(const QString& title)
@@ -35,16 +20,14 @@ class TestCatalogue : public QObject {
         return {};
     }
 
-    // A monday at 08:00, before the working hours start.
-    void launch(const std::function<void(ObjectContext&)>& seed = {})
+    // Launches again, after the seed is written into the store.
+    void launch(const std::function<void(ObjectContext&)>& seed)
     {
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 8, 0));
-        if (seed) {
-            Store store(m_dir->filePath(QStringLiteral("data")), m_app->clock);
-            QCOMPARE(store.open().outcome, Store::Outcome::Opened);
-            seed(store.context());
-            QVERIFY(store.context().save());
-        }
+        relaunch(launchedAt(), Open::No);
+        Store store(path(QStringLiteral("data")), clock());
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        seed(store.context());
+        QVERIFY(store.context().save());
         QVERIFY(app().open());
     }
 
@@ -64,23 +47,8 @@ class TestCatalogue : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase() { init(); }
-
-    void init()
-    {
-        lullet::test::useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     void anEmptyStoreListsTheSixteenSuggestions()
     {
-        launch();
         QCOMPARE(rows().size(), std::size_t(20));
         QStringList headers;
         int dummies = 0;
@@ -101,22 +69,14 @@ private Q_SLOTS:
         QCOMPARE(dummies, 16);
         QCOMPARE(rows()[1]->title, QStringLiteral("Lunch break"));
         QCOMPARE(rows().back()->title, QStringLiteral("Coffee break"));
-        QVERIFY(app().library().items().empty());
+        QVERIFY(library().items().empty());
 
-        const CatalogueRowPtr lunch = row(QStringLiteral("Lunch break"));
-        QCOMPARE(lunch->isToDoOrJob, std::optional<bool>(false));
-        QCOMPARE(lunch->defaultDurationHr, std::optional<int>(1));
-        QCOMPARE(lunch->defaultDurationMin, std::optional<int>(0));
-        QCOMPARE(lunch->defaultRepeatType, std::optional<int>(RepeatUnit::Day));
+        // A suggestion's defaults reach its row each in its place.
         const CatalogueRowPtr tea = row(QStringLiteral("Tea break"));
         QCOMPARE(tea->defaultDurationHr, std::optional<int>(0));
         QCOMPARE(tea->defaultDurationMin, std::optional<int>(10));
         QCOMPARE(tea->defaultRepeatValue, std::optional<int>(3));
-        const CatalogueRowPtr snack = row(QStringLiteral("Snack break"));
-        QCOMPARE(snack->isToDoOrJob, std::optional<bool>(true));
-        QCOMPARE(snack->defaultRepeatType, std::optional<int>(RepeatUnit::Minute));
-        QCOMPARE(snack->defaultRepeatValue, std::optional<int>(1));
-        QCOMPARE(row(QStringLiteral("Washroom"))->isToDoOrJob, std::optional<bool>(true));
+        QCOMPARE(tea->defaultRepeatType, std::optional<int>(RepeatUnit::Hour));
     }
 
     void storedRulesClaimTheirSuggestions()
@@ -178,9 +138,8 @@ private Q_SLOTS:
 
     void switchingASuggestionOnMakesItsRule()
     {
-        launch();
         const CatalogueRowPtr water = row(QStringLiteral("Water time"));
-        m_app->clock.set(at(2026, 11, 23, 8, 0, 17));
+        clock().set(at(2026, 11, 23, 8, 0, 17));
         Rule* rule = catalogue().createRuleFor(*water);
         QCOMPARE(water->representedObject, rule);
         QCOMPARE(*rule->uniqueId(), QStringLiteral("Water time_1795417217.0"));
@@ -191,14 +150,14 @@ private Q_SLOTS:
         QCOMPARE(*rule->isActive(), false);
         QCOMPARE(*rule->durationMin(), 0);
         QCOMPARE(*rule->repeatIntervalType(), int(RepeatUnit::Hour));
-        QVERIFY(app().library().items().empty());
+        QVERIFY(library().items().empty());
 
         rule->setIsActive(true);
         catalogue().refreshRow(*water);
-        app().library().save();
+        library().save();
         QVERIFY(water->isActive);
-        QCOMPARE(app().library().items().size(), std::size_t(1));
-        QCOMPARE(*app().library().items().front()->dtReminder(), at(2026, 11, 23, 9, 0));
+        QCOMPARE(library().items().size(), std::size_t(1));
+        QCOMPARE(*library().items().front()->dtReminder(), at(2026, 11, 23, 9, 0));
     }
 
     // The row's switch: a suggestion becomes a rule with one occurrence; off keeps the rule and
@@ -218,7 +177,7 @@ private Q_SLOTS:
         QVERIFY(rule && *rule->isActive());
         const auto occurrencesOf = [this](const Rule* r) {
             std::vector<Item*> found;
-            for (Item* item : app().library().items()) {
+            for (Item* item : library().items()) {
                 if (item->uniqueId() == r->uniqueId())
                     found.push_back(item);
             }
@@ -239,11 +198,11 @@ private Q_SLOTS:
         QVERIFY(water->nextRepeatOn == std::nullopt);
 
         const CatalogueRowPtr ended = row(QStringLiteral("Ended"));
-        QSignalSpy told(&app().library(), &Library::rulesChanged);
+        QSignalSpy told(&library(), &Library::rulesChanged);
         QVERIFY(!catalogue().switchRow(*ended, true));
         QVERIFY(!*ended->representedObject->isActive());
         QCOMPARE(told.count(), 1);
-        QCOMPARE(app().services().texts.nextTimeLabel(*ended), QStringLiteral("No further repeat"));
+        QCOMPARE(services().texts.nextTimeLabel(*ended), QStringLiteral("No further repeat"));
 
         // Deleting a custom rule takes its row, and the custom header with the last one.
         catalogue().deleteRule(ended->representedObject);
@@ -279,18 +238,16 @@ private Q_SLOTS:
         QFETCH(Date, next);
         QFETCH(int, remindBefore);
         QFETCH(QString, label);
-        launch();
         CatalogueRow row;
         row.nextRepeatOn = next;
         row.remindBefore = remindBefore;
-        QCOMPARE(app().services().texts.nextTimeLabel(row), label);
+        QCOMPARE(services().texts.nextTimeLabel(row), label);
         row.nextRepeatOn.reset();
-        QVERIFY(app().services().texts.nextTimeLabel(row).isEmpty());
+        QVERIFY(services().texts.nextTimeLabel(row).isEmpty());
     }
 
     void onlySuggestionsWithoutARuleAreRefreshed()
     {
-        launch();
         QSignalSpy posted(&catalogue(), &Catalogue::suggestionsChanged);
         catalogue().refreshSuggestionTexts();
         QCoreApplication::processEvents();
@@ -307,8 +264,7 @@ private Q_SLOTS:
 
     void scheduleTexts()
     {
-        launch();
-        const ScheduleTexts& notes = app().services().texts;
+        const ScheduleTexts& notes = services().texts;
         const Date three = at(2026, 11, 23, 15, 0);
         const QString threePm = three.toString(DateStyle::None, DateStyle::Short);
         QVERIFY(notes.ruleText(nullptr).isEmpty());

@@ -1,57 +1,32 @@
-#include "core/dates/CalendarContext.h"
-#include "core/model/RepeatCodes.h"
-#include "core/scheduling/Catalogue.h"
-#include "core/scheduling/Generator.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
-#include "support/TestMain.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
+#include "support/LaunchedTest.h"
 
 using namespace lullet;
 using namespace lullet::test;
 
-namespace {
-
-std::vector<Item*> openOf(Launched& app, const QString& id)
-{
-    std::vector<Item*> found;
-    for (Item* item : app.library().items()) {
-        if (item->uniqueId() == id && item->hasFinished() == std::optional<bool>(false))
-            found.push_back(item);
-    }
-    return found;
-}
-
-} // namespace
-
-class TestGeneration : public QObject {
+class TestGeneration : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 30); }
 
-    Launched& app() { return *m_app; }
-    ObjectContext& ctx() { return app().context(); }
-    Generator& generator() { return app().services().generator; }
-    Catalogue& catalogue() { return app().services().catalogue; }
+    Generator& generator() { return services().generator; }
+    Catalogue& catalogue() { return services().catalogue; }
+
+    std::vector<Item*> openOf(const QString& id)
+    {
+        std::vector<Item*> found;
+        for (Item* item : library().items()) {
+            if (item->uniqueId() == id && item->hasFinished() == std::optional<bool>(false))
+                found.push_back(item);
+        }
+        return found;
+    }
 
     Rule* rule(const QString& title, int type, int count, Date anchor, bool custom = true,
                bool toDo = true)
     {
-        Rule* r = app().library().newRule();
-        r->setUniqueId(title + QStringLiteral("_1795000000.5"));
-        r->setTitle(title);
+        Rule* r = app().addRule(title, type, count, anchor);
         r->setNotes(QStringLiteral("notes of ") + title);
-        r->setRepeatIntervalType(type);
-        r->setRepeatInterval(count);
-        r->setRepeatOption(0);
-        r->setDtReminder(anchor);
         r->setIsCustom(custom);
         r->setIsToDoOrJob(toDo);
-        r->setIsActive(true);
         r->setDurationHr(0);
         r->setDurationMin(25);
         r->setShouldRemind(true);
@@ -61,41 +36,25 @@ class TestGeneration : public QObject {
 
     Item* occurrence(const QString& id, Date due, std::optional<bool> finished = false)
     {
-        Item* item = app().library().newItem();
+        Item* item = library().newItem();
         item->setUniqueId(id);
         item->setDtReminder(due);
         item->setHasFinished(finished);
-        app().library().addItem(item);
+        library().addItem(item);
         return item;
     }
 
 private Q_SLOTS:
-    void initTestCase() { CalendarContext::setTimeZone(QStringLiteral("Europe/Berlin")); }
-
-    void init()
-    {
-        CalendarContext::setLocale(QStringLiteral("en_US"));
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 30));
-        QVERIFY(app().open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     void nothingIsMadeWithoutARuleOrAFutureDate()
     {
         Rule* r = rule(QStringLiteral("Stretch"), RepeatUnit::Hour, 1, at(2026, 11, 23, 9));
-        const std::size_t before = app().library().items().size();
+        const std::size_t before = library().items().size();
         generator().makeOccurrence(nullptr, at(2026, 11, 23, 12), Generator::Check::AnyOpen);
         generator().makeOccurrence(r, std::nullopt, Generator::Check::AnyOpen);
         generator().makeOccurrence(r, at(2026, 11, 23, 10, 29), Generator::Check::AnyOpen);
         r->setTitle(std::nullopt);
         generator().makeOccurrence(r, at(2026, 11, 23, 12), Generator::Check::AnyOpen);
-        QCOMPARE(app().library().items().size(), before);
+        QCOMPARE(library().items().size(), before);
     }
 
     void withoutTheCheckAnyOpenOccurrenceStandsInTheWay()
@@ -103,13 +62,13 @@ private Q_SLOTS:
         Rule* r = rule(QStringLiteral("Stretch"), RepeatUnit::Hour, 1, at(2026, 11, 23, 9));
         occurrence(*r->uniqueId(), at(2025, 11, 1, 9, 0));
         generator().makeOccurrence(r, at(2026, 11, 23, 11), Generator::Check::AnyOpen);
-        QCOMPARE(openOf(app(), *r->uniqueId()).size(), std::size_t(1));
+        QCOMPARE(openOf(*r->uniqueId()).size(), std::size_t(1));
 
         // Finished ones, and ones with no finished value at all, don't count.
-        openOf(app(), *r->uniqueId()).front()->setHasFinished(true);
+        openOf(*r->uniqueId()).front()->setHasFinished(true);
         occurrence(*r->uniqueId(), at(2026, 11, 23, 9), std::nullopt);
         generator().makeOccurrence(r, at(2026, 11, 23, 11), Generator::Check::AnyOpen);
-        const auto open = openOf(app(), *r->uniqueId());
+        const auto open = openOf(*r->uniqueId());
         QCOMPARE(open.size(), std::size_t(1));
         QCOMPARE(*open.front()->dtReminder(), at(2026, 11, 23, 11));
     }
@@ -132,7 +91,7 @@ private Q_SLOTS:
         Rule* r = rule(QStringLiteral("Water"), RepeatUnit::Hour, 1, at(2026, 11, 23, 9));
         occurrence(*r->uniqueId(), existing);
         generator().makeOccurrence(r, at(2026, 11, 23, 11), Generator::Check::WithinLastStep);
-        QCOMPARE(openOf(app(), *r->uniqueId()).size(), std::size_t(blocks ? 1 : 2));
+        QCOMPARE(openOf(*r->uniqueId()).size(), std::size_t(blocks ? 1 : 2));
     }
 
     void idsMatchAsTextIgnoringCaseAndAccents()
@@ -140,12 +99,12 @@ private Q_SLOTS:
         Rule* r = rule(QStringLiteral("Cafe time"), RepeatUnit::Hour, 1, at(2026, 11, 23, 9));
         occurrence(QStringLiteral("CAFÉ TIME_1795000000.5"), at(2026, 11, 23, 9));
         generator().makeOccurrence(r, at(2026, 11, 23, 11), Generator::Check::AnyOpen);
-        QCOMPARE(openOf(app(), *r->uniqueId()).size(), std::size_t(0));
+        QCOMPARE(openOf(*r->uniqueId()).size(), std::size_t(0));
         // The id is text, not a pattern: "." is a dot and nothing else.
         occurrence(QStringLiteral("Tea_1795000000x5"), at(2026, 11, 23, 9));
         Rule* tea = rule(QStringLiteral("Tea"), RepeatUnit::Hour, 1, at(2026, 11, 23, 9));
         generator().makeOccurrence(tea, at(2026, 11, 23, 11), Generator::Check::AnyOpen);
-        QCOMPARE(openOf(app(), *tea->uniqueId()).size(), std::size_t(1));
+        QCOMPARE(openOf(*tea->uniqueId()).size(), std::size_t(1));
     }
 
     // Titles with pattern characters: the rule finds its own occurrence, every minute, and
@@ -155,20 +114,20 @@ private Q_SLOTS:
         for (const QString& title : {QStringLiteral("Stretch?"), QStringLiteral("Review (draft")}) {
             Rule* r = rule(title, RepeatUnit::Hour, 1, at(2026, 11, 23, 9, 15));
             catalogue().registerRule(r);
-            QCOMPARE(openOf(app(), *r->uniqueId()).size(), std::size_t(1));
+            QCOMPARE(openOf(*r->uniqueId()).size(), std::size_t(1));
             for (int minute = 0; minute < 3; ++minute) {
-                m_app->clock.advance(60);
+                clock().advance(60);
                 catalogue().refreshActiveRows();
             }
-            QCOMPARE(openOf(app(), *r->uniqueId()).size(), std::size_t(1));
+            QCOMPARE(openOf(*r->uniqueId()).size(), std::size_t(1));
             generator().removeOpenOccurrences(r);
-            QVERIFY(openOf(app(), *r->uniqueId()).empty());
+            QVERIFY(openOf(*r->uniqueId()).empty());
         }
     }
 
     void occurrencesCopyWhatTheirKindNeeds()
     {
-        QSignalSpy posted(&app().library(), &Library::itemsChanged);
+        QSignalSpy posted(&library(), &Library::itemsChanged);
         Rule* toDo = rule(QStringLiteral("Water"), RepeatUnit::Hour, 1, at(2026, 11, 23, 9));
         Rule* timed =
             rule(QStringLiteral("Walk"), RepeatUnit::Day, 1, at(2026, 11, 23, 9), true, false);
@@ -176,7 +135,7 @@ private Q_SLOTS:
         QCOMPARE(posted.count(), 0);
         QCoreApplication::processEvents();
         QCOMPARE(posted.count(), 1);
-        Item* a = openOf(app(), *toDo->uniqueId()).front();
+        Item* a = openOf(*toDo->uniqueId()).front();
         QCOMPARE(posted.front().front().value<Item*>(), a);
         QCOMPARE(a->repeatOption(), std::optional<int>(RepeatEnd::toDoMarker));
         QVERIFY(!a->durationMin() && !a->shouldRemind() && !a->repeatInterval());
@@ -185,14 +144,14 @@ private Q_SLOTS:
         QVERIFY(a->rowId() > 0);
 
         generator().makeOccurrence(timed, at(2026, 11, 24, 9), Generator::Check::AnyOpen);
-        Item* b = openOf(app(), *timed->uniqueId()).front();
+        Item* b = openOf(*timed->uniqueId()).front();
         QCOMPARE(b->repeatOption(), std::optional<int>(0));
         QCOMPARE(b->durationMin(), std::optional<int>(25));
         QCOMPARE(b->remindBefore(), std::optional<int>(2));
         QCOMPARE(b->repeatIntervalType(), std::optional<int>(RepeatUnit::Day));
         QVERIFY(!b->dtRepeatUpto());
         // The list stays in order: the earlier one first.
-        const auto& list = app().library().items();
+        const auto& list = library().items();
         QVERIFY(std::find(list.begin(), list.end(), a) < std::find(list.begin(), list.end(), b));
     }
 
@@ -200,52 +159,52 @@ private Q_SLOTS:
     {
         Rule* r = rule(QStringLiteral("Stretch"), RepeatUnit::Hour, 2, at(2026, 11, 23, 6));
         catalogue().registerRule(r);
-        Item* first = openOf(app(), *r->uniqueId()).front();
+        Item* first = openOf(*r->uniqueId()).front();
         QCOMPARE(*first->dtReminder(), at(2026, 11, 23, 12));
 
         // Finished late: the missed dates are dropped, the next is on the grid after now.
-        m_app->clock.set(at(2026, 11, 23, 16, 30));
+        clock().set(at(2026, 11, 23, 16, 30));
         first->setHasFinished(true);
         catalogue().makeNextOccurrence(first, *first->dtReminder());
-        Item* second = openOf(app(), *r->uniqueId()).front();
+        Item* second = openOf(*r->uniqueId()).front();
         QCOMPARE(*second->dtReminder(), at(2026, 11, 23, 18));
         QCOMPARE(*catalogue().rowsOf(r).front()->nextRepeatOn, at(2026, 11, 23, 18));
 
         // Finished early: one step after the date it stood on, so no date repeats.
         second->setHasFinished(true);
         catalogue().makeNextOccurrence(second, *second->dtReminder());
-        QCOMPARE(*openOf(app(), *r->uniqueId()).front()->dtReminder(), at(2026, 11, 23, 20));
+        QCOMPARE(*openOf(*r->uniqueId()).front()->dtReminder(), at(2026, 11, 23, 20));
     }
 
     void aRuleThatEndedOrWentMakesNothing()
     {
         Rule* r = rule(QStringLiteral("Stretch"), RepeatUnit::Hour, 1, at(2026, 11, 23, 10));
         catalogue().registerRule(r);
-        Item* first = openOf(app(), *r->uniqueId()).front();
+        Item* first = openOf(*r->uniqueId()).front();
         first->setHasFinished(true);
         r->setRepeatOption(1);
         r->setDtRepeatUpto(at(2026, 11, 23, 12));
         catalogue().makeNextOccurrence(first, at(2026, 11, 23, 11));
-        QVERIFY(openOf(app(), *r->uniqueId()).empty());
+        QVERIFY(openOf(*r->uniqueId()).empty());
 
         r->setDtRepeatUpto(at(2026, 11, 23, 12, 0, 1));
         catalogue().makeNextOccurrence(first, at(2026, 11, 23, 11));
-        QCOMPARE(openOf(app(), *r->uniqueId()).size(), std::size_t(1));
+        QCOMPARE(openOf(*r->uniqueId()).size(), std::size_t(1));
 
-        Item* second = openOf(app(), *r->uniqueId()).front();
+        Item* second = openOf(*r->uniqueId()).front();
         second->setHasFinished(true);
         catalogue().unregisterRule(r);
-        ctx().deleteObject(r);
+        app().context().deleteObject(r);
         catalogue().makeNextOccurrence(second, *second->dtReminder());
-        QVERIFY(openOf(app(), *r->uniqueId()).empty());
+        QVERIFY(openOf(*r->uniqueId()).empty());
 
         // A stored step of 0 makes nothing, and never loops.
         Rule* broken = rule(QStringLiteral("Broken"), RepeatUnit::Minute, 0, at(2026, 11, 20));
         catalogue().registerRule(broken);
-        QVERIFY(openOf(app(), *broken->uniqueId()).empty());
+        QVERIFY(openOf(*broken->uniqueId()).empty());
         Item* orphan = occurrence(*broken->uniqueId(), at(2026, 11, 23, 11), true);
         catalogue().makeNextOccurrence(orphan, at(2026, 11, 23, 11));
-        QVERIFY(openOf(app(), *broken->uniqueId()).empty());
+        QVERIFY(openOf(*broken->uniqueId()).empty());
     }
 
     void removingKeepsHistoryAndTheCustomHeaderInStep()
@@ -261,9 +220,9 @@ private Q_SLOTS:
         QCOMPARE(rows.size(), catalogueRows + 3);
         Item* done = occurrence(*a->uniqueId(), at(2026, 11, 22, 10), true);
 
-        QSignalSpy edited(&app().library(), &Library::rulesChanged);
+        QSignalSpy edited(&library(), &Library::rulesChanged);
         QVERIFY(!catalogue().unregisterRule(a));
-        QVERIFY(openOf(app(), *a->uniqueId()).empty());
+        QVERIFY(openOf(*a->uniqueId()).empty());
         QVERIFY(done->hasContext());
         QCOMPARE(rows.size(), catalogueRows + 2);
         QVERIFY(catalogue().unregisterRule(b));
@@ -280,20 +239,17 @@ private Q_SLOTS:
         Rule* water =
             rule(QStringLiteral("water TIME"), RepeatUnit::Minute, 45, at(2026, 11, 23, 9), false);
         water->setIsCustom(std::nullopt);
-        app().library().save();
+        library().save();
         const QString hourlyId = *hourly->uniqueId();
         const QString offId = *off->uniqueId();
         const QString waterId = *water->uniqueId();
-        const QString dir = m_dir->path();
         for (int run = 0; run < 2; ++run) {
-            m_app.reset();
-            m_app = std::make_unique<Launched>(dir, at(2026, 11, 23, 10, 30 + run * 20));
-            QVERIFY(app().open());
-            QCOMPARE(openOf(app(), hourlyId).size(), std::size_t(1));
-            QCOMPARE(*openOf(app(), hourlyId).front()->dtReminder(), at(2026, 11, 23, 11, 15));
-            QCOMPARE(openOf(app(), offId).size(), std::size_t(0));
+            relaunch(at(2026, 11, 23, 10, 30 + run * 20));
+            QCOMPARE(openOf(hourlyId).size(), std::size_t(1));
+            QCOMPARE(*openOf(hourlyId).front()->dtReminder(), at(2026, 11, 23, 11, 15));
+            QCOMPARE(openOf(offId).size(), std::size_t(0));
             // The catalogue's "Water time" claims it, whatever the case.
-            QCOMPARE(openOf(app(), waterId).size(), std::size_t(1));
+            QCOMPARE(openOf(waterId).size(), std::size_t(1));
         }
     }
 };

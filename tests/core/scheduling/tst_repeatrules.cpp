@@ -1,12 +1,8 @@
-#include "core/dates/CalendarContext.h"
 #include "core/model/RepeatCodes.h"
 #include "core/model/Rule.h"
 #include "core/scheduling/RepeatRules.h"
-#include "support/DatePrinting.h"
+#include "support/CalendarTest.h"
 #include "support/FakeClock.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 
 #include <random>
 
@@ -27,14 +23,9 @@ struct TestRule {
 
 } // namespace
 
-class TestRepeatRules : public QObject {
+class TestRepeatRules : public CalendarTest {
     Q_OBJECT
 private Q_SLOTS:
-    // Data functions run before init(), so the zone is set for them here as well.
-    void initTestCase() { init(); }
-
-    void init() { lullet::test::useTestCalendar(); }
-
     void theGrid_data()
     {
         QTest::addColumn<Date>("anchor");
@@ -43,39 +34,34 @@ private Q_SLOTS:
         QTest::addColumn<Date>("now");
         QTest::addColumn<Date>("expected");
         const Date now = at(2026, 11, 23, 10, 30);
+        using namespace RepeatUnit;
+        const int minute = Minute, hour = Hour, day = Day, week = Week, month = Month, year = Year;
         QTest::newRow("today, same minute: the anchor itself")
-            << at(2026, 11, 23, 10, 30) << int(RepeatUnit::Hour) << 1
-            << at(2026, 11, 23, 10, 30, 45) << at(2026, 11, 23, 10, 30);
-        QTest::newRow("today, later hour: the anchor itself")
-            << at(2026, 11, 23, 18, 0) << int(RepeatUnit::Day) << 1 << now
-            << at(2026, 11, 23, 18, 0);
-        QTest::newRow("today, a minute ago, hourly")
-            << at(2026, 11, 23, 10, 29) << int(RepeatUnit::Hour) << 1 << now
-            << at(2026, 11, 23, 11, 29);
-        QTest::newRow("today 09:00, every 20 minutes")
-            << at(2026, 11, 23, 9, 0) << int(RepeatUnit::Minute) << 20 << now
-            << at(2026, 11, 23, 10, 40);
-        QTest::newRow("yesterday 10:30 daily, now 10:30:00 exactly (inclusive)")
-            << at(2026, 11, 22, 10, 30) << int(RepeatUnit::Day) << 1 << now
+            << at(2026, 11, 23, 10, 30) << hour << 1 << at(2026, 11, 23, 10, 30, 45)
             << at(2026, 11, 23, 10, 30);
+        QTest::newRow("today, later hour: the anchor itself")
+            << at(2026, 11, 23, 18, 0) << day << 1 << now << at(2026, 11, 23, 18, 0);
+        QTest::newRow("today, a minute ago, hourly")
+            << at(2026, 11, 23, 10, 29) << hour << 1 << now << at(2026, 11, 23, 11, 29);
+        QTest::newRow("today 09:00, every 20 minutes")
+            << at(2026, 11, 23, 9, 0) << minute << 20 << now << at(2026, 11, 23, 10, 40);
+        QTest::newRow("yesterday 10:30 daily, now 10:30:00 exactly (inclusive)")
+            << at(2026, 11, 22, 10, 30) << day << 1 << now << at(2026, 11, 23, 10, 30);
         QTest::newRow("tomorrow is stepped, not returned")
-            << at(2026, 11, 24, 9, 0) << int(RepeatUnit::Day) << 1 << now << at(2026, 11, 25, 9, 0);
+            << at(2026, 11, 24, 9, 0) << day << 1 << now << at(2026, 11, 25, 9, 0);
         QTest::newRow("next week, weekly")
-            << at(2026, 11, 30, 9, 0) << int(RepeatUnit::Week) << 1 << now << at(2026, 12, 7, 9, 0);
+            << at(2026, 11, 30, 9, 0) << week << 1 << now << at(2026, 12, 7, 9, 0);
         QTest::newRow("hourly rule keeps its minute")
-            << at(2025, 1, 1, 10, 15) << int(RepeatUnit::Hour) << 1 << now
-            << at(2026, 11, 23, 11, 15);
+            << at(2025, 1, 1, 10, 15) << hour << 1 << now << at(2026, 11, 23, 11, 15);
         QTest::newRow("29 February, every two years")
-            << at(2028, 2, 29, 8, 0) << int(RepeatUnit::Year) << 2 << at(2029, 6, 1)
-            << at(2030, 2, 28, 8, 0);
+            << at(2028, 2, 29, 8, 0) << year << 2 << at(2029, 6, 1) << at(2030, 2, 28, 8, 0);
         QTest::newRow("the 31st shortens and stays short")
-            << at(2027, 1, 31, 9, 0) << int(RepeatUnit::Month) << 1 << at(2027, 3, 1)
-            << at(2027, 3, 28, 9, 0);
+            << at(2027, 1, 31, 9, 0) << month << 1 << at(2027, 3, 1) << at(2027, 3, 28, 9, 0);
         QTest::newRow("daily keeps wall time across daylight saving")
-            << at(2026, 3, 27, 10, 0) << int(RepeatUnit::Day) << 1 << at(2026, 3, 30, 9, 0)
+            << at(2026, 3, 27, 10, 0) << day << 1 << at(2026, 3, 30, 9, 0)
             << at(2026, 3, 30, 10, 0);
         QTest::newRow("hourly counts real hours across daylight saving")
-            << at(2026, 3, 29, 1, 15) << int(RepeatUnit::Hour) << 1 << at(2026, 3, 29, 3, 20)
+            << at(2026, 3, 29, 1, 15) << hour << 1 << at(2026, 3, 29, 3, 20)
             << at(2026, 3, 29, 4, 15);
     }
 

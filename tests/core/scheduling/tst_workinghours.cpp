@@ -1,38 +1,21 @@
-#include "core/dates/CalendarContext.h"
 #include "core/scheduling/Catalogue.h"
 #include "core/scheduling/ScheduleTableModel.h"
 #include "core/scheduling/WorkingHours.h"
 #include "core/scheduling/WorkingSchedule.h"
-#include "core/settings/SettingsKeys.h"
-#include "support/DatePrinting.h"
+#include "support/FolderTest.h"
 #include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTime>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
-class TestWorkingHours : public QObject {
+class TestWorkingHours : public FolderTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-
-    QString conf() const { return m_dir->filePath(QStringLiteral("Lullet.conf")); }
+    QString conf() const { return path(QStringLiteral("Lullet.conf")); }
 
 private Q_SLOTS:
-    void initTestCase() { init(); }
-
-    void init()
-    {
-        lullet::test::useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-    }
-
     void theFirstScheduleIsMondayToFridayNineToSix()
     {
         const FakeClock clock(at(2026, 11, 23, 14, 0));
@@ -89,19 +72,16 @@ private Q_SLOTS:
         QTest::addColumn<Date>("moment");
         QTest::addColumn<bool>("inside");
         const Date monday = at(2026, 11, 23, 8, 0);
+        const Date friday = at(2026, 11, 27, 8, 0);
         QTest::newRow("at the start") << monday << at(2026, 11, 23, 9, 0, 0) << false;
         QTest::newRow("a second later") << monday << at(2026, 11, 23, 9, 0, 1) << true;
         QTest::newRow("a second before the end") << monday << at(2026, 11, 23, 17, 59, 59) << true;
         QTest::newRow("at the end") << monday << at(2026, 11, 23, 18, 0) << false;
-        QTest::newRow("Sunday is off")
-            << at(2026, 11, 22, 8, 0) << at(2026, 11, 22, 12, 0) << false;
+        QTest::newRow("Sunday is off") << at(2026, 11, 22, 8) << at(2026, 11, 22, 12) << false;
         // A run from Friday over the weekend keeps Friday's hours on Friday's date.
-        QTest::newRow("Friday's run on Friday")
-            << at(2026, 11, 27, 8, 0) << at(2026, 11, 27, 12, 0) << true;
-        QTest::newRow("Friday's run on Saturday")
-            << at(2026, 11, 27, 8, 0) << at(2026, 11, 28, 12, 0) << false;
-        QTest::newRow("Friday's run on Monday")
-            << at(2026, 11, 27, 8, 0) << at(2026, 11, 30, 12, 0) << false;
+        QTest::newRow("Friday's run on Friday") << friday << at(2026, 11, 27, 12, 0) << true;
+        QTest::newRow("Friday's run on Saturday") << friday << at(2026, 11, 28, 12, 0) << false;
+        QTest::newRow("Friday's run on Monday") << friday << at(2026, 11, 30, 12, 0) << false;
         // Saturday's launch tests Saturday, off, even on Monday morning.
         QTest::newRow("Saturday's run on Monday")
             << at(2026, 11, 28, 23, 0) << at(2026, 11, 30, 10, 0) << false;
@@ -138,7 +118,7 @@ private Q_SLOTS:
 
     void theEditorTableMovesTheSuggestions()
     {
-        Launched app(m_dir->path(), at(2026, 11, 23, 7, 0));
+        Launched app(folder(), at(2026, 11, 23, 7, 0));
         QVERIFY(app.open());
         Catalogue& catalogue = app.services().catalogue;
         ScheduleTableModel model(app.clock, app.services().schedule, catalogue);

@@ -1,18 +1,7 @@
-#include "core/security/Lock.h"
 #include "core/security/PasswordRules.h"
-#include "core/security/Protection.h"
-#include "core/settings/SettingsKeys.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/LaunchedTest.h"
 
-#include <QDir>
 #include <QFile>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
-#include <optional>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -28,21 +17,21 @@ QVariantMap passwordValues(const Settings& settings)
 
 } // namespace
 
-class TestProtection : public QObject {
+class TestProtection : public LaunchedTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
+    Open openedAs() const override { return Open::No; }
 
-    Protection& protection() { return m_app->services().protection; }
-    Lock& lock() { return m_app->services().lock; }
+    Protection& protection() { return services().protection; }
+    Lock& lock() { return services().lock; }
 
     // A launch on a Monday morning inside the working hours, protected and locked.
     void launchProtected(std::optional<QString> secret)
     {
-        m_app->settings.setDictionary(SettingsKeys::passwordValues,
-                                      {{QString(SettingsKeys::isPassword), true}});
-        m_app->secrets.secret = std::move(secret);
-        QVERIFY(m_app->open());
+        app().settings.setDictionary(SettingsKeys::passwordValues,
+                                     {{QString(SettingsKeys::isPassword), true}});
+        app().secrets.secret = std::move(secret);
+        QVERIFY(app().open());
         QVERIFY(lock().isLocked());
     }
 
@@ -56,19 +45,6 @@ class TestProtection : public QObject {
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 0));
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     void newPasswords_data()
     {
         QTest::addColumn<QString>("password");
@@ -78,27 +54,25 @@ private Q_SLOTS:
         const auto tooShort =
             std::optional(QStringLiteral("Password should be minimum 4 character"));
         const auto differ = std::optional(QStringLiteral("Passwords does not match"));
-        QTest::newRow("both empty") << ""
-                                    << "" << empty;
-        QTest::newRow("repeat only blanks") << "abcd"
-                                            << " \t " << empty;
-        QTest::newRow("three and blanks") << "  abc \t"
-                                          << "abc" << tooShort;
+        QTest::newRow("both empty") << QString() << QString() << empty;
+        QTest::newRow("repeat only blanks")
+            << QStringLiteral("abcd") << QStringLiteral(" \t ") << empty;
+        QTest::newRow("three and blanks")
+            << QStringLiteral("  abc \t") << QStringLiteral("abc") << tooShort;
         // Four characters as seen, seven code units: e with a combining accent, and a family.
         QTest::newRow("accents count once") << QStringLiteral("e\u0301e\u0301e\u0301")
                                             << QStringLiteral("e\u0301e\u0301e\u0301") << tooShort;
         QTest::newRow("graphemes")
             << QStringLiteral("e\u0301ab\U0001F468\u200D\U0001F469\u200D\U0001F467")
             << QStringLiteral("e\u0301ab\U0001F468\u200D\U0001F469\u200D\U0001F467") << noProblem;
-        QTest::newRow("differ") << "abcd"
-                                << "abce" << differ;
+        QTest::newRow("differ") << QStringLiteral("abcd") << QStringLiteral("abce") << differ;
         // Blanks at the ends go before the two are compared; a line end is no blank.
-        QTest::newRow("blanks at the ends") << " abcd\t"
-                                            << "abcd" << noProblem;
-        QTest::newRow("line end stays") << "abcd\n"
-                                        << "abcd" << differ;
-        QTest::newRow("inner blank stays") << "ab cd"
-                                           << "abcd" << differ;
+        QTest::newRow("blanks at the ends")
+            << QStringLiteral(" abcd\t") << QStringLiteral("abcd") << noProblem;
+        QTest::newRow("line end stays")
+            << QStringLiteral("abcd\n") << QStringLiteral("abcd") << differ;
+        QTest::newRow("inner blank stays")
+            << QStringLiteral("ab cd") << QStringLiteral("abcd") << differ;
     }
 
     void newPasswords()
@@ -111,21 +85,26 @@ private Q_SLOTS:
 
     void theCurrentPasswordBeforeAChange()
     {
-        const QString stored = QStringLiteral("kestrel");
-        QCOMPARE(PasswordRules::currentPasswordProblem(QStringLiteral(" "), stored),
-                 std::optional(QStringLiteral("Please insert values in text fields")));
-        QCOMPARE(PasswordRules::currentPasswordProblem(QStringLiteral("kes"), stored),
-                 std::optional(QStringLiteral("Password should be minimum 4 character")));
-        QCOMPARE(PasswordRules::currentPasswordProblem(QStringLiteral("kestrel!"), stored),
-                 std::optional(QStringLiteral("Wrong Password")));
-        QCOMPARE(PasswordRules::currentPasswordProblem(QStringLiteral("\tkestrel "), stored),
-                 noProblem);
+        const auto problem = [](const QString& typed) {
+            return PasswordRules::currentPasswordProblem(typed, QStringLiteral("kestrel"));
+        };
+        QCOMPARE(*problem(QStringLiteral(" ")),
+                 QStringLiteral("Please insert values in text fields"));
+        QCOMPARE(*problem(QStringLiteral("kes")),
+                 QStringLiteral("Password should be minimum 4 character"));
+        QCOMPARE(*problem(QStringLiteral("kestrel!")), QStringLiteral("Wrong Password"));
+        QCOMPARE(problem(QStringLiteral("\tkestrel ")), noProblem);
     }
 
-    // Only the exact text opens the program, once; the lock never comes back in the run.
+    // Only the exact text opens the program, once; the lock never comes back in the run. The
+    // idle question waits behind the lock and comes at once after the login; a reminder falls
+    // due as at any other time.
     void theLoginTakesTheStoredPasswordExactly()
     {
         launchProtected(QStringLiteral("kestrel"));
+        app().addItem(QStringLiteral("Water"), at(2026, 11, 23, 10, 20))->setShouldRemind(true);
+        app().runUntil(at(2026, 11, 23, 10, 45));
+        QCOMPARE(app().prompts.kinds(), QStringList{QStringLiteral("reminder")});
         QSignalSpy unlocked(&lock(), &Lock::unlocked);
         QCOMPARE(logIn(QString()), Protection::Login::Blank);
         QCOMPARE(logIn(QStringLiteral(" \t")), Protection::Login::Blank);
@@ -135,6 +114,9 @@ private Q_SLOTS:
         QCOMPARE(logIn(QStringLiteral("kestrel")), Protection::Login::In);
         QVERIFY(!lock().isLocked());
         QCOMPARE(unlocked.count(), 1);
+        QTRY_COMPARE(app().prompts.kinds(),
+                     (QStringList{QStringLiteral("reminder"), QStringLiteral("idle")}));
+        QVERIFY(app().prompts.prompts.back().askNow);
         QCOMPARE(logIn(QStringLiteral("kestrel")), Protection::Login::In);
         QCOMPARE(unlocked.count(), 1);
         QVERIFY(protection().isOn());
@@ -145,37 +127,23 @@ private Q_SLOTS:
     void aMissingPasswordOpensButAnUnreachableKeyringDoesNot()
     {
         launchProtected(std::nullopt);
-        m_app->secrets.unavailable = true;
+        app().secrets.unavailable = true;
         QCOMPARE(logIn(QStringLiteral("anything")), Protection::Login::Unavailable);
         QVERIFY(lock().isLocked());
         QVERIFY(protection().isOn());
 
-        m_app->secrets.unavailable = false;
+        app().secrets.unavailable = false;
         QCOMPARE(logIn(QStringLiteral("anything")), Protection::Login::In);
         QVERIFY(!lock().isLocked());
-        const QVariantMap values = passwordValues(m_app->settings);
+        const QVariantMap values = passwordValues(app().settings);
         QCOMPARE(values.value(SettingsKeys::isPassword).toBool(), false);
         QCOMPARE(values.value(SettingsKeys::password).toString(), QString());
         QVERIFY(values.contains(SettingsKeys::email));
     }
 
-    // The idle question waits behind the lock and comes at once after the login; a reminder
-    // falls due as at any other time.
-    void theLockHoldsBackOnlyTheIdleQuestion()
-    {
-        launchProtected(QStringLiteral("kestrel"));
-        m_app->addItem(QStringLiteral("Water"), at(2026, 11, 23, 10, 20))->setShouldRemind(true);
-        m_app->runUntil(at(2026, 11, 23, 10, 45));
-        QCOMPARE(m_app->prompts.kinds(), QStringList{QStringLiteral("reminder")});
-        QCOMPARE(logIn(QStringLiteral("kestrel")), Protection::Login::In);
-        QTRY_COMPARE(m_app->prompts.kinds(),
-                     (QStringList{QStringLiteral("reminder"), QStringLiteral("idle")}));
-        QVERIFY(m_app->prompts.prompts.back().askNow);
-    }
-
     void storingTurnsProtectionOnOnlyWhenTheKeyringHoldsIt()
     {
-        QVERIFY(m_app->open());
+        QVERIFY(app().open());
         std::optional<QString> error;
         const auto store = [&](const QString& password) {
             error.reset();
@@ -183,26 +151,24 @@ private Q_SLOTS:
             QTRY_VERIFY(error.has_value());
         };
         protection().switchOn();
-        m_app->secrets.refuseWrites = true;
+        app().secrets.refuseWrites = true;
         store(QStringLiteral("Kestrel9"));
         QVERIFY(!error->isEmpty());
         QVERIFY(!protection().isOn());
 
-        m_app->secrets.refuseWrites = false;
+        app().secrets.refuseWrites = false;
         store(QStringLiteral("Kestrel9"));
         QCOMPARE(*error, QString());
         QVERIFY(protection().isOn());
-        QCOMPARE(m_app->secrets.secret, std::optional(QStringLiteral("Kestrel9")));
-        m_app->settings.sync();
-        QFile file(m_app->settings.filePath());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY(!file.readAll().contains("Kestrel9"));
+        QCOMPARE(app().secrets.secret, std::optional(QStringLiteral("Kestrel9")));
+        app().settings.sync();
+        QVERIFY(!readFile(app().settings.filePath()).contains("Kestrel9"));
 
         std::optional<QString> removal;
         protection().switchOff(this, [&](const QString& e) { removal = e; });
         QVERIFY(!protection().isOn());
         QTRY_COMPARE(removal, std::optional(QString()));
-        QVERIFY(!m_app->secrets.secret);
+        QVERIFY(!app().secrets.secret);
     }
 
     // A keyring that never answers is given up on after a while: the program stays locked, a
@@ -213,7 +179,7 @@ private Q_SLOTS:
         using namespace std::chrono_literals;
         launchProtected(QStringLiteral("kestrel"));
         protection().setKeyringPatience(100ms);
-        m_app->secrets.holding = true;
+        app().secrets.holding = true;
         std::optional<QString> why;
         protection().logIn(QStringLiteral("kestrel"), this,
                            [&](Protection::Login result, const QString& error) {
@@ -222,18 +188,18 @@ private Q_SLOTS:
                            });
         QTRY_VERIFY(why);
         QVERIFY(why->contains(QLatin1String("did not answer")));
-        m_app->secrets.release();
+        app().secrets.release();
         QTest::qWait(20);
         QVERIFY(lock().isLocked());
 
-        m_app->secrets.holding = true;
+        app().secrets.holding = true;
         std::optional<QString> removal;
         protection().switchOff(this, [&](const QString& e) { removal = e; });
         QTRY_VERIFY(removal);
         QVERIFY(!removal->isEmpty());
         QVERIFY(!protection().isOn());
-        m_app->secrets.holding = false;
-        m_app->secrets.unavailable = true;
+        app().secrets.holding = false;
+        app().secrets.unavailable = true;
         removal.reset();
         protection().switchOff(this, [&](const QString& e) { removal = e; });
         QTRY_VERIFY(removal);
@@ -250,11 +216,11 @@ private Q_SLOTS:
             protection().readPassword(this, [&](const SecretStore::Reading& r) { reading = r; });
             QTRY_VERIFY(reading.has_value());
         };
-        m_app->secrets.unavailable = true;
+        app().secrets.unavailable = true;
         read();
         QCOMPARE(reading->outcome, SecretStore::Outcome::Unavailable);
         QVERIFY(protection().isOn());
-        m_app->secrets.unavailable = false;
+        app().secrets.unavailable = false;
         read();
         QCOMPARE(reading->outcome, SecretStore::Outcome::NotFound);
         QVERIFY(!protection().isOn());

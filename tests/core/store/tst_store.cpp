@@ -2,33 +2,18 @@
 #include "core/store/ObjectContext.h"
 #include "core/store/Store.h"
 #include "core/store/StoreSchema.h"
-#include "support/DatePrinting.h"
 #include "support/FakeClock.h"
+#include "support/FolderTest.h"
 #include "support/FullDisk.h"
-#include "support/TestMain.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 using namespace lullet;
-using lullet::test::FakeClock;
+using namespace lullet::test;
 
 namespace {
-
-QByteArray readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
 
 QStringList asideFiles(const QString& folder)
 {
@@ -64,26 +49,21 @@ void leaveHotJournal(const QString& path)
 
 } // namespace
 
-class TestStore : public QObject {
+class TestStore : public FolderTest {
     Q_OBJECT
-    QTemporaryDir m_dir;
     FakeClock m_clock{Date(1'795'340'000)};
 
-    QString folder() const { return m_dir.filePath(QStringLiteral("data/Lullet")); }
+    QString storeFolder() const { return path(QStringLiteral("data/Lullet")); }
+    QString storeFile() const { return path(QStringLiteral("data/Lullet/Lullet.sqlite")); }
 
 private Q_SLOTS:
-    void init()
-    {
-        QDir(m_dir.path()).removeRecursively();
-        QVERIFY(QDir().mkpath(m_dir.path()));
-    }
-
+    // The folder and the files are the user's alone.
     void firstRunCreatesTheFolderAndAWalStore()
     {
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         const auto result = store.open();
         QCOMPARE(result.outcome, Store::Outcome::Opened);
-        QVERIFY(QFileInfo(folder()).isDir());
+        QVERIFY(QFileInfo(storeFolder()).isDir());
         QCOMPARE(store.db().queryText("PRAGMA journal_mode").value_or(QString()),
                  QStringLiteral("wal"));
         QCOMPARE(store.db().queryInt("PRAGMA application_id").value_or(0),
@@ -92,14 +72,18 @@ private Q_SLOTS:
                  StoreSchema::latestVersion());
         store.context().insertProject()->setName(QStringLiteral("Home"));
         QVERIFY(store.context().save());
-        QVERIFY(QFile::exists(store.storePath() + QStringLiteral("-wal")));
-        QVERIFY(QFile::exists(store.storePath() + QStringLiteral("-shm")));
+        const auto owner = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+        QCOMPARE(QFileInfo(storeFolder()).permissions() & 0x7077,
+                 QFileDevice::Permissions(owner | QFileDevice::ExeOwner));
+        for (const QString& suffix : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")})
+            QCOMPARE(QFileInfo(storeFile() + suffix).permissions() & 0x7077,
+                     QFileDevice::Permissions(owner));
     }
 
     void everyAttributeSurvivesAReload()
     {
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             QCOMPARE(store.open().outcome, Store::Outcome::Opened);
             ObjectContext& ctx = store.context();
             Project* home = ctx.insertProject();
@@ -140,7 +124,7 @@ private Q_SLOTS:
             QVERIFY(!ctx.hasChanges());
             QVERIFY(item->rowId() > 0);
         }
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         ObjectContext& ctx = store.context();
         QCOMPARE(ctx.projects().size(), std::size_t(1));
@@ -188,7 +172,7 @@ private Q_SLOTS:
 
     void onlyRealChangesCount()
     {
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         ObjectContext& ctx = store.context();
         Item* item = ctx.insertItem();
@@ -205,11 +189,19 @@ private Q_SLOTS:
         QVERIFY(!ctx.hasChanges());
         QVERIFY(!scratch->hasContext());
         QCOMPARE(store.db().queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 1);
+
+        // A reset detaches the records, which keep their values, and reads the store anew.
+        ctx.reset();
+        QVERIFY(!item->hasContext());
+        QCOMPARE(*item->title(), QStringLiteral("Coffee"));
+        QCOMPARE(ctx.items().size(), std::size_t(1));
+        QVERIFY(ctx.items().front() != item);
+        QCOMPARE(*ctx.items().front()->title(), QStringLiteral("Coffee"));
     }
 
     void deletingKeepsMemoryAndRelationshipsInStep()
     {
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         ObjectContext& ctx = store.context();
         Project* work = ctx.insertProject();
@@ -238,7 +230,7 @@ private Q_SLOTS:
 
     void aFailedSaveKeepsEveryChangeForTheNextTry()
     {
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         ObjectContext& ctx = store.context();
         QVERIFY(store.db().exec("CREATE TRIGGER refuse BEFORE INSERT ON ReminderInfo "
@@ -259,15 +251,15 @@ private Q_SLOTS:
 
     void aFileWhereTheFolderShouldBeEndsTheBuild()
     {
-        QVERIFY(QDir().mkpath(m_dir.filePath(QStringLiteral("data"))));
-        writeFile(folder(), "not a folder");
-        Store store(folder(), m_clock);
+        QVERIFY(QDir().mkpath(path(QStringLiteral("data"))));
+        writeFile(storeFolder(), "not a folder");
+        Store store(storeFolder(), m_clock);
         const auto result = store.open();
         QCOMPARE(result.outcome, Store::Outcome::FolderIsFile);
         QCOMPARE(result.message,
                  QStringLiteral("Expected a folder to store application data, found a file %1.")
-                     .arg(folder()));
-        QCOMPARE(readAll(folder()), QByteArray("not a folder"));
+                     .arg(storeFolder()));
+        QCOMPARE(readFile(storeFolder()), QByteArray("not a folder"));
         QVERIFY(!store.isOpen());
     }
 
@@ -294,8 +286,8 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, setupSql);
         QFETCH(QByteArray, garbage);
-        QVERIFY(QDir().mkpath(folder()));
-        const QString path = QDir(folder()).filePath(QStringLiteral("Lullet.sqlite"));
+        QVERIFY(QDir().mkpath(storeFolder()));
+        const QString path = storeFile();
         if (!garbage.isEmpty()) {
             writeFile(path, garbage);
             writeFile(path + QStringLiteral("-wal"), "log");
@@ -303,24 +295,24 @@ private Q_SLOTS:
             Db db(path);
             QVERIFY(db.exec(setupSql.constData()));
         }
-        const QByteArray before = readAll(path);
+        const QByteArray before = readFile(path);
 
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             const auto result = store.open();
             QCOMPARE(result.outcome, Store::Outcome::MovedAside);
             QVERIFY(!QFile::exists(path));
-            QCOMPARE(asideFiles(folder()).size(), 1);
-            QCOMPARE(readAll(result.movedTo), before);
+            QCOMPARE(asideFiles(storeFolder()).size(), 1);
+            QCOMPARE(readFile(result.movedTo), before);
             QVERIFY(result.message.contains(result.movedTo));
             if (!garbage.isEmpty())
-                QCOMPARE(readAll(result.movedTo + QStringLiteral("-wal")), QByteArray("log"));
+                QCOMPARE(readFile(result.movedTo + QStringLiteral("-wal")), QByteArray("log"));
         }
         // The next launch starts empty, and the moved file is still there.
-        Store next(folder(), m_clock);
+        Store next(storeFolder(), m_clock);
         QCOMPARE(next.open().outcome, Store::Outcome::Opened);
         QVERIFY(next.context().items().empty());
-        QCOMPARE(asideFiles(folder()).size(), 1);
+        QCOMPARE(asideFiles(storeFolder()).size(), 1);
     }
 
     // Only a file that positively is not ours is moved; one that is busy, read-only or lacks
@@ -328,26 +320,26 @@ private Q_SLOTS:
     void aStoreThatIsOnlyInTheWayIsNeverMoved()
     {
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             QCOMPARE(store.open().outcome, Store::Outcome::Opened);
             store.context().insertItem()->setTitle(QStringLiteral("Keep me"));
             QVERIFY(store.context().save());
         }
-        const QString path = QDir(folder()).filePath(QStringLiteral("Lullet.sqlite"));
+        const QString path = storeFile();
         {
             // Another program holds the file to itself.
             Db holder(path);
             QVERIFY(holder.exec("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE;"));
-            Store store(folder(), m_clock, 300);
+            Store store(storeFolder(), m_clock, 300);
             const auto result = store.open();
             QCOMPARE(result.outcome, Store::Outcome::InUse);
             QVERIFY2(result.message.contains(QStringLiteral("in use")), qPrintable(result.message));
             QVERIFY(!result.message.contains(QStringLiteral("not an error")));
-            QVERIFY(asideFiles(folder()).isEmpty());
+            QVERIFY(asideFiles(storeFolder()).isEmpty());
         }
         QFile::setPermissions(path, QFileDevice::ReadOwner);
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             const auto result = store.open();
             QCOMPARE(result.outcome, Store::Outcome::ReadOnly);
             QVERIFY(result.message.contains(path));
@@ -358,24 +350,47 @@ private Q_SLOTS:
             QVERIFY(db.exec("DROP TABLE Project"));
         }
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             const auto result = store.open();
             QCOMPARE(result.outcome, Store::Outcome::MissingTables);
             QVERIFY(result.message.contains(path));
             QVERIFY(!result.message.contains(QStringLiteral("not an error")));
         }
-        QVERIFY(asideFiles(folder()).isEmpty());
+        QVERIFY(asideFiles(storeFolder()).isEmpty());
         Db db(path, true);
         QCOMPARE(db.queryInt("SELECT count(*) FROM ReminderInfo").value_or(-1), 1);
+    }
+
+    void impossibleValuesOnDiskReadAsMissing()
+    {
+        {
+            Store store(storeFolder(), m_clock);
+            QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        }
+        {
+            // Another writer, without our foreign-key checks.
+            Db db(storeFile());
+            QVERIFY(db.exec(
+                "INSERT INTO ReminderInfo (title, dtReminder, dtReminderPostponed, durationHr, "
+                "hasFinished, toProject) VALUES (NULL, 1e300, 'yesterday', 99999999999, 'x', 42)"));
+        }
+        Store store(storeFolder(), m_clock);
+        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
+        QCOMPARE(store.context().items().size(), std::size_t(1));
+        const Item* item = store.context().items().front();
+        QVERIFY(!item->title());
+        QVERIFY(!item->dtReminder());
+        QVERIFY(!item->durationHr());
+        QVERIFY(!item->toProject());
     }
 
     // A disk without room is said as such, at a save and at a launch, and nothing is moved or
     // lost: the change waits for room, and the store opens once there is some.
     void aFullDiskIsSaidAsSuch()
     {
-        lullet::test::FullDisk disk;
+        FullDisk disk;
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             QCOMPARE(store.open().outcome, Store::Outcome::Opened);
             store.context().insertItem()->setTitle(QStringLiteral("Kept"));
             QVERIFY(store.context().save());
@@ -389,16 +404,16 @@ private Q_SLOTS:
             QVERIFY(store.context().save());
         }
         disk.fill();
-        for (const QString& where : {folder(), m_dir.filePath(QStringLiteral("first"))}) {
+        for (const QString& where : {storeFolder(), path(QStringLiteral("first"))}) {
             Store store(where, m_clock);
             const Store::Result result = store.open();
             QCOMPARE(result.outcome, Store::Outcome::DiskFull);
             QVERIFY2(result.message.contains(QStringLiteral("is full")),
                      qPrintable(result.message));
         }
-        QVERIFY(asideFiles(folder()).isEmpty());
+        QVERIFY(asideFiles(storeFolder()).isEmpty());
         disk.empty();
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         QCOMPARE(store.context().items().size(), std::size_t(2));
     }
@@ -408,13 +423,13 @@ private Q_SLOTS:
     void aJournalLeftByAStopIsRolledBack()
     {
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             QCOMPARE(store.open().outcome, Store::Outcome::Opened);
             store.context().insertItem()->setTitle(QStringLiteral("Kept"));
             QVERIFY(store.context().save());
         }
-        leaveHotJournal(QDir(folder()).filePath(QStringLiteral("Lullet.sqlite")));
-        Store store(folder(), m_clock);
+        leaveHotJournal(storeFile());
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         QCOMPARE(store.context().items().size(), std::size_t(1));
         QCOMPARE(store.db().queryText("PRAGMA integrity_check"), QStringLiteral("ok"));
@@ -430,18 +445,18 @@ private Q_SLOTS:
                 list << item->title().value_or(QString());
             return list;
         };
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         QCOMPARE(store.open().outcome, Store::Outcome::Opened);
         store.context().insertItem()->setTitle(QStringLiteral("Old"));
         QVERIFY(store.context().save());
-        const QString incoming = m_dir.filePath(QStringLiteral("incoming.sqlite"));
+        const QString incoming = path(QStringLiteral("incoming.sqlite"));
         {
-            Store other(m_dir.filePath(QStringLiteral("other")), m_clock);
+            Store other(path(QStringLiteral("other")), m_clock);
             QCOMPARE(other.open().outcome, Store::Outcome::Opened);
             other.context().insertItem()->setTitle(QStringLiteral("New"));
             QVERIFY(other.context().save());
         }
-        QVERIFY(QFile::copy(m_dir.filePath(QStringLiteral("other/Lullet.sqlite")), incoming));
+        QVERIFY(QFile::copy(path(QStringLiteral("other/Lullet.sqlite")), incoming));
 
         // Garbage in place of a checked copy fails to open: the old store is put back.
         writeFile(store.preparedPath(), "not a store");
@@ -470,12 +485,12 @@ private Q_SLOTS:
     void aRestoreStoppedMidwayIsUndoneAtLaunch()
     {
         {
-            Store store(folder(), m_clock);
+            Store store(storeFolder(), m_clock);
             QCOMPARE(store.open().outcome, Store::Outcome::Opened);
             store.context().insertItem()->setTitle(QStringLiteral("Before"));
             QVERIFY(store.context().save());
         }
-        Store store(folder(), m_clock);
+        Store store(storeFolder(), m_clock);
         // Set aside, and the copy to come in not yet in place.
         QVERIFY(QFile::rename(store.storePath(), store.keptPath()));
         writeFile(store.preparedPath(), "half a copy");
@@ -485,60 +500,6 @@ private Q_SLOTS:
         QCOMPARE(store.context().items().size(), std::size_t(1));
         QVERIFY(!QFile::exists(store.keptPath()));
         QVERIFY(!QFile::exists(store.preparedPath()));
-    }
-
-    void theFilesAreTheUsersAlone()
-    {
-        Store store(folder(), m_clock);
-        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
-        store.context().insertItem();
-        QVERIFY(store.context().save());
-        QCOMPARE(QFileInfo(folder()).permissions() & 0x7077,
-                 QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                          QFileDevice::ExeOwner));
-        for (const char* name : {"Lullet.sqlite", "Lullet.sqlite-wal", "Lullet.sqlite-shm"})
-            QCOMPARE(QFileInfo(QDir(folder()).filePath(QString::fromLatin1(name))).permissions() &
-                         0x7077,
-                     QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner));
-    }
-
-    void impossibleValuesOnDiskReadAsMissing()
-    {
-        {
-            Store store(folder(), m_clock);
-            QCOMPARE(store.open().outcome, Store::Outcome::Opened);
-        }
-        {
-            // Another writer, without our foreign-key checks.
-            Db db(QDir(folder()).filePath(QStringLiteral("Lullet.sqlite")));
-            QVERIFY(db.exec(
-                "INSERT INTO ReminderInfo (title, dtReminder, dtReminderPostponed, durationHr, "
-                "hasFinished, toProject) VALUES (NULL, 1e300, 'yesterday', 99999999999, 'x', 42)"));
-        }
-        Store store(folder(), m_clock);
-        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
-        QCOMPARE(store.context().items().size(), std::size_t(1));
-        const Item* item = store.context().items().front();
-        QVERIFY(!item->title());
-        QVERIFY(!item->dtReminder());
-        QVERIFY(!item->durationHr());
-        QVERIFY(!item->toProject());
-    }
-
-    void resetDetachesRecordsAndReloads()
-    {
-        Store store(folder(), m_clock);
-        QCOMPARE(store.open().outcome, Store::Outcome::Opened);
-        ObjectContext& ctx = store.context();
-        Item* item = ctx.insertItem();
-        item->setTitle(QStringLiteral("Stretch"));
-        QVERIFY(ctx.save());
-        ctx.reset();
-        QVERIFY(!item->hasContext());
-        QCOMPARE(*item->title(), QStringLiteral("Stretch"));
-        QCOMPARE(ctx.items().size(), std::size_t(1));
-        QVERIFY(ctx.items().front() != item);
-        QCOMPARE(*ctx.items().front()->title(), QStringLiteral("Stretch"));
     }
 };
 

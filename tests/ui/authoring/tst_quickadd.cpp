@@ -1,60 +1,32 @@
-#include "core/dates/CalendarContext.h"
 #include "core/presentation/ProjectChoices.h"
 #include "core/presentation/QuickAddForm.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/DesktopTest.h"
 #include "ui/authoring/DateChooser.h"
 #include "ui/authoring/QuickAddView.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTimeEdit>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
-class TestQuickAdd : public QObject {
+class TestQuickAdd : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 15, 30); }
 
-    Launched& app() { return *m_app; }
-    QuickAddForm form() { return QuickAddForm(m_app->clock, app().library()); }
+    QuickAddForm form() { return QuickAddForm(clock(), library()); }
 
 private Q_SLOTS:
-    void initTestCase() { init(); }
-
-    void init()
-    {
-        lullet::test::useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 15, 30));
-        QVERIFY(app().open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     void aTaskIsDueTenMinutesAfterTheFormOpened()
     {
         QuickAddForm quick = form();
         QCOMPARE(quick.dateLabel(), QStringLiteral("23 Nov 2026"));
         QVERIFY(quick.timeLabel().startsWith(QStringLiteral("at 10:25")));
-        QCOMPARE(ProjectChoices(app().library(), QStringLiteral("No Project")).titles(),
+        QCOMPARE(ProjectChoices(library(), QStringLiteral("No Project")).titles(),
                  QStringList{QStringLiteral("No Project")});
-        QCOMPARE(QuickAddForm::durationChoices().size(), 14);
-        m_app->clock.advance(120);
+        clock().advance(120);
         QVERIFY(!quick.add(QStringLiteral("  "), nullptr));
         Item* item = quick.add(QStringLiteral("buy milk"), nullptr);
         QVERIFY(item);
@@ -65,20 +37,18 @@ private Q_SLOTS:
         QCOMPARE(*item->durationMin(), 0);
         QVERIFY(!item->toProject());
         QVERIFY(!app().context().hasChanges());
-        QCOMPARE(app().library().items().size(), std::size_t(1));
+        QCOMPARE(library().items().size(), std::size_t(1));
     }
 
     void noDateAndAProject()
     {
-        Project* home = app().library().newProject();
-        home->setName(QStringLiteral("Home"));
-        app().library().addProject(home);
-        QCOMPARE(ProjectChoices(app().library(), QStringLiteral("No Project")).indexOf(home), 1);
+        Project* home = app().addProject(QStringLiteral("Home"));
+        QCOMPARE(ProjectChoices(library(), QStringLiteral("No Project")).indexOf(home), 1);
         QuickAddForm quick = form();
         quick.setDate(std::nullopt);
         QCOMPARE(quick.dateLabel() + u' ' + quick.timeLabel(), QStringLiteral("No date"));
         QCOMPARE(quick.chooserStart(), at(2026, 11, 23, 10, 25, 30));
-        QSignalSpy contentChanged(&app().library(), &Library::projectContentChanged);
+        QSignalSpy contentChanged(&library(), &Library::projectContentChanged);
         Item* item = quick.add(QStringLiteral("Fix the tap"), home);
         QVERIFY(!item->dtReminder());
         QVERIFY(!*item->shouldRemind());
@@ -88,34 +58,31 @@ private Q_SLOTS:
 
     void eachFormTakesOnlyItsOwnDates()
     {
-        QuickAddView window(app().services());
-        QuickAddView bar(app().services());
+        QuickAddView window(services());
+        QuickAddView bar(services());
         QSignalSpy added(&window, &QuickAddView::added);
-        window.findChild<QPushButton*>(QStringLiteral("chooseDate"))->click();
-        auto* chooser = window.findChild<DateChooser*>();
-        QVERIFY(chooser);
+        child<QPushButton>(&window, "chooseDate")->click();
+        auto* chooser = child<DateChooser>(&window);
         Q_EMIT chooser->chosen(at(2026, 11, 24, 8, 0));
         QCOMPARE(*window.form().date(), at(2026, 11, 24, 8, 0));
         QCOMPARE(*bar.form().date(), at(2026, 11, 23, 10, 25, 30));
         window.nameField()->setText(QStringLiteral("call mum"));
-        window.findChild<QPushButton*>(QStringLiteral("add"))->click();
+        child<QPushButton>(&window, "add")->click();
         QCOMPARE(added.count(), 1);
-        QCOMPARE(*app().library().items().front()->dtReminder(), at(2026, 11, 24, 8, 0));
+        QCOMPARE(*library().items().front()->dtReminder(), at(2026, 11, 24, 8, 0));
     }
 
     void aFormUsedAfreshIsDueTenMinutesFromThen()
     {
-        Project* home = app().library().newProject();
-        home->setName(QStringLiteral("Home"));
-        app().library().addProject(home);
-        QuickAddView bar(app().services());
-        m_app->clock.advance(2 * 3600);
+        Project* home = app().addProject(QStringLiteral("Home"));
+        QuickAddView bar(services());
+        clock().advance(2 * 3600);
         bar.reset(home);
         bar.nameField()->setText(QStringLiteral("water plants"));
         // The duration chosen is the task's.
         bar.findChild<QComboBox*>(QStringLiteral("duration"))->setCurrentIndex(12);
         bar.add();
-        const Item* item = app().library().items().front();
+        const Item* item = library().items().front();
         QCOMPARE(*item->dtReminder(), at(2026, 11, 23, 12, 25, 30));
         QCOMPARE(item->toProject(), home);
         QCOMPARE(item->plannedSeconds(), 30 * 60);
@@ -124,19 +91,18 @@ private Q_SLOTS:
     // Digits typed into the time field set the time; Escape puts the quick add away.
     void theChooserTakesATypedTime()
     {
-        QuickAddView window(app().services());
+        QuickAddView window(services());
         window.show();
         QSignalSpy dismissed(&window, &QuickAddView::dismissed);
-        window.findChild<QPushButton*>(QStringLiteral("chooseDate"))->click();
-        auto* chooser = window.findChild<DateChooser*>();
-        QVERIFY(chooser);
-        auto* time = chooser->findChild<QTimeEdit*>(QStringLiteral("time"));
-        auto* field = time->findChild<QLineEdit*>();
+        child<QPushButton>(&window, "chooseDate")->click();
+        auto* chooser = child<DateChooser>(&window);
+        auto* time = child<QTimeEdit>(chooser, "time");
+        auto* field = child<QLineEdit>(time);
         QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(4, field->height() / 2));
         QCoreApplication::processEvents();
         QTest::keyClicks(time, QStringLiteral("0845"));
         QCOMPARE(time->time(), QTime(8, 45));
-        chooser->findChild<QPushButton*>(QStringLiteral("set"))->click();
+        child<QPushButton>(chooser, "set")->click();
         QCOMPARE(window.form().date()->hour(), 8);
         QCOMPARE(window.form().date()->minute(), 45);
         QTest::keyClick(window.nameField(), Qt::Key_Escape);

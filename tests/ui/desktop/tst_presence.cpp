@@ -1,5 +1,5 @@
 #include "core/settings/Settings.h"
-#include "support/TestMain.h"
+#include "support/FolderTest.h"
 #include "ui/desktop/Autostart.h"
 #include "ui/desktop/DesktopPresence.h"
 #include "ui/desktop/PlatformChoice.h"
@@ -9,19 +9,15 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <cstdlib>
 
 using namespace lullet;
+using namespace lullet::test;
 
 // How the program shows itself: the autostart entry, the taskbar and the tray icon.
-class TestPresence : public QObject {
+class TestPresence : public FolderTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-
-    QString path(const QString& name) const { return m_dir->filePath(name); }
-
     static void validate(const QString& entry)
     {
         const QString validator =
@@ -47,12 +43,10 @@ class TestPresence : public QObject {
     }
 
 private Q_SLOTS:
-    void init() { m_dir = std::make_unique<QTemporaryDir>(); }
-
     void cleanup()
     {
         ::unsetenv("XDG_CONFIG_HOME");
-        m_dir.reset();
+        FolderTest::cleanup();
     }
 
     // The entry lives below $XDG_CONFIG_HOME, or ~/.config when that is unset or relative.
@@ -93,9 +87,7 @@ private Q_SLOTS:
     // A folder that can't be made is said, and the switch stays off.
     void anEntryThatCantBeWrittenIsSaid()
     {
-        QFile blocker(path(QStringLiteral("config")));
-        QVERIFY(blocker.open(QIODevice::WriteOnly));
-        blocker.close();
+        writeFile(QStringLiteral("config"), {});
         Settings settings(path(QStringLiteral("Lullet.conf")));
         Autostart autostart(path(QStringLiteral("config/autostart/lullet.desktop")),
                             QStringLiteral("/usr/bin/lullet"));
@@ -179,18 +171,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("display");
         QTest::addColumn<QString>("platform");
         QTest::addColumn<QByteArray>("chosen");
-        QTest::newRow("X11") << ""
-                             << ":0"
-                             << "" << QByteArray();
-        QTest::newRow("Wayland with XWayland") << "wayland-0"
-                                               << ":0"
-                                               << "" << QByteArray("xcb");
-        QTest::newRow("Wayland alone") << "wayland-0"
-                                       << ""
-                                       << "" << QByteArray();
-        QTest::newRow("the user's choice") << "wayland-0"
-                                           << ":0"
-                                           << "wayland" << QByteArray();
+        QTest::newRow("X11") << QString() << QStringLiteral(":0") << QString() << QByteArray();
+        QTest::newRow("Wayland with XWayland")
+            << QStringLiteral("wayland-0") << QStringLiteral(":0") << QString()
+            << QByteArray("xcb");
+        QTest::newRow("Wayland alone")
+            << QStringLiteral("wayland-0") << QString() << QString() << QByteArray();
+        QTest::newRow("the user's choice") << QStringLiteral("wayland-0") << QStringLiteral(":0")
+                                           << QStringLiteral("wayland") << QByteArray();
     }
 
     void theSessionChoosesThePlatform()

@@ -1,11 +1,10 @@
-#include "support/TestMain.h"
+#include "support/FolderTest.h"
 #include "ui/desktop/SingleInstance.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cerrno>
@@ -48,35 +47,35 @@ bool letGo(int fd)
 } // namespace
 
 // One instance per user: the claim, the hand-over of requests, and what a stranger can't do.
-class TestSingleInstance : public QObject {
+class TestSingleInstance : public test::FolderTest {
     Q_OBJECT
-    QTemporaryDir m_dir;
+    QString runtime() const { return path(QStringLiteral("run")); }
 
-    QString folder() const { return m_dir.filePath(QStringLiteral("run")); }
+    // The runtime folder, the user's alone unless others are given rights to it too.
+    void makeRuntime(QFileDevice::Permissions others = {}) const
+    {
+        QVERIFY(QDir().mkpath(runtime()));
+        QFile::setPermissions(runtime(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                             QFileDevice::ExeOwner | others);
+    }
 
 private Q_SLOTS:
-    void init() { QDir(folder()).removeRecursively(); }
-
     void oneInstanceTakesTheRequestsOfTheNext()
     {
-        QVERIFY(QDir().mkpath(folder()));
-        QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                            QFileDevice::ExeOwner);
+        makeRuntime();
         // A file left where the socket belongs, as after a crash, is replaced.
-        QFile stale(QDir(folder()).filePath(QStringLiteral("lullet.socket")));
-        QVERIFY(stale.open(QIODevice::WriteOnly));
-        stale.close();
-        SingleInstance first(folder());
+        writeFile(QStringLiteral("run/lullet.socket"), {});
+        SingleInstance first(runtime());
         QCOMPARE(first.claim(), SingleInstance::Role::Primary);
         QSignalSpy requests(&first, &SingleInstance::requestReceived);
 
-        SingleInstance second(folder());
+        SingleInstance second(runtime());
         QCOMPARE(second.claim(), SingleInstance::Role::Secondary);
         QVERIFY(second.forward(QStringLiteral("quick-add")));
         QTRY_COMPARE(requests.count(), 1);
         QCOMPARE(requests.at(0).at(0).toString(), QStringLiteral("quick-add"));
         // The live instance's socket is still there for the next launch.
-        SingleInstance third(folder());
+        SingleInstance third(runtime());
         QCOMPARE(third.claim(), SingleInstance::Role::Secondary);
         QVERIFY(third.forward(QStringLiteral("show")));
         QTRY_COMPARE(requests.count(), 2);
@@ -85,21 +84,19 @@ private Q_SLOTS:
     // A relaunch waits for the instance before it to let go, and only so long.
     void aRelaunchWaitsForTheEndingInstance()
     {
-        QVERIFY(QDir().mkpath(folder()));
-        QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                            QFileDevice::ExeOwner);
-        const QByteArray lockPath = QFile::encodeName(folder() + QStringLiteral("/lullet.lock"));
+        makeRuntime();
+        const QByteArray lockPath = QFile::encodeName(runtime() + QStringLiteral("/lullet.lock"));
         const int ending = ::open(lockPath.constData(), O_RDWR | O_CREAT, 0600);
         QVERIFY(ending >= 0);
         QCOMPARE(::flock(ending, LOCK_EX | LOCK_NB), 0);
         using namespace std::chrono_literals;
-        SingleInstance impatient(folder());
+        SingleInstance impatient(runtime());
         QCOMPARE(impatient.claim(100ms), SingleInstance::Role::Secondary);
         std::thread quitting([ending] {
             std::this_thread::sleep_for(300ms);
             ::close(ending);
         });
-        SingleInstance relaunched(folder());
+        SingleInstance relaunched(runtime());
         const SingleInstance::Role role = relaunched.claim(10s);
         quitting.join();
         QCOMPARE(role, SingleInstance::Role::Primary);
@@ -107,7 +104,7 @@ private Q_SLOTS:
 
     void aClientThatNeverEndsItsLineIsCutOff()
     {
-        SingleInstance first(folder());
+        SingleInstance first(runtime());
         QCOMPARE(first.claim(), SingleInstance::Role::Primary);
         QSignalSpy requests(&first, &SingleInstance::requestReceived);
         const int fd = connectedTo(first.socketPath());
@@ -133,7 +130,7 @@ private Q_SLOTS:
     // that asked goes away: each request still comes once, in order.
     void aRequestMayOpenADialog()
     {
-        SingleInstance first(folder());
+        SingleInstance first(runtime());
         QCOMPARE(first.claim(), SingleInstance::Role::Primary);
         QStringList heard;
         connect(&first, &SingleInstance::requestReceived, this, [&heard](const QString& request) {
@@ -157,7 +154,7 @@ private Q_SLOTS:
     void silentClientsAreLetGo()
     {
         using namespace std::chrono_literals;
-        SingleInstance first(folder(), 500ms);
+        SingleInstance first(runtime(), 500ms);
         QCOMPARE(first.claim(), SingleInstance::Role::Primary);
         QSignalSpy requests(&first, &SingleInstance::requestReceived);
         std::vector<int> silent;
@@ -168,7 +165,7 @@ private Q_SLOTS:
         }
         QTRY_VERIFY(std::all_of(silent.begin(), silent.begin() + 4, letGo));
         QVERIFY(std::none_of(silent.begin() + 4, silent.end(), letGo));
-        QVERIFY(SingleInstance(folder()).forward(QStringLiteral("show")));
+        QVERIFY(SingleInstance(runtime()).forward(QStringLiteral("show")));
         QTRY_COMPARE(requests.count(), 1);
         QTRY_VERIFY(std::all_of(silent.begin(), silent.end(), letGo));
         for (const int fd : silent)
@@ -177,20 +174,17 @@ private Q_SLOTS:
 
     void aFolderOthersMayWriteIsRefused()
     {
-        QVERIFY(QDir().mkpath(folder()));
-        QFile::setPermissions(folder(), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                            QFileDevice::ExeOwner | QFileDevice::WriteOther |
-                                            QFileDevice::ReadOther | QFileDevice::ExeOther);
-        SingleInstance instance(folder());
+        makeRuntime(QFileDevice::WriteOther | QFileDevice::ReadOther | QFileDevice::ExeOther);
+        SingleInstance instance(runtime());
         QCOMPARE(instance.claim(), SingleInstance::Role::Failed);
-        QVERIFY(instance.errorMessage().contains(folder()));
+        QVERIFY(instance.errorMessage().contains(runtime()));
     }
 
     void aMissingFolderIsMadePrivate()
     {
-        SingleInstance instance(folder());
+        SingleInstance instance(runtime());
         QCOMPARE(instance.claim(), SingleInstance::Role::Primary);
-        QCOMPARE(QFileInfo(folder()).permissions() & 0x7077,
+        QCOMPARE(QFileInfo(runtime()).permissions() & 0x7077,
                  QFileDevice::Permissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner |
                                           QFileDevice::ExeOwner));
     }

@@ -1,61 +1,29 @@
-#include "core/settings/SettingsKeys.h"
-#include "support/LaunchedDesktop.h"
+#include "support/DesktopTest.h"
 #include "support/Shots.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 #include "ui/help/HelpWindow.h"
 #include "ui/help/Links.h"
 #include "ui/help/WelcomeSlides.h"
-#include "ui/shell/MainWindow.h"
-#include "ui/shell/Shell.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QUrlQuery>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
 // The welcome slides, the help window that shows them again, and the project's links.
-class TestHelp : public QObject {
+class TestHelp : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<LaunchedDesktop> m_app;
-
-    static QPushButton* button(QWidget* in, const char* name)
-    {
-        return in->findChild<QPushButton*>(QLatin1String(name));
-    }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
     QByteArray settingsFile() const
     {
-        m_app->settings.sync();
-        QFile file(m_app->settings.filePath());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        app().settings.sync();
+        return readFile(app().settings.filePath());
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
-        QVERIFY(m_app->open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     // Previous and Next come and go at the ends; Skip stays, named for leaving on the last.
     void theSlidesTurn()
     {
@@ -63,9 +31,9 @@ private Q_SLOTS:
         slides.resize(800, 600);
         slides.show();
         QSignalSpy skipped(&slides, &WelcomeSlides::skipped);
-        QPushButton* previous = button(&slides, "previous");
-        QPushButton* next = button(&slides, "next");
-        QPushButton* skip = button(&slides, "skip");
+        QPushButton* previous = child<QPushButton>(&slides, "previous");
+        QPushButton* next = child<QPushButton>(&slides, "next");
+        QPushButton* skip = child<QPushButton>(&slides, "skip");
         QVERIFY(!previous->isVisible());
         slides.previous();
         QCOMPARE(slides.index(), 0);
@@ -74,7 +42,9 @@ private Q_SLOTS:
             next->click();
             QCOMPARE(slides.index(), slide);
             QVERIFY(previous->isVisible());
-            QTest::qWait(600);
+            // The slide moves in by an animation: the picture waits for its end.
+            if (shotsWanted())
+                QTest::qWait(600);
             saveShot(&slides, QStringLiteral("welcome-%1").arg(slide + 1));
         }
         QVERIFY(!next->isVisible());
@@ -96,7 +66,7 @@ private Q_SLOTS:
     void theHelpWindowChangesNoSetting()
     {
         MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
+        Shell shell(services(), window, app().presence, app().notifier);
         shell.setLoaded();
         const QByteArray before = settingsFile();
         shell.showHelp();
@@ -104,8 +74,8 @@ private Q_SLOTS:
         QVERIFY(help && help->isVisible());
         shell.showHelp();
         QCOMPARE(shell.help(), help);
-        button(help, "next")->click();
-        button(help, "skip")->click();
+        child<QPushButton>(help, "next")->click();
+        child<QPushButton>(help, "skip")->click();
         QTRY_VERIFY(!shell.help());
         QVERIFY(window.isVisible());
         shell.showHelp();
@@ -119,10 +89,8 @@ private Q_SLOTS:
     // escaped.
     void theLinks()
     {
-        QCOMPARE(Links::terms().fragment(), QStringLiteral("terms"));
         QCOMPARE(Links::terms().adjusted(QUrl::RemoveFragment), Links::privacy());
         const QUrl email = Links::email();
-        QCOMPARE(email.scheme(), QStringLiteral("mailto"));
         QCOMPARE(QUrlQuery(email).queryItemValue(QStringLiteral("subject")),
                  QStringLiteral("Lullet"));
         QCOMPARE(Links::anchor(QUrl(QStringLiteral("https://a.example/?x=1&y=2")),

@@ -1,42 +1,26 @@
-#include "core/activity/ItemActions.h"
-#include "core/dates/CalendarContext.h"
-#include "core/model/RepeatCodes.h"
-#include "core/monitor/Monitor.h"
-#include "core/scheduling/Catalogue.h"
-#include "core/settings/Settings.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
+#include "support/DesktopTest.h"
 #include "support/Shots.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 #include "ui/main/ItemListModel.h"
 #include "ui/main/ItemListView.h"
 #include "ui/main/PostponePanel.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTableView>
-#include <QTemporaryDir>
 
 #include <algorithm>
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
 // The day's list on screen, driven through its rows.
-class TestListView : public QObject {
+class TestListView : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
-
-    Launched& app() { return *m_app; }
+    Date launchedAt() const override { return at(2026, 11, 25, 12, 0); }
 
     Item* item(const QString& title, std::optional<Date> due)
     {
@@ -69,27 +53,12 @@ class TestListView : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase() { lullet::test::useTestCalendar(); }
-
-    void init()
-    {
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 25, 12, 0));
-        QVERIFY(app().open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     void rowsStartStopAndGo()
     {
         Item* write = item(QStringLiteral("Write"), at(2026, 11, 25, 11, 0));
         Item* read = item(QStringLiteral("Read"), at(2026, 11, 25, 14, 0));
         item(QStringLiteral("Someday"), std::nullopt);
-        ItemListView view(app().services(), {}, true);
+        ItemListView view(services(), {}, true);
         view.show();
         QCOMPARE(view.model().rowCount(), 2);
         QCOMPARE(view.model().itemAt(0), write);
@@ -101,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(*write->timeLimit(), 900);
 
         // A tick shows the running row's progress without rebuilding the list.
-        m_app->clock.advance(1);
+        clock().advance(1);
         app().monitor().tick();
         QCOMPARE(view.model().rowCount(), 2);
 
@@ -127,7 +96,7 @@ private Q_SLOTS:
     {
         Item* write = item(QStringLiteral("Write"), at(2026, 11, 25, 11, 0));
         item(QStringLiteral("Read"), at(2026, 11, 25, 14, 0));
-        ItemListView view(app().services(), {}, true);
+        ItemListView view(services(), {}, true);
         view.show();
         QTableView* table = view.table();
         QVERIFY(table->focusPolicy() & Qt::TabFocus);
@@ -157,27 +126,20 @@ private Q_SLOTS:
         }
         constexpr int rules = 40;
         for (int i = 0; i < rules; ++i) {
-            Rule* rule = app().library().newRule();
-            rule->setUniqueId(QStringLiteral("Rule %1_1795000000.5").arg(i));
-            rule->setTitle(QStringLiteral("Rule %1").arg(i));
-            rule->setRepeatIntervalType(RepeatUnit::Hour);
-            rule->setRepeatInterval(1);
-            rule->setRepeatOption(RepeatEnd::never);
-            rule->setDtReminder(at(2026, 11, 20, 9, i));
-            rule->setIsCustom(true);
+            Rule* rule = app().addRule(QStringLiteral("Rule %1").arg(i), RepeatUnit::Hour, 1,
+                                       at(2026, 11, 20, 9, i));
             rule->setIsToDoOrJob(false);
-            rule->setIsActive(true);
             rule->setDurationMin(5);
         }
-        ItemListView view(app().services(), {}, true);
+        ItemListView view(services(), {}, true);
         view.show();
         QSignalSpy resets(&view.model(), &QAbstractItemModel::modelReset);
-        app().services().catalogue.rebuild();
+        services().catalogue.rebuild();
         QCoreApplication::processEvents();
         QCOMPARE(resets.count(), 1);
         QCOMPARE(view.model().rowCount(), rules);
         // The shared list is in order once the batch is over: open items first, by date.
-        const std::vector<Item*>& all = app().library().items();
+        const std::vector<Item*>& all = library().items();
         QVERIFY(std::is_sorted(all.begin(), all.begin() + rules, [](const Item* a, const Item* b) {
             return *a->effectiveDate() < *b->effectiveDate();
         }));
@@ -189,7 +151,7 @@ private Q_SLOTS:
     {
         Item* done = item(QStringLiteral("Read"), at(2026, 11, 24, 10, 0));
         done->setHasFinished(true);
-        ItemListView view(app().services(), {Segment::Completed, nullptr, false}, true);
+        ItemListView view(services(), {Segment::Completed, nullptr, false}, true);
         QCOMPARE(view.model().rowCount(), 2);
         QCOMPARE(view.model().flags(view.model().index(0, ItemListModel::TitleColumn)),
                  Qt::ItemIsEnabled);
@@ -201,20 +163,16 @@ private Q_SLOTS:
     // "Move to" takes the row out of the project's list at once, and the counts follow.
     void aMovedItemLeavesItsProjectList()
     {
-        Project* home = app().library().newProject();
-        home->setName(QStringLiteral("Home"));
-        app().library().addProject(home);
-        Project* work = app().library().newProject();
-        work->setName(QStringLiteral("Work"));
-        app().library().addProject(work);
+        Project* home = app().addProject(QStringLiteral("Home"));
+        Project* work = app().addProject(QStringLiteral("Work"));
         Item* task = item(QStringLiteral("Paint"), at(2026, 11, 25, 14, 0));
         task->setToProject(home);
-        ItemListView homeList(app().services(), {Segment::Project, home, false}, true);
-        ItemListView workList(app().services(), {Segment::Project, work, false}, true);
+        ItemListView homeList(services(), {Segment::Project, home, false}, true);
+        ItemListView workList(services(), {Segment::Project, work, false}, true);
         QVERIFY(homeList.model().rowOf(task) >= 0);
         QCOMPARE(workList.model().rowOf(task), -1);
 
-        app().services().itemActions.moveToProject(*task, work);
+        services().itemActions.moveToProject(*task, work);
         QCOMPARE(homeList.model().rowOf(task), -1);
         QVERIFY(workList.model().rowOf(task) >= 0);
     }
@@ -222,7 +180,7 @@ private Q_SLOTS:
     // The idle question can be switched off from the list; switched on, it asks at once.
     void theIdleQuestionsSwitch()
     {
-        ItemListView view(app().services(), {}, true);
+        ItemListView view(services(), {}, true);
         auto* ask = view.findChild<QCheckBox*>(QStringLiteral("askWhenIdle"));
         QVERIFY(ask && ask->isChecked());
         QSignalSpy asked(&app().monitor(), &Monitor::idleQuestionDue);
@@ -241,7 +199,7 @@ private Q_SLOTS:
     void aRunningItemCannotBeRescheduledFromItsMenu()
     {
         Item* running = item(QStringLiteral("Busy"), at(2026, 11, 25, 11, 0));
-        ItemListView view(app().services(), {}, true);
+        ItemListView view(services(), {}, true);
         view.startOrStop(running);
         std::unique_ptr<QMenu> menu(view.buildMenu(running));
         QVERIFY(!action(menu.get(), QStringLiteral("Postpone")));
@@ -259,9 +217,9 @@ private Q_SLOTS:
 
     void thePostponePanel()
     {
-        m_app->clock.set(at(2026, 11, 25, 20, 0));
+        clock().set(at(2026, 11, 25, 20, 0));
         Item* task = item(QStringLiteral("Plan"), at(2026, 11, 25, 21, 0));
-        auto* panel = new PostponePanel(app().services(), task);
+        auto* panel = new PostponePanel(services(), task);
         QPointer<PostponePanel> alive(panel);
         panel->popUpAt(QPoint(100, 100));
         saveShot(panel, QStringLiteral("postpone-panel"));
@@ -271,14 +229,12 @@ private Q_SLOTS:
         const auto time = [](Date d) { return d.toString(DateStyle::None, DateStyle::Short); };
         QCOMPARE(evening->text(),
                  QStringLiteral("Tomorrow eve\nThu 26 Nov ") + time(at(2026, 11, 26, 19, 0)));
-        QCOMPARE(panel->findChild<QPushButton*>(QStringLiteral("choice4"))->text(),
+        QCOMPARE(child<QPushButton>(panel, "choice4")->text(),
                  QStringLiteral("Friday\nFri 27 Nov ") + time(at(2026, 11, 27, 9, 0)));
-        QCOMPARE(panel->findChild<QPushButton*>(QStringLiteral("choice7"))->text(),
-                 QStringLiteral("No date"));
-        QCOMPARE(panel->findChild<QLabel*>(QStringLiteral("postponeTitle"))->text(),
-                 QStringLiteral("Postpone Plan"));
+        QCOMPARE(child<QPushButton>(panel, "choice7")->text(), QStringLiteral("No date"));
+        QCOMPARE(child<QLabel>(panel, "postponeTitle")->text(), QStringLiteral("Postpone Plan"));
         // A free date keeps the panel open; a named choice closes it.
-        panel->findChild<QPushButton*>(QStringLiteral("choice9"))->click();
+        child<QPushButton>(panel, "choice9")->click();
         QVERIFY(panel->findChild<QDateTimeEdit*>()->isVisible());
         panel->postponeToChosenDate();
         QVERIFY(alive);
@@ -287,7 +243,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!alive);
 
         // Escape closes it, nothing changed.
-        auto* again = new PostponePanel(app().services(), task);
+        auto* again = new PostponePanel(services(), task);
         QPointer<PostponePanel> open(again);
         again->popUpAt(QPoint(100, 100));
         QTest::keyClick(again, Qt::Key_Escape);

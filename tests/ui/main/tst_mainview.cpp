@@ -1,11 +1,5 @@
-#include "core/activity/ItemActions.h"
-#include "core/activity/ProjectActions.h"
-#include "core/dates/CalendarContext.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
+#include "support/DesktopTest.h"
 #include "support/Shots.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 #include "ui/authoring/DateChooser.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/authoring/RuleFormView.h"
@@ -16,16 +10,13 @@
 #include "ui/main/MainView.h"
 #include "ui/main/SidebarView.h"
 #include "ui/main/ViewSwitcher.h"
-#include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
 #include "ui/shell/WindowContent.h"
 #include "ui/widgets/BarChart.h"
 #include "ui/widgets/CircularProgress.h"
-#include "ui/widgets/Dialogs.h"
 #include "ui/widgets/ElidedLabel.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QItemSelectionModel>
@@ -34,46 +25,37 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
 // The main window's content: every segment walked, a project added, a search.
-class TestMainView : public QObject {
+class TestMainView : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    Date launchedAt() const override { return at(2026, 11, 25, 12, 0); }
+    Open openedAs() const override { return Open::BeforeWelcome; }
 
-    Launched& app() { return *m_app; }
-
-private Q_SLOTS:
-    void initTestCase() { lullet::test::useTestCalendar(); }
-
-    void init()
+    static ItemListView* shownList(MainView& view)
     {
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 25, 12, 0));
-        QVERIFY(app().open(false));
-        app().addItem(QStringLiteral("Walk the dog"), at(2026, 11, 25, 18, 0));
+        auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
+        if (!list)
+            qFatal("The view shows no list");
+        return list;
     }
 
-    void cleanup()
+private Q_SLOTS:
+    void init()
     {
-        m_app.reset();
-        m_dir.reset();
+        DesktopTest::init();
+        app().addItem(QStringLiteral("Walk the dog"), at(2026, 11, 25, 18, 0));
     }
 
     void everySegmentShowsItsView()
     {
-        MainView view(app().services());
+        MainView view(services());
         view.resize(900, 600);
         view.show();
         QCOMPARE(*view.switcher().current(), View::LulletList);
@@ -92,65 +74,65 @@ private Q_SLOTS:
         // The separator can't be chosen.
         view.sidebar().list()->setCurrentRow(6);
         QCOMPARE(view.shownSegment(), Segment::Completed);
-    }
 
-    // Counts stay true while nothing runs: at midnight tomorrow's task joins Today.
-    void theCountsFollowTheClock()
-    {
+        // Counts stay true while nothing runs: at midnight tomorrow's task joins Today.
         app().addItem(QStringLiteral("Plant the bulbs"), at(2026, 11, 26, 9, 0));
-        MainView view(app().services());
-        m_app->clock.set(at(2026, 11, 25, 23, 59, 0));
+        QCoreApplication::processEvents();
+        clock().set(at(2026, 11, 25, 23, 59, 0));
         QCOMPARE(view.sidebar().rows()[2].count, std::optional<int>(1));
-        m_app->runUntil(at(2026, 11, 26, 0, 0, 1));
+        app().runUntil(at(2026, 11, 26, 0, 0, 1));
         QCoreApplication::processEvents();
         QCOMPARE(view.sidebar().rows()[2].count, std::optional<int>(2));
     }
 
     void upcomingGivesWayToTodayWhenAnItemStarts()
     {
-        MainView view(app().services());
+        MainView view(services());
         view.showSegment(Segment::Upcoming);
         QCOMPARE(*view.switcher().current(), View::CustomList);
-        app().services().itemActions.start(*app().library().items().front());
+        services().itemActions.start(*library().items().front());
         QTRY_COMPARE(view.shownSegment(), Segment::Today);
         QTRY_COMPARE(*view.switcher().current(), View::LulletList);
     }
 
     void theWelcomeLeadsToTheMainView()
     {
-        WindowContent container(app().services());
+        WindowContent container(services());
         QVERIFY(container.showsWelcome());
         QVERIFY(!container.findChild<MainView*>());
         QSignalSpy proceeded(&container, &WindowContent::proceededFromWelcome);
-        container.findChild<QPushButton*>(QStringLiteral("skip"))->click();
+        child<QPushButton>(&container, "skip")->click();
         QCOMPARE(proceeded.count(), 1);
-        QVERIFY(m_app->settings.welcomeDone());
-        QCOMPARE(m_app->settings.integer(SettingsKeys::introPageShown), 1);
+        QVERIFY(app().settings.welcomeDone());
+        QCOMPARE(app().settings.integer(SettingsKeys::introPageShown), 1);
         QVERIFY(container.findChild<MainView*>());
         // With the welcome done, the idle question may come at once.
         QCoreApplication::processEvents();
-        QCOMPARE(m_app->prompts.kinds(), QStringList{QStringLiteral("idle")});
+        QCOMPARE(app().prompts.kinds(), QStringList{QStringLiteral("idle")});
         // Next time the main view comes first.
-        WindowContent again(app().services());
+        WindowContent again(services());
         QVERIFY(!again.showsWelcome());
     }
 
+    // The add button opens the quick-add bar and Escape closes it; asked for again while open,
+    // it adds the task typed.
     void theQuickAddBarAndWhereTheTaskShows()
     {
-        MainView view(app().services());
+        MainView view(services());
         view.show();
         QVERIFY(!view.quickAddBar()->isVisible());
-        view.showQuickAddBar();
+        child<QToolButton>(&view, "addTask")->click();
         QVERIFY(view.quickAddBar()->isVisible());
+        QTest::keyClick(view.quickAddBar()->nameField(), Qt::Key_Escape);
+        QVERIFY(!view.quickAddBar()->isVisible());
+        view.showQuickAddBar();
         // Without a date the task belongs to "Anytime", where the view moves.
-        view.quickAddBar()->findChild<QPushButton*>(QStringLiteral("chooseDate"))->click();
-        auto* chooser = view.quickAddBar()->findChild<DateChooser*>();
-        QVERIFY(chooser);
-        Q_EMIT chooser->unset();
+        child<QPushButton>(view.quickAddBar(), "chooseDate")->click();
+        Q_EMIT child<DateChooser>(view.quickAddBar())->unset();
         view.quickAddBar()->nameField()->setText(QStringLiteral("read a book"));
         view.showQuickAddBar();
         QVERIFY(!view.quickAddBar()->isVisible());
-        QCOMPARE(*app().library().items().back()->title(), QStringLiteral("Read a book"));
+        QCOMPARE(*library().items().back()->title(), QStringLiteral("Read a book"));
         QTRY_COMPARE(view.shownSegment(), Segment::Anytime);
         QTRY_COMPARE(view.sidebar().list()->currentRow(), 4);
         // Added from "Completed", where it does not belong, it is shown where it does.
@@ -161,29 +143,22 @@ private Q_SLOTS:
         QTRY_COMPARE(view.shownSegment(), Segment::Today);
     }
 
-    void aNewProjectIsSelectedAndListed()
+    // A new project is selected and listed, then renamed, duplicated and deleted.
+    void projectsAreAddedRenamedDuplicatedAndDeleted()
     {
-        MainView view(app().services());
-        auto* field = view.findChild<QLineEdit*>(QStringLiteral("newProject"));
-        field->setText(QStringLiteral("garden"));
+        MainView view(services());
+        auto* field = child<QLineEdit>(&view, "newProject");
+        field->setText(QStringLiteral("home"));
         QTest::keyClick(field, Qt::Key_Return);
         QCOMPARE(view.shownSegment(), Segment::Project);
         QVERIFY(view.shownProject());
-        QCOMPARE(*view.shownProject()->name(), QStringLiteral("Garden"));
+        QCOMPARE(*view.shownProject()->name(), QStringLiteral("Home"));
         QCOMPARE(*view.switcher().current(), View::ProjectList);
-        QCOMPARE(view.sidebar().rows().back().name, QStringLiteral("Garden"));
+        QCOMPARE(view.sidebar().rows().back().name, QStringLiteral("Home"));
         QVERIFY(field->text().isEmpty());
-    }
-
-    void projectsAreRenamedDuplicatedAndDeleted()
-    {
-        MainView view(app().services());
-        auto* field = view.findChild<QLineEdit*>(QStringLiteral("newProject"));
-        for (const char* name : {"Home", "Work"}) {
-            field->setText(QString::fromLatin1(name));
-            QTest::keyClick(field, Qt::Key_Return);
-        }
-        Project* home = app().library().projects().front();
+        field->setText(QStringLiteral("Work"));
+        QTest::keyClick(field, Qt::Key_Return);
+        Project* home = library().projects().front();
         view.show();
         // The counts refresh while the user types, as they do each minute: the name typed is
         // what the project gets, and Escape leaves the name as it was.
@@ -215,13 +190,18 @@ private Q_SLOTS:
         QCOMPARE(view.sidebar().rows().size(), std::size_t(9));
     }
 
+    // Escape clears the search; a result leads to its list.
     void aSearchResultLeadsToItsList()
     {
-        MainView view(app().services());
-        auto* search = view.findChild<QLineEdit*>(QStringLiteral("searchField"));
+        MainView view(services());
+        auto* search = child<QLineEdit>(&view, "searchField");
         // The view opens on the sidebar, not with a cursor in the search field.
         view.show();
         QCOMPARE(view.focusWidget(), view.sidebar().list());
+        search->setFocus();
+        QTest::keyClicks(search, QStringLiteral("dog"));
+        QTest::keyClick(search, Qt::Key_Escape);
+        QVERIFY(search->text().isEmpty());
         search->setText(QStringLiteral("today, walk"));
         QStringList shown;
         for (int i = 0; i < view.sidebar().list()->count(); ++i)
@@ -240,8 +220,7 @@ private Q_SLOTS:
         QCOMPARE(rows->currentRow(), int(Segment::Today));
         QCOMPARE(rows->selectedItems(), QList<QListWidgetItem*>{rows->item(int(Segment::Today))});
         // The list opens with the result selected, below the other task of the day.
-        auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        QVERIFY(list);
+        ItemListView* list = shownList(view);
         const QModelIndexList selected = list->table()->selectionModel()->selectedRows();
         QCOMPARE(selected.size(), 1);
         QCOMPARE(list->model().index(selected.front().row(), 1).data().toString(),
@@ -253,26 +232,22 @@ private Q_SLOTS:
     void theStartedOnlyFilter()
     {
         app().addItem(QStringLiteral("Call the vet"), at(2026, 11, 25, 17, 0))->setHasStarted(true);
-        MainView view(app().services());
+        MainView view(services());
         view.show();
-        auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        QVERIFY(list);
+        ItemListView* list = shownList(view);
         const int all = list->model().rowCount();
-        list->findChild<QCheckBox*>(QStringLiteral("showRunningOnly"))->click();
+        child<QCheckBox>(list, "showRunningOnly")->click();
         QCOMPARE(list->model().rowCount(), 1);
         QVERIFY(list->model().rowCount() < all);
-        QCOMPARE(list->findChild<QLabel*>(QStringLiteral("taskCount"))->text(),
-                 QStringLiteral("Tasks: 1"));
-        list->findChild<QCheckBox*>(QStringLiteral("showRunningOnly"))->click();
+        QCOMPARE(child<QLabel>(list, "taskCount")->text(), QStringLiteral("Tasks: 1"));
+        child<QCheckBox>(list, "showRunningOnly")->click();
         QCOMPARE(list->model().rowCount(), all);
 
         // An empty list has nothing to export, and says so.
         view.showSegment(Segment::Anytime);
-        auto* anytime = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        QMenu* exportMenu = anytime->findChild<QToolButton*>(QStringLiteral("export"))->menu();
+        QMenu* exportMenu = child<QToolButton>(shownList(view), "export")->menu();
         QCOMPARE(exportMenu->actions().size(), 3);
-        Dialogs::forgetAsked();
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Ok"));
         exportMenu->actions().at(1)->trigger();
         QCOMPARE(Dialogs::asked().size(), 1);
         QCOMPARE(Dialogs::asked().front().information,
@@ -282,7 +257,7 @@ private Q_SLOTS:
     // The dashboard counts what the store holds and follows a change at once.
     void theDashboardFollowsTheItems()
     {
-        MainView view(app().services());
+        MainView view(services());
         view.resize(900, 600);
         view.show();
         view.showSegment(Segment::Dashboard);
@@ -294,7 +269,7 @@ private Q_SLOTS:
         QCOMPARE(dashboard->circle(1)->progress(), 0.5);
         QCOMPARE(dashboard->projects()->topLevelItemCount(), 1);
         QCOMPARE(dashboard->projects()->topLevelItem(0)->text(0), QStringLiteral("Not in Project"));
-        app().library().announceItemChanged(
+        library().announceItemChanged(
             app().addItem(QStringLiteral("Plan the party"), at(2026, 12, 20, 18, 0)));
         QCOMPARE(dashboard->chart()->bars().at(11).value, 1.0);
         QCOMPARE(dashboard->projects()->topLevelItem(0)->text(1), QStringLiteral("2"));
@@ -305,21 +280,18 @@ private Q_SLOTS:
     // waiting and goes back to the project's list with the new task selected.
     void theAddTaskPanel()
     {
-        const Services& s = app().services();
-        Project* home = s.projectActions.addProject(QStringLiteral("Home")).project;
+        Project* home = app().addProject(QStringLiteral("Home"));
         Item* started = app().addItem(QStringLiteral("Paint the door"), at(2026, 11, 25, 9, 0));
         started->setToProject(home);
         started->setHasStarted(true);
         Item* waiting = app().addItem(QStringLiteral("Fix the tap"), at(2026, 11, 26, 9, 0));
         waiting->setToProject(home);
-        MainView view(s);
+        MainView view(services());
         view.resize(900, 600);
         view.show();
         view.showProjectNamed(QStringLiteral("Home"));
-        auto* projectList = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        QVERIFY(projectList);
-        projectList->select(waiting);
-        projectList->findChild<QAction*>(QStringLiteral("addTasks"))->trigger();
+        shownList(view)->select(waiting);
+        child<QAction>(shownList(view), "addTasks")->trigger();
         QTRY_COMPARE(*view.switcher().current(), View::AddTaskList);
         auto* panel = qobject_cast<AddTaskView*>(view.switcher().currentWidget());
         QCOMPARE(panel->list()->topLevelItemCount(), 1);
@@ -328,11 +300,10 @@ private Q_SLOTS:
 
         RuleFormView* form = panel->openForm(nullptr);
         QVERIFY(form->isVisible());
-        QVERIFY(!form->findChild<QComboBox*>(QStringLiteral("unit"))->isVisible());
-        form->findChild<QComboBox*>(QStringLiteral("name"))
-            ->setCurrentText(QStringLiteral("Buy bulbs"));
+        QVERIFY(!child<QComboBox>(form, "unit")->isVisible());
+        child<QComboBox>(form, "name")->setCurrentText(QStringLiteral("Buy bulbs"));
         saveShot(form, QStringLiteral("task-form"));
-        form->findChild<QPushButton*>(QStringLiteral("done"))->click();
+        child<QPushButton>(form, "done")->click();
         Item* bulbs = form->savedTask();
         QVERIFY(bulbs);
         QCOMPARE(bulbs->toProject(), home);
@@ -342,33 +313,29 @@ private Q_SLOTS:
         QCOMPARE(panel->list()->indexOfTopLevelItem(panel->list()->currentItem()), 0);
         saveShot(&view, QStringLiteral("add-task-panel"));
 
-        Dialogs::answerNext(1);
+        Dialogs::answerNext(QStringLiteral("No"));
         panel->deleteTask(waiting);
         QCOMPARE(panel->list()->topLevelItemCount(), 2);
-        panel->findChild<QPushButton*>(QStringLiteral("done"))->click();
+        child<QPushButton>(panel, "done")->click();
         QTRY_COMPARE(*view.switcher().current(), View::ProjectList);
-        projectList = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        const QModelIndexList selected = projectList->table()->selectionModel()->selectedRows();
+        const QModelIndexList selected = shownList(view)->table()->selectionModel()->selectedRows();
         QCOMPARE(selected.size(), 1);
-        QCOMPARE(projectList->model().rowOf(bulbs), selected.front().row());
+        QCOMPARE(shownList(view)->model().rowOf(bulbs), selected.front().row());
     }
 
     // At the default window size a project's header shows every count whole, the badge keeps
     // its size, and a long name gives way with its whole text in the tooltip.
     void theHeaderFitsAtTheDefaultSize()
     {
-        ProjectActions& projects = app().services().projectActions;
-        Project* club =
-            projects.addProject(QStringLiteral("Book club reading list for winter")).project;
-        QVERIFY(club);
+        Project* club = app().addProject(QStringLiteral("Book club reading list for winter"));
         Item* first = app().addItem(QStringLiteral("Choose books"), at(2026, 11, 25, 13, 0));
         Item* second = app().addItem(QStringLiteral("Send invites"), at(2026, 11, 25, 14, 0));
-        app().services().itemActions.moveToProject(*first, club);
-        app().services().itemActions.moveToProject(*second, club);
-        app().services().itemActions.finish(*first);
-        m_app->settings.setWelcomeDone();
+        services().itemActions.moveToProject(*first, club);
+        services().itemActions.moveToProject(*second, club);
+        services().itemActions.finish(*first);
+        app().settings.setWelcomeDone();
         MainWindow window;
-        auto* content = new WindowContent(app().services());
+        auto* content = new WindowContent(services());
         window.setCentralWidget(content);
         window.resize(600, 600);
         window.show();
@@ -376,8 +343,8 @@ private Q_SLOTS:
         MainView& view = *content->mainView();
         view.showProjectNamed(club->name().value_or(QString()));
         QCoreApplication::processEvents();
-        auto* list = qobject_cast<ItemListView*>(view.switcher().currentWidget());
-        QVERIFY(list && list->isVisible());
+        ItemListView* list = shownList(view);
+        QVERIFY(list->isVisible());
         const QRect inside = list->rect();
         for (const char* name :
              {"taskCount", "completedCount", "dueCount", "todayCount", "timeUsed", "status",
@@ -388,9 +355,8 @@ private Q_SLOTS:
             const QRect where(widget->mapTo(list, QPoint(0, 0)), widget->size());
             QVERIFY2(inside.contains(where), name);
         }
-        QCOMPARE(list->findChild<QLabel*>(QStringLiteral("completedCount"))->text(),
-                 QStringLiteral("Complete: 1"));
-        auto* name = list->findChild<ElidedLabel*>(QStringLiteral("listName"));
+        QCOMPARE(child<QLabel>(list, "completedCount")->text(), QStringLiteral("Complete: 1"));
+        auto* name = child<ElidedLabel>(list, "listName");
         QCOMPARE(name->text(), QStringLiteral("Book club reading list for winter"));
         if (name->isElided())
             QCOMPARE(name->toolTip(), name->text());
@@ -411,38 +377,21 @@ private Q_SLOTS:
         Item* done = app().addItem(QStringLiteral("Tea"), at(2026, 11, 25, 11, 0));
         done->setElapsedTime(29);
         done->setHasFinished(true);
-        MainView view(app().services());
+        MainView view(services());
         view.resize(900, 600);
         view.show();
-        RunningListView panel(app().services());
-        for (Item* item : app().library().items()) {
+        RunningListView panel(services());
+        for (Item* item : library().items()) {
             if (item->title() == QStringLiteral("Walk the dog"))
-                app().services().itemActions.start(*item);
+                services().itemActions.start(*item);
         }
-        m_app->runUntil(at(2026, 11, 25, 12, 0, 19));
+        app().runUntil(at(2026, 11, 25, 12, 0, 19));
         QCoreApplication::processEvents();
-        auto* clock = view.findChild<ElidedLabel*>(QStringLiteral("runningClock"));
-        QVERIFY(clock && clock->isVisible());
+        auto* clock = child<ElidedLabel>(&view, "runningClock");
+        QVERIFY(clock->isVisible());
         QCOMPARE(clock->text(), QStringLiteral("Running: Walk the dog  00:00:19"));
-        QVERIFY(panel.findChild<QLabel*>(QStringLiteral("runningNow")));
-        QCOMPARE(panel.findChild<QLabel*>(QStringLiteral("runningNow"))->text(),
+        QCOMPARE(child<QLabel>(&panel, "runningNow")->text(),
                  QStringLiteral("Walk the dog  00:00:19"));
-    }
-
-    // Escape clears the search; the add button opens the quick-add bar, Escape closes it.
-    void waysInAndOut()
-    {
-        MainView view(app().services());
-        view.show();
-        auto* search = view.findChild<QLineEdit*>(QStringLiteral("searchField"));
-        search->setFocus();
-        QTest::keyClicks(search, QStringLiteral("dog"));
-        QTest::keyClick(search, Qt::Key_Escape);
-        QVERIFY(search->text().isEmpty());
-        view.findChild<QToolButton*>(QStringLiteral("addTask"))->click();
-        QVERIFY(view.quickAddBar()->isVisible());
-        QTest::keyClick(view.quickAddBar()->nameField(), Qt::Key_Escape);
-        QVERIFY(!view.quickAddBar()->isVisible());
     }
 };
 

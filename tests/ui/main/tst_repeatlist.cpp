@@ -1,36 +1,22 @@
-#include "core/dates/CalendarContext.h"
-#include "core/library/Library.h"
-#include "core/scheduling/Catalogue.h"
-#include "support/DatePrinting.h"
-#include "support/Launched.h"
+#include "support/DesktopTest.h"
 #include "support/Shots.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 #include "ui/authoring/RuleFormView.h"
 #include "ui/main/RepeatListModel.h"
 #include "ui/main/RepeatListView.h"
 #include "ui/widgets/Balloon.h"
-#include "ui/widgets/Dialogs.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTableView>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
 // The "Lullets" segment on screen: switching suggestions on, the form, deleting.
-class TestRepeatList : public QObject {
+class TestRepeatList : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
-
-    Launched& app() { return *m_app; }
+    Date launchedAt() const override { return at(2026, 11, 23, 8, 0); }
 
     static int rowTitled(RepeatListModel& model, const QString& title)
     {
@@ -42,25 +28,9 @@ class TestRepeatList : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase() { lullet::test::useTestCalendar(); }
-
-    void init()
-    {
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 8, 0));
-        QVERIFY(app().open());
-        Dialogs::forgetAsked();
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     void aSuggestionIsSwitchedOnFromItsRow()
     {
-        RepeatListView view(app().services());
+        RepeatListView view(services());
         view.resize(760, 600);
         view.show();
         RepeatListModel& model = view.model();
@@ -76,28 +46,29 @@ private Q_SLOTS:
         QCOMPARE(model.index(row, 0).data(Qt::CheckStateRole).value<Qt::CheckState>(), Qt::Checked);
         Rule* rule = model.rowAt(row)->representedObject;
         QVERIFY(rule && *rule->isActive());
-        QCOMPARE(app().library().items().size(), std::size_t(1));
+        QCOMPARE(library().items().size(), std::size_t(1));
         QVERIFY(!model.index(row, RepeatListModel::NextColumn).data().toString().isEmpty());
         saveShot(&view, QStringLiteral("repeat-list"));
 
         QVERIFY(model.setData(model.index(row, 0), Qt::Unchecked, Qt::CheckStateRole));
         QVERIFY(!*rule->isActive());
-        QVERIFY(app().library().items().empty());
+        QVERIFY(library().items().empty());
     }
 
-    void theFormMakesAndEditsARule()
+    // The form makes and edits a rule; only a custom rule can be deleted, from its menu.
+    void theFormMakesEditsAndDeletesARule()
     {
-        RepeatListView view(app().services());
+        RepeatListView view(services());
         view.show();
         RuleFormView* form = view.openForm(nullptr);
         saveShot(form, QStringLiteral("rule-form"));
         QCOMPARE(form->submit(), RuleForm::Outcome::BlankName);
-        auto* name = form->findChild<QComboBox*>(QStringLiteral("name"));
+        auto* name = child<QComboBox>(form, "name");
         QVERIFY(Balloon::of(name));
         name->setCurrentText(QStringLiteral("Knee bends"));
-        form->findChild<QLineEdit*>(QStringLiteral("repeatCount"))->setText(QStringLiteral("0"));
+        child<QLineEdit>(form, "repeatCount")->setText(QStringLiteral("0"));
         QCOMPARE(form->submit(), RuleForm::Outcome::NoRepeatCount);
-        form->findChild<QLineEdit*>(QStringLiteral("repeatCount"))->setText(QStringLiteral("45"));
+        child<QLineEdit>(form, "repeatCount")->setText(QStringLiteral("45"));
         QCOMPARE(form->submit(), RuleForm::Outcome::Saved);
         QCoreApplication::processEvents();
 
@@ -117,35 +88,25 @@ private Q_SLOTS:
         edit->setFields(fields);
         QCOMPARE(edit->submit(), RuleForm::Outcome::Saved);
         QCOMPARE(*rule->notes(), QStringLiteral("stretch the legs"));
-        QCOMPARE(app().library().rules().size(), std::size_t(1));
-    }
+        QCOMPARE(library().rules().size(), std::size_t(1));
 
-    void onlyCustomRulesCanBeDeleted()
-    {
-        RepeatListView view(app().services());
-        RepeatListModel& model = view.model();
         std::unique_ptr<QMenu> suggestion(
             view.buildMenu(model.rowAt(rowTitled(model, QStringLiteral("Water time")))));
         QCOMPARE(suggestion->actions().size(), 1);
-
-        RuleFormView* form = view.openForm(nullptr);
-        form->findChild<QComboBox*>(QStringLiteral("name"))->setCurrentText(QStringLiteral("Mine"));
-        QCOMPARE(form->submit(), RuleForm::Outcome::Saved);
-        QCoreApplication::processEvents();
-        const CatalogueRow* mine = model.rowAt(rowTitled(model, QStringLiteral("Mine")));
-        std::unique_ptr<QMenu> custom(view.buildMenu(mine));
+        std::unique_ptr<QMenu> custom(
+            view.buildMenu(model.rowAt(rowTitled(model, QStringLiteral("Knee bends")))));
         QCOMPARE(custom->actions().size(), 2);
 
         // "No" keeps it; "Yes" deletes it, and the "Custom breaks" heading goes with it.
-        Dialogs::answerNext(1);
+        Dialogs::answerNext(QStringLiteral("No"));
         custom->actions().at(1)->trigger();
-        QCOMPARE(app().library().rules().size(), std::size_t(1));
+        QCOMPARE(library().rules().size(), std::size_t(1));
         QCOMPARE(Dialogs::asked().back().text, QStringLiteral("Are you sure to delete ?"));
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Yes"));
         custom->actions().at(1)->trigger();
         QCoreApplication::processEvents();
-        QVERIFY(app().library().rules().empty());
-        QCOMPARE(rowTitled(model, QStringLiteral("Mine")), -1);
+        QVERIFY(library().rules().empty());
+        QCOMPARE(rowTitled(model, QStringLiteral("Knee bends")), -1);
         QVERIFY(model.rowAt(model.rowCount() - 1)->title != Catalogue::customHeaderTitle());
     }
 };

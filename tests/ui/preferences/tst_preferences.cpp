@@ -1,41 +1,26 @@
-#include "core/activity/RunningItem.h"
-#include "core/backup/Backups.h"
 #include "core/scheduling/ScheduleTableModel.h"
-#include "core/scheduling/WorkingHours.h"
-#include "core/settings/SettingsKeys.h"
-#include "support/LaunchedDesktop.h"
+#include "support/DesktopTest.h"
 #include "support/Shots.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 #include "ui/preferences/BackupCommands.h"
 #include "ui/preferences/BackupTab.h"
 #include "ui/preferences/PreferencesWindow.h"
 #include "ui/preferences/ScheduleTab.h"
-#include "ui/widgets/Dialogs.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <QTreeWidget>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
 // The preferences tabs over a launched core on a fake clock.
-class TestPreferences : public QObject {
+class TestPreferences : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<LaunchedDesktop> m_app;
-
-    const Services& services() { return m_app->services(); }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
     void makeLaunchBackup()
     {
@@ -45,80 +30,21 @@ class TestPreferences : public QObject {
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
-        QVERIFY(m_app->open());
-        Dialogs::forgetAsked();
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     // The period takes effect at once; a stored period none of the choices names stays stored.
-    void thePromptPeriod()
+    // Every tab is on the toolbar, and the window takes its height.
+    void thePromptPeriodAndTheTabs()
     {
-        m_app->settings.setValue(SettingsKeys::promptDuration, 3);
+        app().settings.setValue(SettingsKeys::promptDuration, 3);
         BackupCommands commands(services(), nullptr, [](const QString&) {});
-        PreferencesWindow window(services(), commands, m_app->presence);
-        auto* period = window.findChild<QComboBox*>(QStringLiteral("promptDuration"));
+        PreferencesWindow window(services(), commands, app().presence);
+        auto* period = child<QComboBox>(&window, "promptDuration");
         QCOMPARE(period->currentText(), QStringLiteral("1 min"));
-        QCOMPARE(m_app->settings.integer(SettingsKeys::promptDuration), 3);
+        QCOMPARE(app().settings.integer(SettingsKeys::promptDuration), 3);
         const int thirty = period->findText(QStringLiteral("30 mins"));
         period->setCurrentIndex(thirty);
         Q_EMIT period->activated(thirty);
-        QCOMPARE(m_app->settings.integer(SettingsKeys::promptDuration), 30);
+        QCOMPARE(app().settings.integer(SettingsKeys::promptDuration), 30);
         QCOMPARE(services().running.promptPeriod(), 30);
-        QCOMPARE(window.height(), 319);
-    }
-
-    // The desktop choices: the entry for a start at login, and leaving the taskbar asks to
-    // relaunch while keeping the tray icon on.
-    void theDesktopChoices()
-    {
-        BackupCommands commands(services(), nullptr, [](const QString&) {});
-        PreferencesWindow window(services(), commands, m_app->presence);
-        auto box = [&](const char* name) {
-            return window.findChild<QCheckBox*>(QLatin1String(name));
-        };
-        box("openAtLogIn")->click();
-        QVERIFY(m_app->autostart.isOn());
-        QCOMPARE(m_app->settings.integer(SettingsKeys::openAtLogIn), 1);
-
-        QVERIFY(box("UDStatusBarIcon")->isChecked());
-        QSignalSpy quit(&m_app->presence, &DesktopPresence::quitRequested);
-        Dialogs::answerNext(1);
-        box("UDDockIcon")->click();
-        QCOMPARE(Dialogs::asked().last().text, QStringLiteral("You must now restart app"));
-        QCOMPARE(Dialogs::asked().last().buttons,
-                 QStringList({QStringLiteral("Relaunch Now"), QStringLiteral("Later")}));
-        QCOMPARE(quit.count(), 0);
-        QVERIFY(!box("UDStatusBarIcon")->isEnabled());
-        QVERIFY(box("UDStatusBarIcon")->isChecked());
-
-        box("UDDockIcon")->click();
-        QVERIFY(box("UDStatusBarIcon")->isEnabled());
-        box("UDStatusBarIcon")->click();
-        QVERIFY(!m_app->presence.trayIconShown());
-        // Leaving the taskbar again brings the icon back, and "Relaunch Now" ends this one.
-        Dialogs::answerNext(0);
-        box("UDDockIcon")->click();
-        QVERIFY(box("UDStatusBarIcon")->isChecked());
-        QCOMPARE(quit.count(), 1);
-        window.resize(560, 319);
-        saveShot(&window, QStringLiteral("preferences-general"));
-    }
-
-    // Every tab is on the toolbar, and the window takes its height.
-    void everyTabHasItsButtonAndHeight()
-    {
-        BackupCommands commands(services(), nullptr, [](const QString&) {});
-        PreferencesWindow window(services(), commands, m_app->presence);
         const std::pair<PreferencesWindow::Tab, int> heights[] = {
             {PreferencesWindow::Tab::Security, 400}, {PreferencesWindow::Tab::Backup, 457},
             {PreferencesWindow::Tab::Schedule, 457}, {PreferencesWindow::Tab::MoreInfo, 457},
@@ -131,6 +57,39 @@ private Q_SLOTS:
             if (tab == PreferencesWindow::Tab::MoreInfo)
                 saveShot(&window, QStringLiteral("preferences-more-info"));
         }
+    }
+
+    // The desktop choices: the entry for a start at login, and leaving the taskbar asks to
+    // relaunch while keeping the tray icon on.
+    void theDesktopChoices()
+    {
+        BackupCommands commands(services(), nullptr, [](const QString&) {});
+        PreferencesWindow window(services(), commands, app().presence);
+        auto box = [&](const char* name) { return child<QCheckBox>(&window, name); };
+        box("openAtLogIn")->click();
+        QVERIFY(app().autostart.isOn());
+        QCOMPARE(app().settings.integer(SettingsKeys::openAtLogIn), 1);
+
+        QVERIFY(box("UDStatusBarIcon")->isChecked());
+        QSignalSpy quit(&app().presence, &DesktopPresence::quitRequested);
+        Dialogs::answerNext(QStringLiteral("Later"));
+        box("UDDockIcon")->click();
+        QCOMPARE(Dialogs::asked().last().text, QStringLiteral("You must now restart app"));
+        QCOMPARE(quit.count(), 0);
+        QVERIFY(!box("UDStatusBarIcon")->isEnabled());
+        QVERIFY(box("UDStatusBarIcon")->isChecked());
+
+        box("UDDockIcon")->click();
+        QVERIFY(box("UDStatusBarIcon")->isEnabled());
+        box("UDStatusBarIcon")->click();
+        QVERIFY(!app().presence.trayIconShown());
+        // Leaving the taskbar again brings the icon back, and "Relaunch Now" ends this one.
+        Dialogs::answerNext(QStringLiteral("Relaunch Now"));
+        box("UDDockIcon")->click();
+        QVERIFY(box("UDStatusBarIcon")->isChecked());
+        QCOMPARE(quit.count(), 1);
+        window.resize(560, 319);
+        saveShot(&window, QStringLiteral("preferences-general"));
     }
 
     // A day switched off counts at once: no idle question on it.
@@ -152,7 +111,7 @@ private Q_SLOTS:
     void theBackupList()
     {
         makeLaunchBackup();
-        m_app->clock.advance(60);
+        clock().advance(60);
         makeLaunchBackup();
         QStringList revealed;
         BackupCommands commands(services(), nullptr,
@@ -165,28 +124,24 @@ private Q_SLOTS:
         QCOMPARE(newest, services().backups.list().entries().front().path);
         saveShot(&tab, QStringLiteral("preferences-backup"));
 
-        auto* restore = tab.findChild<QPushButton*>(QStringLiteral("restore"));
+        auto* restore = child<QPushButton>(&tab, "restore");
         QVERIFY(!restore->isEnabled());
         list->setCurrentItem(list->topLevelItem(1));
         QSignalSpy restored(&services().backups, &Backups::restored);
-        Dialogs::answerNext(1);
+        Dialogs::answerNext(QStringLiteral("No"));
         restore->click();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("Confirm Restore"));
         QCOMPARE(Dialogs::asked().last().information,
                  QStringLiteral("All data will be replaced.\nDo you want to proceed?"));
         QVERIFY(!services().backups.isRestoring());
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Yes"));
         restore->click();
         QVERIFY(restored.wait(5000));
         QCOMPARE(list->topLevelItemCount(), 3);
         QCOMPARE(list->topLevelItem(0)->text(0), QStringLiteral("Restored Backup"));
 
         // A copy saved elsewhere replaces what stands there.
-        const QString copy = QDir(m_dir->path()).filePath(QStringLiteral("copy.sqlite"));
-        QFile old(copy);
-        QVERIFY(old.open(QIODevice::WriteOnly));
-        old.write("old");
-        old.close();
+        const QString copy = writeFile(QStringLiteral("copy.sqlite"), "old");
         Dialogs::chooseFileNext(copy);
         commands.saveCopyOf(newest);
         QCOMPARE(revealed, QStringList{copy});
@@ -194,8 +149,8 @@ private Q_SLOTS:
 
         list->setCurrentItem(list->topLevelItem(1));
         const QString doomed = list->currentItem()->data(0, Qt::UserRole).toString();
-        Dialogs::answerNext(0);
-        tab.findChild<QPushButton*>(QStringLiteral("delete"))->click();
+        Dialogs::answerNext(QStringLiteral("Yes"));
+        child<QPushButton>(&tab, "delete")->click();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("Selected backup will be deleted."));
         QCOMPARE(Dialogs::asked().last().information, QStringLiteral("Are you sure to delete ?"));
         QVERIFY(!QFile::exists(doomed));
@@ -203,11 +158,11 @@ private Q_SLOTS:
         QCOMPARE(services().backups.list().entries().size(), std::size_t(2));
 
         const auto remaining = services().backups.list().entries();
-        Dialogs::answerNext(0);
-        tab.findChild<QPushButton*>(QStringLiteral("deleteAll"))->click();
+        Dialogs::answerNext(QStringLiteral("Yes"));
+        child<QPushButton>(&tab, "deleteAll")->click();
         QCOMPARE(Dialogs::asked().last().text, QStringLiteral("All backups will be deleted."));
         QCOMPARE(list->topLevelItemCount(), 0);
-        QVERIFY(!m_app->settings.contains(SettingsKeys::backupFiles2));
+        QVERIFY(!app().settings.contains(SettingsKeys::backupFiles2));
         for (const BackupInfo& info : remaining)
             QVERIFY(!QFile::exists(info.path));
     }
@@ -222,15 +177,15 @@ private Q_SLOTS:
         const QString gone = services().backups.list().entries().front().path;
         QVERIFY(QFile::remove(gone));
         tab.list()->setCurrentItem(tab.list()->topLevelItem(0));
-        Dialogs::answerNext(0);
-        tab.findChild<QPushButton*>(QStringLiteral("restore"))->click();
+        Dialogs::answerNext(QStringLiteral("Ok"));
+        child<QPushButton>(&tab, "restore")->click();
         QCOMPARE(Dialogs::asked().size(), 1);
         QCOMPARE(Dialogs::asked().last().text,
                  QStringLiteral("This backup's file is gone, so it can't be restored."));
 
         QVERIFY(QDir().mkpath(gone + QStringLiteral("/in the way")));
-        m_app->settings.setValue(SettingsKeys::backupOption, 2);
-        Dialogs::answerNext(0);
+        app().settings.setValue(SettingsKeys::backupOption, 2);
+        Dialogs::answerNext(QStringLiteral("Ok"));
         services().backups.pruneAtLaunch();
         QTRY_COMPARE(Dialogs::asked().size(), 2);
         QVERIFY(Dialogs::asked().last().text.contains(QStringLiteral("could not be deleted")));

@@ -1,32 +1,18 @@
-#include "core/dates/CalendarContext.h"
-#include "core/model/RepeatCodes.h"
 #include "core/monitor/IdlePrompt.h"
 #include "support/Asking.h"
-#include "support/DatePrinting.h"
+#include "support/DesktopTest.h"
 #include "support/FakeNotifications.h"
-#include "support/LaunchedDesktop.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
 #include "ui/prompts/IdlePromptView.h"
 #include "ui/prompts/ReminderPromptView.h"
 #include "ui/prompts/TimeOverPromptView.h"
 #include "ui/prompts/TodoPromptView.h"
-#include "ui/shell/MainWindow.h"
-#include "ui/shell/Shell.h"
-#include "ui/shell/Tray.h"
 #include "ui/widgets/Balloon.h"
-#include "ui/widgets/Popover.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -53,13 +39,9 @@ Balloon* shownBalloon()
 } // namespace
 
 // Each prompt on screen, driven by its buttons as a user would.
-class TestPromptViews : public QObject {
+class TestPromptViews : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<LaunchedDesktop> m_app;
-
-    Launched& app() { return *m_app; }
-    const Services& services() { return m_app->services(); }
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 15, 0); }
 
     Item* item(const QString& title, Date due, int minutes = 0)
     {
@@ -70,30 +52,13 @@ class TestPromptViews : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase() { init(); }
-
-    void init()
-    {
-        lullet::test::useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 15, 0));
-        QVERIFY(app().open());
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     void theReminderStartsTheDueItem()
     {
         Item* due = item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15), 10);
         ReminderPromptView alone(services(), due, nullptr);
         QSignalSpy answered(&alone, &PromptView::answered);
         alone.show();
-        QVERIFY(
-            !alone.findChild<QPushButton*>(QStringLiteral("finishPrevious"))->isVisibleTo(&alone));
+        QVERIFY(!child<QPushButton>(&alone, "finishPrevious")->isVisibleTo(&alone));
         click(&alone, "start");
         QCOMPARE(app().running().item(), due);
         QCOMPARE(*due->timeLimit(), 600);
@@ -119,15 +84,17 @@ private Q_SLOTS:
         QCOMPARE(*later->dtReminderPostponed(), at(2026, 11, 23, 10, 45));
     }
 
-    void theMoreTimeMenuExtendsTheRunningItem()
+    // The time-over prompt's menu extends the running item, its Finish ends it; the to-do
+    // prompt confirms or leaves alone.
+    void theTimeOverAndToDoPrompts()
     {
         Item* r = item(QStringLiteral("Nap"), at(2026, 11, 23, 10, 0), 20);
         app().running().start(*r);
         TimeOverPromptView prompt(services(), r);
-        auto* more = prompt.findChild<QPushButton*>(QStringLiteral("moreTime"));
-        QVERIFY(more && more->menu());
+        QMenu* more = child<QPushButton>(&prompt, "moreTime")->menu();
+        QVERIFY(more);
         QAction* fifteen = nullptr;
-        for (QAction* a : more->menu()->actions()) {
+        for (QAction* a : more->actions()) {
             if (a->data().toInt() == 15)
                 fifteen = a;
         }
@@ -138,17 +105,14 @@ private Q_SLOTS:
         click(&again, "finish");
         QVERIFY(*r->hasFinished());
         QVERIFY(!app().running().item());
-    }
 
-    void theToDoPromptConfirmsOrLeavesAlone()
-    {
         Item* todo = item(QStringLiteral("Water"), at(2026, 11, 23, 10, 15));
         todo->setRepeatOption(RepeatEnd::toDoMarker);
-        TodoPromptView prompt(services(), todo);
-        click(&prompt, "dismiss");
+        TodoPromptView dismissed(services(), todo);
+        click(&dismissed, "dismiss");
         QVERIFY(!*todo->hasFinished());
-        TodoPromptView again(services(), todo);
-        click(&again, "done");
+        TodoPromptView done(services(), todo);
+        click(&done, "done");
         QVERIFY(*todo->hasFinished());
     }
 
@@ -176,23 +140,26 @@ private Q_SLOTS:
         QCOMPARE(*app().running().item()->title(), QStringLiteral("Reading"));
         // A valid answer takes its balloon away.
         QTRY_VERIFY(!shownBalloon());
+        // A balloon left alone closes by itself.
+        QPointer<Balloon> brief = Balloon::show(QStringLiteral("Nope"), prompt.answerField(), 20);
+        QVERIFY(brief && brief->isVisible());
+        QTRY_VERIFY(!brief);
     }
 
+    // A double click records one item, in the project chosen by its place in the menu.
     void aDoubleClickRecordsOneItemInTheProjectChosenByPlace()
     {
         // A project may be named like the menu's first entry.
-        Project* today = app().library().newProject();
-        today->setName(QStringLiteral("Today"));
-        app().library().addProject(today);
+        Project* today = app().addProject(QStringLiteral("Today"));
         IdlePromptView prompt(services(), at(2026, 11, 23, 10, 0), false, today);
         prompt.show();
-        QCOMPARE(prompt.findChild<QComboBox*>(QStringLiteral("projects"))->currentIndex(), 1);
+        QCOMPARE(child<QComboBox>(&prompt, "projects")->currentIndex(), 1);
         prompt.answerField()->setText(QStringLiteral("planning"));
-        auto* alreadyDone = prompt.findChild<QPushButton*>(QStringLiteral("alreadyDone"));
+        auto* alreadyDone = child<QPushButton>(&prompt, "alreadyDone");
         alreadyDone->click();
         alreadyDone->click();
-        QCOMPARE(app().library().items().size(), std::size_t(1));
-        QCOMPARE(app().library().items().front()->toProject(), today);
+        QCOMPARE(library().items().size(), std::size_t(1));
+        QCOMPARE(library().items().front()->toProject(), today);
     }
 
     // "Later" puts the question off: closed unanswered, its gap kept for the next question, and
@@ -200,10 +167,9 @@ private Q_SLOTS:
     // Escape.
     void laterAndEscapePutAQuestionOff()
     {
-        MainWindow window;
-        Shell shell(services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        m_app->clock.set(at(2026, 11, 23, 10, 20));
+        ShellWindows ui(app());
+        Shell& shell = ui.shell;
+        app().clock.set(at(2026, 11, 23, 10, 20));
         askIdle(services().prompts, at(2026, 11, 23, 10, 0), false);
         QTRY_VERIFY(shell.tray().popover());
         Popover* popover = shell.tray().popover();
@@ -229,23 +195,20 @@ private Q_SLOTS:
     {
         FakeNotifications server;
         QVERIFY(server.registerOnBus());
-        MainWindow window;
-        Shell shell(services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        const auto reminderShown = [&shell] {
-            const Popover* popover = shell.tray().popover();
-            return popover && popover->isShown() &&
-                   qobject_cast<ReminderPromptView*>(popover->content());
+        ShellWindows ui(app());
+        Shell& shell = ui.shell;
+        const auto reminderShown = [&ui] {
+            return qobject_cast<ReminderPromptView*>(ui.shownInPopover()) != nullptr;
         };
         remind(services().prompts, item(QStringLiteral("Seen"), at(2026, 11, 23, 10, 15)), nullptr);
         QTRY_VERIFY(reminderShown());
         shell.tray().closePopoverImmediate();
 
-        m_app->presence.setTrayAvailable(false);
+        app().presence.setTrayAvailable(false);
         Item* tea = item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15));
         remind(services().prompts, tea, nullptr);
         QTRY_COMPARE(server.shown.size(), std::size_t(1));
-        QTRY_VERIFY(m_app->notifier.isShown());
+        QTRY_VERIFY(app().notifier.isShown());
         QTRY_VERIFY(reminderShown());
         const FakeNotifications::Shown first = server.shown.front();
         QCOMPARE(first.summary, QStringLiteral("Reminder"));
@@ -262,12 +225,12 @@ private Q_SLOTS:
         QTRY_COMPARE(app().running().item(), tea);
         QTRY_VERIFY(!reminderShown());
         QTRY_COMPARE(server.closed, std::vector<uint>{first.id});
-        QVERIFY(!m_app->notifier.isShown());
+        QVERIFY(!app().notifier.isShown());
 
         Item* walk = item(QStringLiteral("Walk"), at(2026, 11, 23, 10, 15));
         remind(services().prompts, walk, nullptr);
         QTRY_COMPARE(server.shown.size(), std::size_t(2));
-        QTRY_VERIFY(m_app->notifier.isShown());
+        QTRY_VERIFY(app().notifier.isShown());
         QTRY_VERIFY(reminderShown());
         const uint second = server.shown.back().id;
         // Another program's notification, and a click on this one, answer nothing.
@@ -282,29 +245,16 @@ private Q_SLOTS:
         QCOMPARE(server.shown.size(), std::size_t(2));
     }
 
-    void aBalloonClosesByItself()
-    {
-        QLineEdit field;
-        field.show();
-        QPointer<Balloon> balloon = Balloon::show(QStringLiteral("Nope"), &field, 20);
-        QVERIFY(balloon && balloon->isVisible());
-        QTRY_VERIFY(!balloon);
-    }
-
     // Prompts take turns in the popover: a reminder waits for the one on show to be answered or
     // put away; the idle question waits behind reminders, and one on show gives way to a
     // reminder and comes back after it over the whole gap.
     void promptsTakeTurnsInThePopover()
     {
-        MainWindow window;
-        Shell shell(services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        const auto shown = [&shell]() -> QWidget* {
-            const Popover* popover = shell.tray().popover();
-            return popover && popover->isShown() ? popover->content() : nullptr;
-        };
-        const auto dueOnShow = [&shown]() -> Item* {
-            auto* reminder = qobject_cast<ReminderPromptView*>(shown());
+        ShellWindows ui(app());
+        Shell& shell = ui.shell;
+        const auto shown = [&ui] { return ui.shownInPopover(); };
+        const auto dueOnShow = [&ui]() -> Item* {
+            auto* reminder = qobject_cast<ReminderPromptView*>(ui.shownInPopover());
             return reminder ? reminder->prompt().due() : nullptr;
         };
         Item* first = item(QStringLiteral("First"), at(2026, 11, 23, 10, 15));
@@ -341,21 +291,18 @@ private Q_SLOTS:
     // the one after that from where the second was answered.
     void anUnansweredGapGoesToTheNextQuestion()
     {
-        MainWindow window;
-        Shell shell(services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        m_app->clock.set(at(2026, 11, 23, 10, 15));
+        ShellWindows ui(app());
+        Shell& shell = ui.shell;
+        app().clock.set(at(2026, 11, 23, 10, 15));
         askIdle(services().prompts, at(2026, 11, 23, 10, 0), false);
         QTRY_VERIFY(shell.tray().popover());
         const QWidget* a = shell.tray().popover()->content();
         // The tray closes it without an answer: hidden, not answered.
         shell.tray().closePopover();
-        m_app->clock.set(at(2026, 11, 23, 10, 30));
+        app().clock.set(at(2026, 11, 23, 10, 30));
         askIdle(services().prompts, at(2026, 11, 23, 10, 15), false);
         IdlePromptView* b = nullptr;
-        QTRY_VERIFY((b = qobject_cast<IdlePromptView*>(
-                         shell.tray().popover() ? shell.tray().popover()->content() : nullptr)) &&
-                    b != a);
+        QTRY_VERIFY((b = qobject_cast<IdlePromptView*>(ui.shownInPopover())) && b != a);
         QCOMPARE(b->prompt().gapStart(), at(2026, 11, 23, 10, 0));
         QCOMPARE(b->prompt().questionText(),
                  QStringLiteral("What were you doing for last 30 minutes ?"));
@@ -363,12 +310,10 @@ private Q_SLOTS:
         click(b, "answer");
         QVERIFY(!app().running().unansweredGapStart());
         app().running().finish(*app().running().item());
-        m_app->clock.set(at(2026, 11, 23, 10, 50));
+        app().clock.set(at(2026, 11, 23, 10, 50));
         askIdle(services().prompts, at(2026, 11, 23, 10, 30), false);
         IdlePromptView* c = nullptr;
-        QTRY_VERIFY((c = qobject_cast<IdlePromptView*>(
-                         shell.tray().popover() ? shell.tray().popover()->content() : nullptr)) &&
-                    c != b);
+        QTRY_VERIFY((c = qobject_cast<IdlePromptView*>(ui.shownInPopover())) && c != b);
         QCOMPARE(c->prompt().gapStart(), at(2026, 11, 23, 10, 30));
     }
 };

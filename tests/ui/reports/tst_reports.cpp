@@ -1,24 +1,14 @@
-#include "core/activity/ProjectActions.h"
-#include "core/model/Project.h"
 #include "core/reports/Report.h"
-#include "support/Launched.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/DesktopTest.h"
 #include "ui/main/DashboardView.h"
 #include "ui/reports/ReportCommands.h"
-#include "ui/widgets/Dialogs.h"
 
-#include <QApplication>
 #include <QDesktopServices>
 #include <QHeaderView>
 #include <QMenu>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTreeWidget>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -33,10 +23,9 @@ public Q_SLOTS:
 };
 
 // Reports: what they hold, and the PDF read back as a reader would.
-class TestReports : public QObject {
+class TestReports : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Launched> m_app;
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
     static QString pdfText(const QString& path)
     {
@@ -49,39 +38,24 @@ class TestReports : public QObject {
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<Launched>(m_dir->path(), at(2026, 11, 23, 10, 0));
-        QVERIFY(m_app->open());
-        Dialogs::forgetAsked();
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     // A project's report: its items by day, the undated last, under totals; on paper, page
     // after page, every heading and row readable.
     void aProjectReportOnPaper()
     {
         QVERIFY2(!QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty(),
                  "pdftotext (poppler-utils) is needed");
-        const Services& s = m_app->services();
+        const Services& s = services();
         Project* garden =
             s.projectActions.addProject(QStringLiteral("Garden with a rather long name")).project;
         for (int i = 0; i < 60; ++i) {
-            Item* item = m_app->addItem(QStringLiteral("Weed bed %1").arg(i),
-                                        at(2026, 11, 24 + i / 20, 9, i % 20));
+            Item* item = app().addItem(QStringLiteral("Weed bed %1").arg(i),
+                                       at(2026, 11, 24 + i / 20, 9, i % 20));
             item->setToProject(garden);
             item->setDurationMin(15);
             if (i < 6)
                 item->setHasFinished(true);
         }
-        m_app->addItem(QStringLiteral("Buy seeds"), std::nullopt)->setToProject(garden);
+        app().addItem(QStringLiteral("Buy seeds"), std::nullopt)->setToProject(garden);
 
         Report report = Report::ofProject(s.library, s.history, garden, s.clock, s.running);
         // Upcoming and Completed print their chart under the head.
@@ -92,20 +66,15 @@ private Q_SLOTS:
                               QStringLiteral("Due: 55"), QStringLiteral("Today: 0")}));
         QCOMPARE(report.rows.back().title, QStringLiteral("Buy seeds"));
 
-        const QString path = m_dir->filePath(QStringLiteral("garden.pdf"));
-        QVERIFY(ReportCommands::writePdf(report, path));
+        const QString pdf = path(QStringLiteral("garden.pdf"));
+        QVERIFY(ReportCommands::writePdf(report, pdf));
         // For review, beside the pictures of the windows.
         if (const QString shots = qEnvironmentVariable("LULLET_SHOTS"); !shots.isEmpty())
-            QFile::copy(path, shots + QStringLiteral("/report.pdf"));
-        const QString text = pdfText(path);
-        QVERIFY(text.contains(QStringLiteral("Garden with a rather long name")));
-        QVERIFY(text.contains(QStringLiteral("Tasks: 61")));
-        QVERIFY(text.contains(QStringLiteral("Due: 55")));
-        QVERIFY(text.contains(QStringLiteral("Weed bed 59")));
-        QVERIFY(text.contains(QStringLiteral("Anytime")));
-        QVERIFY(text.contains(QStringLiteral("Page 3")));
-        QVERIFY(text.contains(QStringLiteral("25 Nov")));
-        QVERIFY(text.contains(QStringLiteral("1.5 h")));
+            QFile::copy(pdf, shots + QStringLiteral("/report.pdf"));
+        const QString text = pdfText(pdf);
+        for (const char* read : {"Garden with a rather long name", "Tasks: 61", "Due: 55",
+                                 "Weed bed 59", "Anytime", "Page 3", "25 Nov", "1.5 h"})
+            QVERIFY2(text.contains(QLatin1String(read)), read);
         // Every day's heading, in order.
         const qsizetype first = text.indexOf(QStringLiteral("Tue 24, Nov 2026"));
         const qsizetype second = text.indexOf(QStringLiteral("Wed 25, Nov 2026"));
@@ -116,11 +85,12 @@ private Q_SLOTS:
     // the items in no project, and only those.
     void theDashboardExportsEachRow()
     {
-        const Services& s = m_app->services();
+        const Services& s = services();
         Project* errands = s.projectActions.addProject(QStringLiteral("Errands")).project;
-        m_app->addItem(QStringLiteral("Post a letter"), at(2026, 11, 23, 15, 0))
+        app()
+            .addItem(QStringLiteral("Post a letter"), at(2026, 11, 23, 15, 0))
             ->setToProject(errands);
-        m_app->addItem(QStringLiteral("Water the plants"), at(2026, 11, 23, 17, 0));
+        app().addItem(QStringLiteral("Water the plants"), at(2026, 11, 23, 17, 0));
         DashboardView dashboard(s);
         dashboard.show();
         QTreeWidget* table = dashboard.projects();
@@ -139,8 +109,8 @@ private Q_SLOTS:
 
         OpenedFiles viewer;
         QDesktopServices::setUrlHandler(QStringLiteral("file"), &viewer, "open");
-        const QString path = m_dir->filePath(QStringLiteral("loose.pdf"));
-        Dialogs::chooseFileNext(path);
+        const QString pdf = path(QStringLiteral("loose.pdf"));
+        Dialogs::chooseFileNext(pdf);
         table->setFocus();
         table->setCurrentItem(table->topLevelItem(0));
         QTest::keyClick(table, Qt::Key_F10, Qt::ShiftModifier);
@@ -150,8 +120,8 @@ private Q_SLOTS:
         menu->actions().at(1)->trigger();
         menu->close();
         QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
-        QCOMPARE(viewer.urls, QList<QUrl>{QUrl::fromLocalFile(path)});
-        const QString text = pdfText(path);
+        QCOMPARE(viewer.urls, QList<QUrl>{QUrl::fromLocalFile(pdf)});
+        const QString text = pdfText(pdf);
         QVERIFY(text.contains(QStringLiteral("Not in Project")));
         QVERIFY(text.contains(QStringLiteral("Water the plants")));
         QVERIFY(!text.contains(QStringLiteral("Post a letter")));
@@ -160,19 +130,18 @@ private Q_SLOTS:
     // Nothing to report is said rather than written; the proposed name suits any file system.
     void emptyReportsAndFileNames()
     {
-        ReportCommands commands(m_app->services().clock, m_dir->filePath(QStringLiteral("temp")));
+        ReportCommands commands(services().clock, path(QStringLiteral("temp")));
         Report empty;
         empty.title = QStringLiteral("Today");
-        Dialogs::answerNext(0);
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Ok"));
+        Dialogs::answerNext(QStringLiteral("Ok"));
         commands.savePdf(empty, nullptr, ReportCommands::emptyListText());
         QCOMPARE(Dialogs::asked().size(), 1);
         QCOMPARE(Dialogs::asked().front().text, QStringLiteral("Oops!"));
         QCOMPARE(Dialogs::asked().front().information,
                  QStringLiteral("There is no task data to export."));
-        QCOMPARE(Dialogs::asked().front().buttons, QStringList{QStringLiteral("Ok")});
         commands.mail(empty, nullptr, ReportCommands::emptyProjectText());
-        QVERIFY(!QFile::exists(m_dir->filePath(QStringLiteral("temp/LulletReport.pdf"))));
+        QVERIFY(!QFile::exists(path(QStringLiteral("temp/LulletReport.pdf"))));
 
         const QString name = Report::proposedFileName(at(2026, 11, 23, 14, 5, 9));
         QVERIFY(name.startsWith(QStringLiteral("Lullet -")));

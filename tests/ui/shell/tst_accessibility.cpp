@@ -1,35 +1,22 @@
-#include "core/activity/ProjectActions.h"
-#include "core/activity/RunningItem.h"
-#include "core/app/Services.h"
 #include "support/Asking.h"
-#include "support/LaunchedDesktop.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/DesktopTest.h"
 #include "ui/authoring/RuleFormView.h"
 #include "ui/main/MainView.h"
 #include "ui/main/PostponePanel.h"
 #include "ui/preferences/PreferencesWindow.h"
 #include "ui/shell/LoginPage.h"
-#include "ui/shell/MainWindow.h"
-#include "ui/shell/Shell.h"
-#include "ui/shell/Tray.h"
 #include "ui/shell/WindowContent.h"
 #include "ui/widgets/CircularProgress.h"
-#include "ui/widgets/Popover.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QAccessible>
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QTemporaryDir>
 #include <QTextEdit>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -101,56 +88,48 @@ QList<QWidget*> shownWindows()
 } // namespace
 
 // Each window, view and prompt walked as a screen reader would.
-class TestAccessibility : public QObject {
+class TestAccessibility : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<LaunchedDesktop> m_app;
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
 private Q_SLOTS:
     void init()
     {
-        lullet::test::useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
-        QVERIFY(m_app->open());
-        m_app->addItem(QStringLiteral("Walk"), at(2026, 11, 23, 11, 0));
+        DesktopTest::init();
+        app().addItem(QStringLiteral("Walk"), at(2026, 11, 23, 11, 0));
     }
 
     void cleanup()
     {
         for (QWidget* window : QApplication::topLevelWidgets())
             window->hide();
-        m_app.reset();
-        m_dir.reset();
+        DesktopTest::cleanup();
     }
 
     void everyViewOfTheWindowNamesItsControls()
     {
-        Project* home = m_app->services().projectActions.addProject(QStringLiteral("Home")).project;
-        m_app->addItem(QStringLiteral("Fix the tap"), at(2026, 11, 24, 9, 0))->setToProject(home);
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.bringMainWindowForward();
-        MainView* main = shell.content()->mainView();
+        Project* home = app().addProject(QStringLiteral("Home"));
+        app().addItem(QStringLiteral("Fix the tap"), at(2026, 11, 24, 9, 0))->setToProject(home);
+        ShellWindows ui(app());
+        ui.shell.bringMainWindowForward();
+        MainView* main = ui.shell.content()->mainView();
         QStringList unnamed;
         for (const Segment segment : Segments::sidebar) {
             main->showSegment(segment);
-            unnamed << unnamedControls({&window});
+            unnamed << unnamedControls({&ui.window});
         }
         main->showProjectNamed(QStringLiteral("Home"));
-        unnamed << unnamedControls({&window});
+        unnamed << unnamedControls({&ui.window});
         main->showQuickAddBar();
-        unnamed << unnamedControls({&window});
+        unnamed << unnamedControls({&ui.window});
         unnamed.removeDuplicates();
         QVERIFY2(unnamed.isEmpty(), qPrintable(unnamed.join(u'\n')));
     }
 
-    void everyOtherWindowNamesItsControls()
+    void everyOtherWindowAndPanelNamesItsControls()
     {
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
+        ShellWindows ui(app());
+        Shell& shell = ui.shell;
         QStringList unnamed;
         shell.showPreferences();
         for (const auto tab : {PreferencesWindow::Tab::General, PreferencesWindow::Tab::Security,
@@ -164,21 +143,13 @@ private Q_SLOTS:
         shell.showContact();
         shell.openQuickAddWindow();
         unnamed << unnamedControls(shownWindows());
-        unnamed.removeDuplicates();
-        QVERIFY2(unnamed.isEmpty(), qPrintable(unnamed.join(u'\n')));
-    }
 
-    // The panels the lists open, and the login page, each on its own.
-    void everyPanelNamesItsControls()
-    {
-        const Services& services = m_app->services();
-        Item* walk = m_app->library().items().front();
-        Project* home = services.projectActions.addProject(QStringLiteral("Home")).project;
-        RuleFormView newRule(services, nullptr);
-        RuleFormView task(services, home, nullptr);
-        PostponePanel postpone(services, walk);
-        LoginPage login(services.protection);
-        QStringList unnamed;
+        // The panels the lists open, and the login page, each on its own.
+        Project* home = app().addProject(QStringLiteral("Home"));
+        RuleFormView newRule(services(), nullptr);
+        RuleFormView task(services(), home, nullptr);
+        PostponePanel postpone(services(), library().items().front());
+        LoginPage login(services().protection);
         for (QWidget* panel : std::initializer_list<QWidget*>{&newRule, &task, &postpone, &login}) {
             panel->show();
             unnamed << unnamedControls({panel});
@@ -189,27 +160,26 @@ private Q_SLOTS:
 
     void everyPromptNamesItsControls()
     {
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        Item* due = m_app->addItem(QStringLiteral("Tea"), at(2026, 11, 23, 10, 0));
-        Item* running = m_app->addItem(QStringLiteral("Nap"), at(2026, 11, 23, 9, 0));
-        m_app->services().running.start(*running);
+        ShellWindows ui(app());
+        Shell& shell = ui.shell;
+        Item* due = app().addItem(QStringLiteral("Tea"), at(2026, 11, 23, 10, 0));
+        Item* running = app().addItem(QStringLiteral("Nap"), at(2026, 11, 23, 9, 0));
+        services().running.start(*running);
         QStringList unnamed;
         const auto walkPopover = [&shell, &unnamed] {
             QTRY_VERIFY(shell.tray().popover() && shell.tray().popover()->isShown());
             unnamed << unnamedControls({shell.tray().popover()});
             shell.tray().closePopoverImmediate();
         };
-        remind(m_app->services().prompts, due, running);
+        remind(services().prompts, due, running);
         walkPopover();
-        tellTimeOver(m_app->services().prompts, running);
+        tellTimeOver(services().prompts, running);
         walkPopover();
-        askToDo(m_app->services().prompts, due);
+        askToDo(services().prompts, due);
         walkPopover();
         // The idle question is for a time with nothing running.
-        m_app->services().running.finish(*running);
-        askIdle(m_app->services().prompts, at(2026, 11, 23, 9, 30), true);
+        services().running.finish(*running);
+        askIdle(services().prompts, at(2026, 11, 23, 9, 30), true);
         walkPopover();
         Q_EMIT shell.tray().clicked();
         walkPopover();

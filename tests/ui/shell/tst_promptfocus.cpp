@@ -1,22 +1,9 @@
-#include "core/activity/RunningItem.h"
-#include "core/dates/CalendarContext.h"
 #include "support/Asking.h"
-#include "support/LaunchedDesktop.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/DesktopTest.h"
 #include "ui/prompts/IdlePromptView.h"
-#include "ui/shell/MainWindow.h"
-#include "ui/shell/Shell.h"
-#include "ui/shell/Tray.h"
-#include "ui/widgets/Popover.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QProcess>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -74,16 +61,15 @@ private:
 
 // A prompt never takes the keyboard from the program the user is typing in: tried with a real
 // window manager, a second window that has the focus, and keys typed through the X server.
-class TestPromptFocus : public QObject {
+class TestPromptFocus : public DesktopTest {
     Q_OBJECT
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
+
     std::unique_ptr<WindowManager> m_manager;
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<LaunchedDesktop> m_app;
-    std::unique_ptr<MainWindow> m_window;
-    std::unique_ptr<Shell> m_shell;
+    std::unique_ptr<ShellWindows> m_ui;
     std::unique_ptr<QLineEdit> m_editor;
 
-    Popover* popover() const { return m_shell->tray().popover(); }
+    Popover* popover() const { return m_ui->shell.tray().popover(); }
     QLineEdit* answerField() const
     {
         return popover()->findChild<IdlePromptView*>()->answerField();
@@ -91,7 +77,7 @@ class TestPromptFocus : public QObject {
 
     void ask()
     {
-        askIdle(m_app->services().prompts, m_app->clock.now().dateByAddingMinutes(-15), false);
+        askIdle(services().prompts, clock().now().dateByAddingMinutes(-15), false);
         QTRY_VERIFY(popover() && popover()->isShown() && popover()->findChild<IdlePromptView*>());
         QVERIFY(QTest::qWaitForWindowExposed(popover()));
     }
@@ -106,18 +92,13 @@ private Q_SLOTS:
             QSKIP("needs an X server (the test script runs one)");
         m_manager = std::make_unique<WindowManager>();
         QVERIFY2(m_manager->isReady(), "openbox and xdotool are needed (scripts/install-deps.sh)");
-        lullet::test::useTestCalendar();
+        DesktopTest::initTestCase();
     }
 
     void init()
     {
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
-        QVERIFY(m_app->open());
-        m_window = std::make_unique<MainWindow>();
-        m_shell =
-            std::make_unique<Shell>(m_app->services(), *m_window, m_app->presence, m_app->notifier);
-        m_shell->setLoaded();
+        DesktopTest::init();
+        m_ui = std::make_unique<ShellWindows>(app());
         m_editor = std::make_unique<QLineEdit>();
         m_editor->setWindowTitle(QStringLiteral("An essay"));
         m_editor->resize(400, 40);
@@ -130,10 +111,8 @@ private Q_SLOTS:
     void cleanup()
     {
         m_editor.reset();
-        m_shell.reset();
-        m_window.reset();
-        m_app.reset();
-        m_dir.reset();
+        m_ui.reset();
+        DesktopTest::cleanup();
     }
 
     void typingGoesOnInTheOtherWindow()
@@ -147,7 +126,7 @@ private Q_SLOTS:
         QVERIFY(m_editor->isActiveWindow());
         QVERIFY(!popover()->isActiveWindow());
         QVERIFY(answerField()->text().isEmpty());
-        QVERIFY(!m_app->running().item());
+        QVERIFY(!app().running().item());
         QVERIFY(popover()->isShown());
         // Window managers that give new windows the focus leave alone one that says it was
         // shown at no user action.
@@ -174,18 +153,18 @@ private Q_SLOTS:
     void theTrayCallsItForwardThenPutsItOff()
     {
         ask();
-        Q_EMIT m_shell->tray().clicked();
+        Q_EMIT m_ui->shell.tray().clicked();
         QTRY_VERIFY(popover()->isActiveWindow());
         QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(answerField()));
-        m_app->clock.advance(120);
-        Q_EMIT m_shell->tray().clicked();
+        app().clock.advance(120);
+        Q_EMIT m_ui->shell.tray().clicked();
         QTRY_VERIFY(!popover() || !popover()->isVisible());
-        QCOMPARE(*m_app->running().lastPromptAt(), m_app->clock.now());
+        QCOMPARE(*app().running().lastPromptAt(), app().clock.now());
 
         m_editor->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_editor.get()));
         ask();
-        Q_EMIT m_shell->tray().clicked();
+        Q_EMIT m_ui->shell.tray().clicked();
         QTRY_VERIFY(popover()->isActiveWindow());
         key(QStringLiteral("Escape"));
         QTRY_VERIFY(!popover() || !popover()->isVisible());

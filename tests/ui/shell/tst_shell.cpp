@@ -1,63 +1,33 @@
-#include "core/activity/ItemActions.h"
-#include "core/activity/ProjectActions.h"
-#include "core/backup/Backups.h"
-#include "core/dates/CalendarContext.h"
-#include "core/settings/SettingsKeys.h"
-#include "support/LaunchedDesktop.h"
-#include "support/TestCalendar.h"
-#include "support/TestMain.h"
+#include "support/DesktopTest.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/main/MainView.h"
 #include "ui/main/SidebarView.h"
 #include "ui/preferences/BackupCommands.h"
-#include "ui/shell/MainWindow.h"
 #include "ui/shell/RunningListView.h"
-#include "ui/shell/Shell.h"
-#include "ui/shell/Tray.h"
 #include "ui/shell/WindowContent.h"
-#include "ui/widgets/Dialogs.h"
-#include "ui/widgets/Popover.h"
 
-#include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace lullet;
 using namespace lullet::test;
 
-class TestShell : public QObject {
+class TestShell : public DesktopTest {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<LaunchedDesktop> m_app;
+    Date launchedAt() const override { return at(2026, 11, 23, 10, 0); }
 
 private Q_SLOTS:
-    void init()
-    {
-        lullet::test::useTestCalendar();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_app = std::make_unique<LaunchedDesktop>(m_dir->path(), at(2026, 11, 23, 10, 0));
-    }
-
-    void cleanup()
-    {
-        m_app.reset();
-        m_dir.reset();
-    }
-
     // The icon comes before the store is read: its panel says so, and the window asked for
     // meanwhile opens, with its content, once the store is read.
     void theTrayComesBeforeTheStore()
     {
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
+        relaunch(at(2026, 11, 23, 10, 0), Open::No);
+        ShellWindows ui(app(), false);
+        MainWindow& window = ui.window;
+        Shell& shell = ui.shell;
         shell.showTray();
         Q_EMIT shell.tray().clicked();
         QVERIFY(shell.tray().popover());
@@ -68,7 +38,7 @@ private Q_SLOTS:
         QVERIFY(!window.isVisible());
         QVERIFY(!shell.content());
 
-        QVERIFY(m_app->open());
+        QVERIFY(app().open());
         shell.setLoaded();
         QVERIFY(window.isVisible());
         QVERIFY(shell.content());
@@ -82,49 +52,46 @@ private Q_SLOTS:
 
     void welcomeSizeIsFixed()
     {
-        QVERIFY(m_app->open(false));
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.prepareMainWindow(false);
-        QCOMPARE(window.maximumSize(), QSize(800, 600));
-        QCOMPARE(window.size(), QSize(800, 600));
-        QVERIFY(!(window.windowFlags() & Qt::WindowMinimizeButtonHint));
+        app().settings.setValue(SettingsKeys::isShowFirst, 0);
+        ShellWindows ui(app());
+        ui.shell.prepareMainWindow(false);
+        QCOMPARE(ui.window.maximumSize(), QSize(800, 600));
+        QCOMPARE(ui.window.size(), QSize(800, 600));
+        QVERIFY(!(ui.window.windowFlags() & Qt::WindowMinimizeButtonHint));
     }
 
-    void workingSizeUnlessLocked()
+    // At least 600 by 600 once past the welcome, brought back when minimised, and back where
+    // the user left it, at its size, in the next run.
+    void theWindowsSizeAndPlace()
     {
-        QVERIFY(m_app->open());
-        MainWindow window;
-        window.resize(700, 600);
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.prepareMainWindow(true);
-        QCOMPARE(window.minimumSize(), QSize(600, 600));
-        QCOMPARE(window.size(), QSize(700, 600));
-        shell.prepareMainWindow(false);
-        QCOMPARE(window.size(), QSize(600, 600));
-        QVERIFY(window.maximumWidth() >= 600);
+        {
+            ShellWindows ui(app());
+            ui.window.resize(700, 600);
+            ui.shell.prepareMainWindow(true);
+            QCOMPARE(ui.window.minimumSize(), QSize(600, 600));
+            QCOMPARE(ui.window.size(), QSize(700, 600));
+            ui.shell.prepareMainWindow(false);
+            QCOMPARE(ui.window.size(), QSize(600, 600));
+            QVERIFY(ui.window.maximumWidth() >= 600);
+            ui.window.showMinimized();
+            QVERIFY(ui.window.isMinimized());
+            ui.shell.bringMainWindowForward();
+            QVERIFY(!ui.window.isMinimized());
+            QVERIFY(ui.window.isVisible());
+            ui.window.setGeometry(QRect(120, 90, 700, 640));
+            ui.window.close();
+        }
+        QVERIFY(!app().settings.value(SettingsKeys::mainWindowGeometry).toByteArray().isEmpty());
+        ShellWindows ui(app());
+        ui.shell.bringMainWindowForward();
+        QCOMPARE(ui.window.size(), QSize(700, 640));
+        QCOMPARE(ui.window.geometry().topLeft(), QPoint(120, 90));
     }
 
-    void aSecondLaunchBringsBackAMinimisedWindow()
+    void questionsAreAnsweredInAdvanceByTheirButtons()
     {
-        QVERIFY(m_app->open());
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        window.showMinimized();
-        QVERIFY(window.isMinimized());
-        shell.bringMainWindowForward();
-        QVERIFY(!window.isMinimized());
-        QVERIFY(window.isVisible());
-    }
-
-    void questionsCanBeAnsweredInAdvance()
-    {
-        Dialogs::forgetAsked();
-        Dialogs::answerNext(0);
-        Dialogs::answerNext(1);
+        Dialogs::answerNext(QStringLiteral("Quit anyway"));
+        Dialogs::answerNext(QStringLiteral("Cancel"));
         QVERIFY(Dialogs::confirm(nullptr, QStringLiteral("Could not save"), QStringLiteral("Info"),
                                  QStringLiteral("Quit anyway"), QStringLiteral("Cancel")));
         QVERIFY(!Dialogs::confirm(nullptr, QStringLiteral("Could not save"), QStringLiteral("Info"),
@@ -134,74 +101,25 @@ private Q_SLOTS:
                  (QStringList{QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}));
     }
 
-    void theTrayMenuCanQuitAndOpen()
+    // Quick add from the window's menu and the tray's menu, with the platform's "new" key; the
+    // tray's menu opens the window and quits.
+    void theMenus()
     {
-        QVERIFY(m_app->open());
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.showTray();
-        bool quit = false;
-        connect(&shell, &Shell::quitRequested, this, [&] { quit = true; });
-        QMenu* trayMenu = nullptr;
-        for (QMenu* m : window.findChildren<QMenu*>()) {
-            for (QAction* a : m->actions()) {
-                if (a->text() == QStringLiteral("Quit Lullet") && m->title().isEmpty())
-                    trayMenu = m;
-            }
-        }
-        QVERIFY(trayMenu);
-        for (QAction* a : trayMenu->actions()) {
-            if (a->text() == QStringLiteral("Open Lullet"))
-                a->trigger();
-        }
-        QVERIFY(window.isVisible());
-        for (QAction* a : trayMenu->actions()) {
-            if (a->text() == QStringLiteral("Quit Lullet"))
-                a->trigger();
-        }
-        QVERIFY(quit);
-    }
-
-    // The window comes back where the user left it, and at its size.
-    void theWindowKeepsItsPlace()
-    {
-        QVERIFY(m_app->open());
-        {
-            MainWindow window;
-            Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-            shell.setLoaded();
-            shell.bringMainWindowForward();
-            window.setGeometry(QRect(120, 90, 700, 640));
-            window.close();
-        }
-        QVERIFY(!m_app->settings.value(SettingsKeys::mainWindowGeometry).toByteArray().isEmpty());
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.bringMainWindowForward();
-        QCOMPARE(window.size(), QSize(700, 640));
-        QCOMPARE(window.geometry().topLeft(), QPoint(120, 90));
-    }
-
-    // Quick add from the window's menu and the tray's menu, with the platform's "new" key.
-    void quickAddFromTheMenus()
-    {
-        QVERIFY(m_app->open());
-        MainWindow window;
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.showTray();
+        ShellWindows ui(app());
+        ui.shell.showTray();
         int withShortcut = 0;
-        for (QMenu* menu : window.findChildren<QMenu*>()) {
+        QMenu* trayMenu = nullptr;
+        for (QMenu* menu : ui.window.findChildren<QMenu*>()) {
             for (QAction* action : menu->actions()) {
                 if (action->text().remove(u'&') == QStringLiteral("Quick Add") &&
                     action->shortcut() == QKeySequence(QKeySequence::New))
                     ++withShortcut;
+                if (action->text() == QStringLiteral("Quit Lullet") && menu->title().isEmpty())
+                    trayMenu = menu;
             }
         }
         QCOMPARE(withShortcut, 2);
-        Q_EMIT window.quickAddRequested();
+        Q_EMIT ui.window.quickAddRequested();
         QuickAddView* quick = nullptr;
         for (QWidget* w : QApplication::topLevelWidgets()) {
             if (w->isVisible() && qobject_cast<QuickAddView*>(w))
@@ -210,67 +128,70 @@ private Q_SLOTS:
         QVERIFY(quick);
         QTest::keyClick(quick->nameField(), Qt::Key_Escape);
         QVERIFY(!quick->isVisible());
-
         // A window minimised would hide its own bar: the quick-add window comes instead.
-        shell.bringMainWindowForward();
-        window.showMinimized();
-        Q_EMIT window.quickAddRequested();
+        ui.shell.bringMainWindowForward();
+        ui.window.showMinimized();
+        Q_EMIT ui.window.quickAddRequested();
         QVERIFY(quick->isVisible());
-        QVERIFY(!shell.content()->mainView()->quickAddBar()->isVisible());
+        QVERIFY(!ui.shell.content()->mainView()->quickAddBar()->isVisible());
+
+        QVERIFY(trayMenu);
+        QSignalSpy quit(&ui.shell, &Shell::quitRequested);
+        for (const QString& text : {QStringLiteral("Open Lullet"), QStringLiteral("Quit Lullet")}) {
+            for (QAction* action : trayMenu->actions()) {
+                if (action->text() == text)
+                    action->trigger();
+            }
+            QCOMPARE(quit.count(), text == QStringLiteral("Quit Lullet") ? 1 : 0);
+        }
+        QVERIFY(ui.window.isVisible());
     }
 
     // From the menu: a copy saved by hand is shown in the file manager; a restore comes back on
     // the project shown before, by name; a refused file is said and changes nothing.
     void backUpAndRestoreFromTheMenu()
     {
-        QVERIFY(m_app->open());
-        Project* home = m_app->services().projectActions.addProject(QStringLiteral("Home")).project;
-        Item* walk = m_app->addItem(QStringLiteral("Walk"), at(2026, 11, 23, 12, 0));
-        m_app->services().itemActions.moveToProject(*walk, home);
-        QVERIFY(m_app->library().save());
-        MainWindow window;
-        const QString copy = QDir(m_dir->path()).filePath(QStringLiteral("mine.sqlite"));
+        Project* home = app().addProject(QStringLiteral("Home"));
+        Item* walk = app().addItem(QStringLiteral("Walk"), at(2026, 11, 23, 12, 0));
+        services().itemActions.moveToProject(*walk, home);
+        QVERIFY(library().save());
+        const QString copy = path(QStringLiteral("mine.sqlite"));
         {
             QStringList revealed;
-            BackupCommands commands(m_app->services(), &window,
-                                    [&](const QString& path) { revealed << path; });
-            Dialogs::forgetAsked();
+            BackupCommands commands(services(), nullptr,
+                                    [&](const QString& file) { revealed << file; });
             Dialogs::chooseFileNext(copy);
             commands.backUpNow();
             QTRY_COMPARE(revealed, QStringList{copy});
             QVERIFY(Dialogs::asked().front().information.endsWith(QStringLiteral(".sqlite")));
         }
 
-        Shell shell(m_app->services(), window, m_app->presence, m_app->notifier);
-        shell.setLoaded();
-        shell.bringMainWindowForward();
-        MainView* view = shell.content()->mainView();
+        // Made after the copy, so that the shell does not show it in the file manager.
+        ShellWindows ui(app());
+        ui.shell.bringMainWindowForward();
+        MainView* view = ui.shell.content()->mainView();
         view->showProjectNamed(QStringLiteral("Home"));
-        m_app->addItem(QStringLiteral("Read"), at(2026, 11, 23, 13, 0));
-        QVERIFY(m_app->library().save());
-        QSignalSpy restored(&m_app->services().backups, &Backups::restored);
+        app().addItem(QStringLiteral("Read"), at(2026, 11, 23, 13, 0));
+        QVERIFY(library().save());
+        QSignalSpy restored(&services().backups, &Backups::restored);
         // The menu asks before anything is replaced, as the backup settings do.
         Dialogs::forgetAsked();
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Yes"));
         Dialogs::chooseFileNext(copy);
-        Q_EMIT window.restoreRequested();
+        Q_EMIT ui.window.restoreRequested();
         QCOMPARE(Dialogs::asked().front().text, QStringLiteral("Confirm Restore"));
         QVERIFY(restored.wait(5000));
         QVERIFY(view->shownProject() && view->shownProject()->hasContext());
         QCOMPARE(*view->shownProject()->name(), QStringLiteral("Home"));
-        QCOMPARE(m_app->library().items().size(), std::size_t(1));
+        QCOMPARE(library().items().size(), std::size_t(1));
 
         // A text file is refused, and the user is told why.
-        const QString text = QDir(m_dir->path()).filePath(QStringLiteral("notes.txt"));
-        QFile notes(text);
-        QVERIFY(notes.open(QIODevice::WriteOnly));
-        notes.write("not a store");
-        notes.close();
+        const QString text = writeFile(QStringLiteral("notes.txt"), "not a store");
         Dialogs::forgetAsked();
-        Dialogs::answerNext(0);
-        Dialogs::answerNext(0);
+        Dialogs::answerNext(QStringLiteral("Yes"));
+        Dialogs::answerNext(QStringLiteral("Ok"));
         Dialogs::chooseFileNext(text);
-        Q_EMIT window.restoreRequested();
+        Q_EMIT ui.window.restoreRequested();
         QCOMPARE(Dialogs::asked().size(), 3);
         QCOMPARE(Dialogs::asked().back().text,
                  QStringLiteral("This file can't be restored. Nothing was changed."));

@@ -1,13 +1,10 @@
 #include "ui/authoring/DateChooser.h"
 
+#include "ui/widgets/TimeField.h"
+
 #include <QCalendarWidget>
-#include <QEvent>
 #include <QHBoxLayout>
-#include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
-#include <QTimeEdit>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace lullet {
@@ -15,7 +12,7 @@ namespace lullet {
 DateChooser::DateChooser(std::optional<Date> initial, std::optional<Date> minimum, QWidget* parent)
     : QFrame(parent, Qt::Popup)
     , m_calendar(new QCalendarWidget(this))
-    , m_time(new QTimeEdit(this))
+    , m_time(new TimeField(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setFrameShape(QFrame::StyledPanel);
@@ -25,11 +22,6 @@ DateChooser::DateChooser(std::optional<Date> initial, std::optional<Date> minimu
     layout->addWidget(m_calendar);
     auto* row = new QHBoxLayout;
     m_time->setObjectName(QStringLiteral("time"));
-    m_time->setDisplayFormat(QLocale().timeFormat(QLocale::ShortFormat));
-    // A click puts the cursor into the hours or the minutes; what is typed there should replace
-    // them, as it does after Tab, rather than be refused as a third digit.
-    if (auto* field = m_time->findChild<QLineEdit*>())
-        field->installEventFilter(this);
     row->addWidget(m_time);
     row->addStretch();
     auto* none = new QPushButton(tr("No date"), this);
@@ -53,14 +45,6 @@ DateChooser::DateChooser(std::optional<Date> initial, std::optional<Date> minimu
         Q_EMIT unset();
         close();
     });
-}
-
-bool DateChooser::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::MouseButtonRelease)
-        QTimer::singleShot(0, m_time,
-                           [time = m_time] { time->setSelectedSection(time->currentSection()); });
-    return QFrame::eventFilter(watched, event);
 }
 
 void DateChooser::popUpBelow(QWidget* anchor)

@@ -7,9 +7,10 @@
 #include <optional>
 
 class QCalendarWidget;
-class QTimeEdit;
 
 namespace lullet {
+
+class TimeField;
 
 // The small date-and-time chooser of the forms. It answers the form that opened it with
 // chosen() or unset(), and closes on a click elsewhere.
@@ -22,9 +23,6 @@ public:
     // Shows the chooser below the given widget.
     void popUpBelow(QWidget* anchor);
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 Q_SIGNALS:
     void chosen(lullet::Date date);
     // The user wants no date at all.
@@ -35,7 +33,7 @@ private:
     Date selected() const;
 
     QCalendarWidget* m_calendar;
-    QTimeEdit* m_time;
+    TimeField* m_time;
 };
 
 } // namespace lullet

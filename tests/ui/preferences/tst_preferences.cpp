@@ -1,5 +1,6 @@
 #include "core/activity/RunningItem.h"
 #include "core/backup/Backups.h"
+#include "core/dates/CalendarContext.h"
 #include "core/scheduling/ScheduleTableModel.h"
 #include "core/scheduling/WorkingHours.h"
 #include "core/settings/SettingsKeys.h"
@@ -12,12 +13,14 @@
 #include "ui/preferences/PreferencesWindow.h"
 #include "ui/preferences/ScheduleTab.h"
 #include "ui/widgets/Dialogs.h"
+#include "ui/widgets/TimeField.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
@@ -145,6 +148,42 @@ private Q_SLOTS:
         QVERIFY(!services().hours.isWorkingTime(at(2026, 11, 23, 10, 30)));
         tab.resize(560, 380);
         saveShot(&tab, QStringLiteral("preferences-schedule"));
+    }
+
+    // A working time reads as every time in the program does, in the locale's short form, and
+    // what is typed over the hours or the minutes clicked replaces them.
+    void aWorkingTimeIsTypedInTheLocalesForm()
+    {
+        const QLocale before;
+        for (const char* name : {"de_DE", "fr_CA", "ko_KR", "en_US"}) {
+            CalendarContext::setLocale(QLatin1String(name));
+            QLocale::setDefault(QLocale(QLatin1String(name)));
+            ScheduleTab tab(services());
+            const QModelIndex start =
+                tab.table()->model()->index(1, ScheduleTableModel::StartColumn);
+            tab.table()->openPersistentEditor(start);
+            auto* field = qobject_cast<TimeField*>(tab.table()->indexWidget(start));
+            QVERIFY(field);
+            QCOMPARE(field->text(),
+                     at(2026, 11, 23, 9, 0).toString(DateStyle::None, DateStyle::Short));
+        }
+        QLocale::setDefault(before);
+
+        ScheduleTab tab(services());
+        tab.show();
+        QTableView* table = tab.table();
+        const QModelIndex monday = table->model()->index(1, ScheduleTableModel::StartColumn);
+        table->edit(monday);
+        auto* field = table->findChild<TimeField*>();
+        auto* typing = field->findChild<QLineEdit*>();
+        QTest::mouseClick(typing, Qt::LeftButton, {}, QPoint(3, typing->height() / 2));
+        QCoreApplication::processEvents();
+        QTest::keyClicks(field, QStringLiteral("1030"));
+        QTest::keyClick(field, Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(table->model()->data(monday).toTime(), QTime(10, 30));
+        QVERIFY(!services().hours.isWorkingTime(at(2026, 11, 23, 10, 15)));
+        QVERIFY(services().hours.isWorkingTime(at(2026, 11, 23, 10, 45)));
     }
 
     // The list of copies, newest first, kept up to date; a restore asks first and its safety

@@ -1,16 +1,18 @@
 #include "ui/authoring/DateChooser.h"
 
+#include "ui/widgets/PanelPlacement.h"
 #include "ui/widgets/TimeField.h"
 
 #include <QCalendarWidget>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace lullet {
 
 DateChooser::DateChooser(std::optional<Date> initial, std::optional<Date> minimum, QWidget* parent)
-    : QFrame(parent, Qt::Popup)
+    : QFrame(parent, Qt::Popup | Qt::FramelessWindowHint)
     , m_calendar(new QCalendarWidget(this))
     , m_time(new TimeField(this))
 {
@@ -26,6 +28,8 @@ DateChooser::DateChooser(std::optional<Date> initial, std::optional<Date> minimu
     row->addStretch();
     auto* none = new QPushButton(tr("No date"), this);
     none->setObjectName(QStringLiteral("noDate"));
+    // Return on a button presses it; anywhere else it chooses the date shown.
+    none->setAutoDefault(true);
     auto* set = new QPushButton(tr("Set"), this);
     set->setObjectName(QStringLiteral("set"));
     set->setDefault(true);
@@ -50,9 +54,19 @@ DateChooser::DateChooser(std::optional<Date> initial, std::optional<Date> minimu
 void DateChooser::popUpBelow(QWidget* anchor)
 {
     adjustSize();
-    move(anchor->mapToGlobal(QPoint(0, anchor->height())));
+    const QRect at = PanelPlacement::globalRect(anchor);
+    move(PanelPlacement::below(at, at.left(), size(), PanelPlacement::areaAt(at.center())));
     show();
     m_calendar->setFocus();
+}
+
+void DateChooser::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        choose();
+        return;
+    }
+    QFrame::keyPressEvent(event);
 }
 
 Date DateChooser::selected() const

@@ -20,8 +20,11 @@ public:
     DateChooser(std::optional<Date> initial, std::optional<Date> minimum,
                 QWidget* parent = nullptr);
 
-    // Shows the chooser below the given widget.
+    // Shows the chooser below the given widget, or above it, wholly on the screen.
     void popUpBelow(QWidget* anchor);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 Q_SIGNALS:
     void chosen(lullet::Date date);

@@ -20,6 +20,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
+#include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -134,6 +135,42 @@ private Q_SLOTS:
             if (tab == PreferencesWindow::Tab::MoreInfo)
                 saveShot(&window, QStringLiteral("preferences-more-info"));
         }
+    }
+
+    // The tabs' icons are drawn in the palette's text colour: they show on a dark window, and
+    // follow when the palette turns dark while the window is open.
+    void theTabIconsShowInADarkPalette()
+    {
+        BackupCommands commands(services(), nullptr, [](const QString&) {});
+        PreferencesWindow window(services(), commands, m_app->presence);
+        QPalette dark = window.palette();
+        dark.setColor(QPalette::Window, QColor(0x2A, 0x2A, 0x2E));
+        dark.setColor(QPalette::WindowText, QColor(0xEE, 0xEE, 0xEE));
+        dark.setColor(QPalette::Button, QColor(0x35, 0x35, 0x3A));
+        dark.setColor(QPalette::ButtonText, QColor(0xEE, 0xEE, 0xEE));
+        window.setPalette(dark);
+        for (const auto tab : {PreferencesWindow::Tab::General, PreferencesWindow::Tab::Security,
+                               PreferencesWindow::Tab::Backup, PreferencesWindow::Tab::Schedule,
+                               PreferencesWindow::Tab::MoreInfo}) {
+            const QImage icon = window.tabAction(tab)->icon().pixmap(32).toImage();
+            // The mean lightness of what the icon paints, against the window's.
+            qint64 sum = 0;
+            qint64 count = 0;
+            for (int y = 0; y < icon.height(); ++y) {
+                for (int x = 0; x < icon.width(); ++x) {
+                    const QColor pixel = icon.pixelColor(x, y);
+                    if (pixel.alpha() > 128) {
+                        sum += pixel.lightness();
+                        ++count;
+                    }
+                }
+            }
+            QVERIFY(count > 0);
+            QVERIFY2(sum / count - dark.color(QPalette::Window).lightness() > 128,
+                     qPrintable(window.tabAction(tab)->objectName()));
+        }
+        window.resize(560, 319);
+        saveShot(&window, QStringLiteral("preferences-dark"));
     }
 
     // A day switched off counts at once: no idle question on it.

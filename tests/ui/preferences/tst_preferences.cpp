@@ -24,6 +24,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTreeWidget>
@@ -171,6 +172,31 @@ private Q_SLOTS:
         }
         window.resize(560, 319);
         saveShot(&window, QStringLiteral("preferences-dark"));
+    }
+
+    // File panels open in the user's documents folder, or at home where there is none, never in
+    // the folder the program was started from; so does an open panel whose own folder is gone.
+    void filePanelsStartInTheUsersFolders()
+    {
+        BackupCommands commands(services(), nullptr, [](const QString&) {});
+        const QString documents =
+            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        QVERIFY(!QFileInfo::exists(documents));
+        const auto offeredIn = [] { return QFileInfo(Dialogs::asked().last().information).path(); };
+        Dialogs::chooseFileNext(QString());
+        commands.backUpNow();
+        QCOMPARE(offeredIn(), QDir::homePath());
+        QVERIFY(QDir().mkpath(documents));
+        Dialogs::chooseFileNext(QString());
+        commands.backUpNow();
+        QCOMPARE(offeredIn(), documents);
+
+        QVERIFY(!QFileInfo::exists(services().backups.backupsFolder()));
+        Dialogs::answerNext(0);
+        Dialogs::chooseFileNext(QString());
+        commands.restoreFromFile();
+        QCOMPARE(Dialogs::asked().last().information, documents);
+        QVERIFY(QDir(documents).removeRecursively());
     }
 
     // A day switched off counts at once: no idle question on it.

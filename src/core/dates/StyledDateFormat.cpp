@@ -8,6 +8,7 @@
 #include <unicode/datefmt.h>
 #include <unicode/dtptngen.h>
 #include <unicode/reldatefmt.h>
+#include <unicode/smpdtfmt.h>
 #include <unicode/timezone.h>
 
 #include <array>
@@ -133,6 +134,17 @@ QString StyledDateFormat::relativeDayWord(int dayOffset)
         word[0] = word[0].toUpper();
     cached = word;
     return word;
+}
+
+QString StyledDateFormat::pattern(DateStyle dateStyle, DateStyle timeStyle)
+{
+    const auto* simple =
+        dynamic_cast<const icu::SimpleDateFormat*>(threadFormats().format(dateStyle, timeStyle));
+    if (!simple)
+        return {};
+    icu::UnicodeString out;
+    simple->toPattern(out);
+    return fromIcu(out);
 }
 
 QString StyledDateFormat::format(Date date, DateStyle dateStyle, DateStyle timeStyle,

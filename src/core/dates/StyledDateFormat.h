@@ -16,6 +16,9 @@ class StyledDateFormat {
 public:
     static QString format(Date date, DateStyle dateStyle, DateStyle timeStyle,
                           const Clock* relativeTo);
+    // The locale's pattern behind those texts, in ICU's letters ("h:mm a", "HH:mm"), for
+    // fields that edit what format() writes.
+    static QString pattern(DateStyle dateStyle, DateStyle timeStyle);
     // The locale's word for a day this many days from today ("Yesterday", "Today", ...), or an
     // empty text where the locale has none.
     static QString relativeDayWord(int dayOffset);

@@ -1,21 +1,20 @@
 #include "ui/authoring/DateChooser.h"
 
+#include "ui/widgets/PanelPlacement.h"
+#include "ui/widgets/TimeField.h"
+
 #include <QCalendarWidget>
-#include <QEvent>
 #include <QHBoxLayout>
-#include <QLineEdit>
-#include <QLocale>
+#include <QKeyEvent>
 #include <QPushButton>
-#include <QTimeEdit>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace lullet {
 
 DateChooser::DateChooser(std::optional<Date> initial, std::optional<Date> minimum, QWidget* parent)
-    : QFrame(parent, Qt::Popup)
+    : QFrame(parent, Qt::Popup | Qt::FramelessWindowHint)
     , m_calendar(new QCalendarWidget(this))
-    , m_time(new QTimeEdit(this))
+    , m_time(new TimeField(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setFrameShape(QFrame::StyledPanel);
@@ -25,15 +24,12 @@ DateChooser::DateChooser(std::optional<Date> initial, std::optional<Date> minimu
     layout->addWidget(m_calendar);
     auto* row = new QHBoxLayout;
     m_time->setObjectName(QStringLiteral("time"));
-    m_time->setDisplayFormat(QLocale().timeFormat(QLocale::ShortFormat));
-    // A click puts the cursor into the hours or the minutes; what is typed there should replace
-    // them, as it does after Tab, rather than be refused as a third digit.
-    if (auto* field = m_time->findChild<QLineEdit*>())
-        field->installEventFilter(this);
     row->addWidget(m_time);
     row->addStretch();
     auto* none = new QPushButton(tr("No date"), this);
     none->setObjectName(QStringLiteral("noDate"));
+    // Return on a button presses it; anywhere else it chooses the date shown.
+    none->setAutoDefault(true);
     auto* set = new QPushButton(tr("Set"), this);
     set->setObjectName(QStringLiteral("set"));
     set->setDefault(true);
@@ -55,20 +51,22 @@ DateChooser::DateChooser(std::optional<Date> initial, std::optional<Date> minimu
     });
 }
 
-bool DateChooser::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::MouseButtonRelease)
-        QTimer::singleShot(0, m_time,
-                           [time = m_time] { time->setSelectedSection(time->currentSection()); });
-    return QFrame::eventFilter(watched, event);
-}
-
 void DateChooser::popUpBelow(QWidget* anchor)
 {
     adjustSize();
-    move(anchor->mapToGlobal(QPoint(0, anchor->height())));
+    const QRect at = PanelPlacement::globalRect(anchor);
+    move(PanelPlacement::below(at, at.left(), size(), PanelPlacement::areaAt(at.center())));
     show();
     m_calendar->setFocus();
+}
+
+void DateChooser::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        choose();
+        return;
+    }
+    QFrame::keyPressEvent(event);
 }
 
 Date DateChooser::selected() const

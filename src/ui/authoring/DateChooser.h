@@ -7,9 +7,10 @@
 #include <optional>
 
 class QCalendarWidget;
-class QTimeEdit;
 
 namespace lullet {
+
+class TimeField;
 
 // The small date-and-time chooser of the forms. It answers the form that opened it with
 // chosen() or unset(), and closes on a click elsewhere.
@@ -19,11 +20,11 @@ public:
     DateChooser(std::optional<Date> initial, std::optional<Date> minimum,
                 QWidget* parent = nullptr);
 
-    // Shows the chooser below the given widget.
+    // Shows the chooser below the given widget, or above it, wholly on the screen.
     void popUpBelow(QWidget* anchor);
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 Q_SIGNALS:
     void chosen(lullet::Date date);
@@ -35,7 +36,7 @@ private:
     Date selected() const;
 
     QCalendarWidget* m_calendar;
-    QTimeEdit* m_time;
+    TimeField* m_time;
 };
 
 } // namespace lullet

@@ -8,6 +8,7 @@
 #include "core/scheduling/CatalogueEntries.h"
 #include "core/scheduling/CatalogueRow.h"
 #include "ui/widgets/Balloon.h"
+#include "ui/widgets/TimeField.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -17,12 +18,10 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QSpinBox>
-#include <QTimeEdit>
 
 namespace lullet {
 
@@ -158,10 +157,9 @@ void RuleFormView::buildSchedule(QFormLayout* form)
     m_firstDate->setObjectName(QStringLiteral("firstDate"));
     m_firstDate->setAccessibleName(tr("Date"));
     m_firstDate->setCalendarPopup(true);
-    m_time = new QTimeEdit(first);
+    m_time = new TimeField(first);
     m_time->setObjectName(QStringLiteral("time"));
     m_time->setAccessibleName(tr("Time of day"));
-    m_time->setDisplayFormat(QLocale().timeFormat(QLocale::ShortFormat));
     firstRow->addWidget(m_firstDate);
     firstRow->addWidget(m_time);
     form->addRow(tr("First on"), first);

@@ -14,7 +14,6 @@ class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QSpinBox;
-class QTimeEdit;
 class QWidget;
 
 namespace lullet {
@@ -23,6 +22,7 @@ class Item;
 class Project;
 class Rule;
 class TaskForm;
+class TimeField;
 struct CatalogueRow;
 struct Services;
 
@@ -76,7 +76,7 @@ private:
     QLabel* m_notApplicable = nullptr;
     QCheckBox* m_remind = nullptr;
     QDateEdit* m_firstDate = nullptr;
-    QTimeEdit* m_time = nullptr;
+    TimeField* m_time = nullptr;
     QLineEdit* m_repeatCount = nullptr;
     QComboBox* m_unit = nullptr;
     QComboBox* m_end = nullptr;

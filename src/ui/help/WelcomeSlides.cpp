@@ -1,9 +1,11 @@
 #include "ui/help/WelcomeSlides.h"
 
+#include "ui/help/Links.h"
 #include "ui/help/SlideArt.h"
 #include "ui/help/SlideCanvas.h"
 #include "ui/help/UserGuide.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -64,28 +66,39 @@ void WelcomeSlides::makeButtons(QWidget* bar)
     m_next->setObjectName(QStringLiteral("next"));
     m_skip->setObjectName(QStringLiteral("skip"));
     m_position->setObjectName(QStringLiteral("position"));
-    // A hidden button keeps its place, so the others don't jump as the slides turn.
-    for (QPushButton* button : {m_previous, m_next}) {
-        QSizePolicy policy = button->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        button->setSizePolicy(policy);
-    }
-    auto* guide = new QPushButton(tr("User's Guide"), bar);
+    // Previous keeps its place while hidden, so nothing on its left jumps; Next gives its place up
+    // on the last slide, where the button that leaves takes it.
+    QSizePolicy policy = m_previous->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_previous->setSizePolicy(policy);
+    // The guide is a page to read, not a step of the slides: it reads as a link.
+    auto* guide =
+        new QLabel(Links::anchor(QUrl::fromLocalFile(QString::fromUtf8(UserGuide::fileName)),
+                                 tr("User's Guide")),
+                   bar);
     guide->setObjectName(QStringLiteral("usersGuide"));
-    guide->setFlat(true);
-    auto* row = new QHBoxLayout(bar);
+    guide->setTextFormat(Qt::RichText);
+    guide->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    connect(guide, &QLabel::linkActivated, this, [this] { UserGuide::open(window()); });
+    // Three columns, the outer two alike, so the dots stay in the middle whatever the buttons.
+    auto* row = new QGridLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_previous);
-    row->addWidget(guide);
-    row->addStretch();
-    row->addWidget(m_position);
-    row->addStretch();
-    row->addWidget(m_skip);
-    row->addWidget(m_next);
+    auto* left = new QHBoxLayout;
+    left->addWidget(m_previous);
+    left->addWidget(guide);
+    left->addStretch();
+    auto* right = new QHBoxLayout;
+    right->addStretch();
+    right->addWidget(m_skip);
+    right->addWidget(m_next);
+    row->addLayout(left, 0, 0);
+    row->addWidget(m_position, 0, 1, Qt::AlignCenter);
+    row->addLayout(right, 0, 2);
+    row->setColumnStretch(0, 1);
+    row->setColumnStretch(2, 1);
     connect(m_previous, &QPushButton::clicked, this, &WelcomeSlides::previous);
     connect(m_next, &QPushButton::clicked, this, &WelcomeSlides::next);
     connect(m_skip, &QPushButton::clicked, this, &WelcomeSlides::skipped);
-    connect(guide, &QPushButton::clicked, this, [this] { UserGuide::open(window()); });
 }
 
 int WelcomeSlides::index() const
@@ -112,6 +125,9 @@ void WelcomeSlides::showButtons()
     m_previous->setVisible(!first);
     m_next->setVisible(!last);
     m_skip->setText(last ? m_doneText : tr("Skip"));
+    // The step forward is the primary button: Next, and on the last slide the way out.
+    m_next->setDefault(!last);
+    m_skip->setDefault(last);
     QString dots;
     for (int i = 0; i < m_canvas->count(); ++i)
         dots += i == index() ? QStringLiteral("●") : QStringLiteral("○");

@@ -10,9 +10,12 @@
 #include "core/presentation/TaskStats.h"
 #include "core/scheduling/Catalogue.h"
 #include "ui/authoring/RuleFormView.h"
+#include "ui/main/RepeatListColumns.h"
+#include "ui/main/RepeatListDelegate.h"
 #include "ui/main/RepeatListModel.h"
 #include "ui/widgets/Dialogs.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -35,6 +38,7 @@ RepeatListView::RepeatListView(const Services& services, QWidget* parent)
     buildTable();
     listenToChanges();
     spanHeaders();
+    fitColumns();
     updateStats();
 }
 
@@ -68,17 +72,15 @@ void RepeatListView::buildTable()
     m_table->setAccessibleName(tr("Lullets"));
     m_table->setModel(m_model);
     m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
+    // A schedule or a next time that doesn't fit on its line goes on to the next.
+    m_table->setWordWrap(true);
+    m_table->setItemDelegate(new RepeatListDelegate(m_table));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->verticalHeader()->hide();
-    // Two lines a row: the lullet, and its schedule.
-    m_table->verticalHeader()->setDefaultSectionSize(2 * fontMetrics().height() + 10);
-    QHeaderView* columns = m_table->horizontalHeader();
-    columns->setSectionResizeMode(RepeatListModel::LulletColumn, QHeaderView::Stretch);
-    m_table->setColumnWidth(RepeatListModel::SwitchColumn, 48);
-    m_table->setColumnWidth(RepeatListModel::NextColumn, 200);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->viewport()->installEventFilter(this);
     m_table->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_table, &QWidget::customContextMenuRequested, this, [this](const QPoint& pos) {
         const CatalogueRow* row = m_model->rowAt(m_table->indexAt(pos).row());
@@ -112,6 +114,7 @@ void RepeatListView::listenToChanges()
     connect(&m_services.running, &RunningItem::extended, this, &RepeatListView::reload);
     connect(&m_services.monitor, &Monitor::minutePassed, this, [this] {
         m_model->refreshLabels();
+        fitColumns();
         updateStats();
     });
 }
@@ -122,6 +125,7 @@ void RepeatListView::reload()
     const Rule* rule = selected ? selected->representedObject : nullptr;
     m_model->reload();
     spanHeaders();
+    fitColumns();
     updateStats();
     const int row = m_model->rowOf(rule);
     if (row >= 0)
@@ -135,6 +139,25 @@ void RepeatListView::spanHeaders()
         if (m_model->rowAt(row)->type == CatalogueRow::Header)
             m_table->setSpan(row, 0, 1, RepeatListModel::ColumnCount);
     }
+}
+
+bool RepeatListView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_table->viewport() && event->type() == QEvent::Resize)
+        fitColumns();
+    return QWidget::eventFilter(watched, event);
+}
+
+void RepeatListView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        fitColumns();
+    QWidget::changeEvent(event);
+}
+
+void RepeatListView::fitColumns()
+{
+    RepeatListColumns::fit(*m_table, *m_model);
 }
 
 void RepeatListView::updateStats()

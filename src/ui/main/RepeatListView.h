@@ -32,6 +32,10 @@ public:
     // The menu of a row, as built for it.
     QMenu* buildMenu(const CatalogueRow* row);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
 private:
     void buildHeader();
     void buildTable();
@@ -39,6 +43,7 @@ private:
     void reload();
     void updateStats();
     void spanHeaders();
+    void fitColumns();
 
     const Services& m_services;
     RepeatListModel* m_model;

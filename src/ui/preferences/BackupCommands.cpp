@@ -5,10 +5,8 @@
 #include "core/security/Lock.h"
 #include "ui/widgets/Dialogs.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 #include <QWidget>
 
 #include <utility>
@@ -51,9 +49,7 @@ QWidget* BackupCommands::over(QWidget* from)
 QString BackupCommands::chooseFileToSave(const QString& caption, const QString& proposed)
 {
     m_panelOpen = true;
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString chosen =
-        Dialogs::chooseFileToSave(over(m_lastFrom), caption, QDir(folder).filePath(proposed));
+    const QString chosen = Dialogs::chooseFileToSave(over(m_lastFrom), caption, proposed);
     m_panelOpen = false;
     return chosen;
 }

@@ -10,6 +10,7 @@
 #include "ui/preferences/TabIcons.h"
 
 #include <QActionGroup>
+#include <QEvent>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QToolBar>
@@ -26,7 +27,7 @@ struct TabLook {
     const char* name;
     const char* caption;
     const char* themeIcon;
-    QIcon (*drawnIcon)();
+    QIcon (*drawnIcon)(const QColor& ink);
     // The height of the whole window while the tab shows.
     int height;
 };
@@ -92,8 +93,7 @@ void PreferencesWindow::makeToolBar(QToolBar* bar)
     bar->setIconSize(QSize(32, 32));
     auto* group = new QActionGroup(this);
     for (const TabLook& each : tabs) {
-        const QIcon icon = QIcon::fromTheme(QLatin1String(each.themeIcon), each.drawnIcon());
-        QAction* action = bar->addAction(icon, tr(each.caption));
+        QAction* action = bar->addAction(tr(each.caption));
         action->setObjectName(QLatin1String(each.name));
         action->setCheckable(true);
         group->addAction(action);
@@ -101,6 +101,23 @@ void PreferencesWindow::makeToolBar(QToolBar* bar)
         connect(action, &QAction::triggered, this, [this, tab] { showTab(tab); });
         m_actions.emplace(tab, action);
     }
+    showIcons();
+}
+
+void PreferencesWindow::showIcons()
+{
+    const QColor ink = palette().color(QPalette::WindowText);
+    for (const TabLook& each : tabs)
+        m_actions.at(each.tab)->setIcon(
+            QIcon::fromTheme(QLatin1String(each.themeIcon), each.drawnIcon(ink)));
+}
+
+void PreferencesWindow::changeEvent(QEvent* event)
+{
+    // A dark palette, or a light one again: the drawn icons follow its text colour.
+    if (event->type() == QEvent::PaletteChange)
+        showIcons();
+    QWidget::changeEvent(event);
 }
 
 QWidget* PreferencesWindow::page(Tab tab)

@@ -30,8 +30,12 @@ public:
     // The toolbar button of a tab, for the tests and the keyboard.
     QAction* tabAction(Tab tab) const { return m_actions.at(tab); }
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void makeToolBar(QToolBar* bar);
+    void showIcons();
     QWidget* page(Tab tab);
     void showUnlockedTabs();
 

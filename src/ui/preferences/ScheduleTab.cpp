@@ -3,12 +3,12 @@
 #include "core/app/Services.h"
 #include "core/dates/Date.h"
 #include "core/scheduling/ScheduleTableModel.h"
+#include "ui/widgets/TimeField.h"
 
 #include <QHeaderView>
 #include <QLabel>
 #include <QStyledItemDelegate>
 #include <QTableView>
-#include <QTimeEdit>
 #include <QVBoxLayout>
 
 namespace lullet {
@@ -33,11 +33,11 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override
     {
-        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
-        if (auto* time = qobject_cast<QTimeEdit*>(editor))
-            time->setDisplayFormat(
-                QLocale().timeFormat(QLocale::ShortFormat).remove(QLatin1String(":ss")));
-        return editor;
+        if (index.data(Qt::EditRole).typeId() != QMetaType::QTime)
+            return QStyledItemDelegate::createEditor(parent, option, index);
+        auto* field = new TimeField(parent);
+        field->setFrame(false);
+        return field;
     }
 };
 

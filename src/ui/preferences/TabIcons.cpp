@@ -13,9 +13,8 @@ namespace lullet::TabIcons {
 namespace {
 
 constexpr int side = 64;
-const QColor ink(0x4A, 0x4F, 0x55);
 
-QIcon drawn(const std::function<void(QPainter&)>& draw)
+QIcon drawn(const QColor& ink, const std::function<void(QPainter&)>& draw)
 {
     QPixmap pixmap(side, side);
     pixmap.fill(Qt::transparent);
@@ -29,9 +28,9 @@ QIcon drawn(const std::function<void(QPainter&)>& draw)
 
 } // namespace
 
-QIcon general()
+QIcon general(const QColor& ink)
 {
-    return drawn([](QPainter& painter) {
+    return drawn(ink, [](QPainter& painter) {
         // A cog: eight teeth round a wheel with a hole.
         QPainterPath cog;
         const QPointF centre(side / 2.0, side / 2.0);
@@ -49,9 +48,9 @@ QIcon general()
     });
 }
 
-QIcon security()
+QIcon security(const QColor& ink)
 {
-    return drawn([](QPainter& painter) {
+    return drawn(ink, [&ink](QPainter& painter) {
         // A padlock: a shackle over a body with a keyhole.
         QPen shackle(ink, 7);
         painter.setPen(shackle);
@@ -70,9 +69,9 @@ QIcon security()
     });
 }
 
-QIcon backup()
+QIcon backup(const QColor& ink)
 {
-    return drawn([](QPainter& painter) {
+    return drawn(ink, [](QPainter& painter) {
         // A box with its lid and a handle: where copies are kept.
         painter.drawRoundedRect(QRectF(8, 12, 48, 12), 3, 3);
         QPainterPath box;
@@ -83,9 +82,9 @@ QIcon backup()
     });
 }
 
-QIcon schedule()
+QIcon schedule(const QColor& ink)
 {
-    return drawn([](QPainter& painter) {
+    return drawn(ink, [](QPainter& painter) {
         // A calendar page: rings, a header and a grid of days.
         QPainterPath page;
         page.addRoundedRect(QRectF(8, 12, 48, 44), 5, 5);
@@ -100,9 +99,9 @@ QIcon schedule()
     });
 }
 
-QIcon moreInfo()
+QIcon moreInfo(const QColor& ink)
 {
-    return drawn([](QPainter& painter) {
+    return drawn(ink, [](QPainter& painter) {
         // An "i" cut out of a disc.
         QPainterPath disc;
         disc.addEllipse(QRectF(6, 6, 52, 52));

@@ -14,6 +14,10 @@ class PromptLayout {
 public:
     static QLabel* heading(const QString& text, QWidget* parent);
     static QLabel* message(QWidget* parent);
+    // Shows the text in a message, wrapped so that its last line is never a lone "?" or a lone
+    // time: the last two places where a line could break are closed, with no-break spaces and
+    // word joiners, so the last line holds at least three words. What shows is the text as given.
+    static void setMessage(QLabel* label, const QString& text);
     static QPushButton* button(const QString& text, QWidget* parent, bool primary = false);
 };
 

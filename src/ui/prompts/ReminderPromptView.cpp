@@ -25,7 +25,7 @@ void ReminderPromptView::buildDueSection(QVBoxLayout* layout)
 {
     layout->addWidget(PromptLayout::heading(tr("Reminder"), this));
     QLabel* message = PromptLayout::message(this);
-    message->setText(m_prompt.reminderText());
+    PromptLayout::setMessage(message, m_prompt.reminderText());
     layout->addWidget(message);
 
     auto* actions = new QHBoxLayout;
@@ -64,7 +64,7 @@ void ReminderPromptView::buildPreviousSection(QVBoxLayout* layout)
     auto* inner = new QVBoxLayout(section);
     inner->setContentsMargins(0, 8, 0, 0);
     QLabel* question = PromptLayout::message(section);
-    question->setText(m_prompt.previousText());
+    PromptLayout::setMessage(question, m_prompt.previousText());
     inner->addWidget(question);
     inner->addLayout(finishedOrMoreTime(
         section, QStringLiteral("finishPrevious"), [this] { return m_prompt.finishPrevious(); },

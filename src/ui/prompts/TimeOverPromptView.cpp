@@ -16,7 +16,7 @@ TimeOverPromptView::TimeOverPromptView(const Services& services, Item* item, QWi
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(PromptLayout::heading(tr("Time is up"), this));
     QLabel* question = PromptLayout::message(this);
-    question->setText(m_prompt.question());
+    PromptLayout::setMessage(question, m_prompt.question());
     question->setVisible(item != nullptr);
     layout->addWidget(question);
 

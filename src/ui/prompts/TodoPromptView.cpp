@@ -18,7 +18,7 @@ TodoPromptView::TodoPromptView(const Services& services, Item* item, QWidget* pa
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(PromptLayout::heading(tr("Lullet"), this));
     QLabel* message = PromptLayout::message(this);
-    message->setText(m_prompt.text());
+    PromptLayout::setMessage(message, m_prompt.text());
     layout->addWidget(message);
     auto* actions = new QHBoxLayout;
     QPushButton* done = PromptLayout::button(tr("Done"), this, true);

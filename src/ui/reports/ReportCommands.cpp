@@ -18,7 +18,6 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QUrl>
 
 namespace lullet {
@@ -89,10 +88,8 @@ void ReportCommands::savePdf(const Report& report, QWidget* from, const QString&
 {
     if (refuseEmpty(report, from, emptyText))
         return;
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString path =
-        Dialogs::chooseFileToSave(from, QObject::tr("Save the Report as PDF"),
-                                  QDir(folder).filePath(Report::proposedFileName(m_clock.now())));
+    const QString path = Dialogs::chooseFileToSave(from, QObject::tr("Save the Report as PDF"),
+                                                   Report::proposedFileName(m_clock.now()));
     if (path.isEmpty())
         return;
     if (!writePdf(report, path)) {

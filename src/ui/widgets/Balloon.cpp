@@ -1,10 +1,8 @@
 #include "ui/widgets/Balloon.h"
 
-#include <QGuiApplication>
-#include <QScreen>
-#include <QTimer>
+#include "ui/widgets/PanelPlacement.h"
 
-#include <algorithm>
+#include <QTimer>
 
 namespace lullet {
 
@@ -41,15 +39,9 @@ Balloon* Balloon::show(const QString& message, QWidget* anchor, int lifetimeMs)
 {
     dismiss(anchor);
     auto* balloon = new Balloon(message, anchor);
-    QPoint pos = anchor->mapToGlobal(QPoint(0, anchor->height() + 2));
-    if (const QScreen* screen = anchor->screen()) {
-        const QRect area = screen->availableGeometry();
-        if (pos.y() + balloon->height() > area.bottom())
-            pos.setY(anchor->mapToGlobal(QPoint(0, 0)).y() - balloon->height() - 2);
-        pos.setX(std::clamp(pos.x(), area.left(),
-                            std::max(area.left(), area.right() - balloon->width())));
-    }
-    balloon->move(pos);
+    const QRect at = PanelPlacement::globalRect(anchor);
+    balloon->move(PanelPlacement::below(at, at.left(), balloon->size(),
+                                        PanelPlacement::areaAt(at.center()), 2));
     balloon->QLabel::show();
     QTimer::singleShot(lifetimeMs, balloon, &QWidget::close);
     return balloon;

@@ -1,10 +1,13 @@
 #include "ui/widgets/Dialogs.h"
 
 #include <QAbstractButton>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QQueue>
+#include <QStandardPaths>
 
 namespace lullet {
 
@@ -37,6 +40,13 @@ QList<Dialogs::Question>& history()
 {
     static QList<Dialogs::Question> list;
     return list;
+}
+
+// Where a file panel starts when no folder of its own is there: the user's documents, or home.
+QString usersFolder()
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return !documents.isEmpty() && QFileInfo(documents).isDir() ? documents : QDir::homePath();
 }
 
 } // namespace
@@ -73,8 +83,9 @@ void Dialogs::inform(QWidget* parent, const QString& text, const QString& inform
     ask(parent, {text, information, {QStringLiteral("Ok")}});
 }
 
-QString Dialogs::chooseFileToSave(QWidget* parent, const QString& caption, const QString& proposed)
+QString Dialogs::chooseFileToSave(QWidget* parent, const QString& caption, const QString& name)
 {
+    const QString proposed = QDir(usersFolder()).filePath(name);
     history().append({caption, proposed, {}});
     if (!chosenFiles().isEmpty())
         return chosenFiles().dequeue();
@@ -83,10 +94,11 @@ QString Dialogs::chooseFileToSave(QWidget* parent, const QString& caption, const
 
 QString Dialogs::chooseFileToOpen(QWidget* parent, const QString& caption, const QString& folder)
 {
-    history().append({caption, folder, {}});
+    const QString start = QFileInfo(folder).isDir() ? folder : usersFolder();
+    history().append({caption, start, {}});
     if (!chosenFiles().isEmpty())
         return chosenFiles().dequeue();
-    return QFileDialog::getOpenFileName(parent, caption, folder);
+    return QFileDialog::getOpenFileName(parent, caption, start);
 }
 
 void Dialogs::chooseFileNext(const QString& path)

@@ -27,10 +27,10 @@ public:
                         const QString& no = QStringLiteral("No"));
     // A message with one button, "Ok".
     static void inform(QWidget* parent, const QString& text, const QString& information = {});
-    // The desktop's file panels: a file to write, offered under `proposed` (a path), or a file
-    // to read, starting in `folder`. Empty when the user cancels.
-    static QString chooseFileToSave(QWidget* parent, const QString& caption,
-                                    const QString& proposed);
+    // The desktop's file panels: a file to write, offered under `name` in the user's documents
+    // folder (at home where there is none), or a file to read, starting in `folder` while it
+    // exists. Never in the folder the program was started from. Empty when the user cancels.
+    static QString chooseFileToSave(QWidget* parent, const QString& caption, const QString& name);
     static QString chooseFileToOpen(QWidget* parent, const QString& caption, const QString& folder);
 
     // Tests: the next question is answered with the button of this label, without a panel.

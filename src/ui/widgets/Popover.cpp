@@ -1,9 +1,9 @@
 #include "ui/widgets/Popover.h"
 
-#include <QGuiApplication>
+#include "ui/widgets/PanelPlacement.h"
+
 #include <QKeyEvent>
 #include <QPropertyAnimation>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -37,19 +37,8 @@ Popover::~Popover() = default;
 void Popover::showBelow(const QRect& anchor)
 {
     adjustSize();
-    QScreen* screen = QGuiApplication::screenAt(anchor.center());
-    if (!screen)
-        screen = QGuiApplication::primaryScreen();
-    const QRect area = screen ? screen->availableGeometry() : QRect(0, 0, 1280, 800);
-    QPoint pos(anchor.center().x() - width() / 2, anchor.bottom() + gap);
-    // A panel at the bottom of the screen opens upwards instead.
-    if (pos.y() + height() > area.bottom())
-        pos.setY(anchor.top() - gap - height());
-    pos.setX(std::clamp(pos.x(), area.left() + gap,
-                        std::max(area.left(), area.right() - width() - gap)));
-    pos.setY(std::clamp(pos.y(), area.top() + gap,
-                        std::max(area.top(), area.bottom() - height() - gap)));
-    move(pos);
+    move(PanelPlacement::below(anchor, anchor.center().x() - width() / 2, size(),
+                               PanelPlacement::areaAt(anchor.center()), gap, gap));
     setWindowOpacity(1.0);
     show();
     raise();

@@ -108,6 +108,36 @@ private Q_SLOTS:
         QTest::keyClick(window.nameField(), Qt::Key_Escape);
         QCOMPARE(dismissed.count(), 1);
     }
+
+    // Opened near the bottom right corner of the screen, the chooser lies wholly on it; Return
+    // chooses the date from the time field as from the calendar, and on "No date" presses it.
+    void theChooserIsOnScreenAndReturnChooses()
+    {
+        QuickAddView window(app().services());
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        auto* button = window.findChild<QPushButton*>(QStringLiteral("chooseDate"));
+        const QRect area = window.screen()->availableGeometry();
+        window.move(area.right() - window.frameGeometry().width(),
+                    area.bottom() - window.frameGeometry().height());
+        QTRY_VERIFY(area.contains(window.frameGeometry()));
+        button->click();
+        auto* chooser = window.findChild<DateChooser*>();
+        QVERIFY(chooser && chooser->isVisible());
+        QVERIFY(area.contains(chooser->frameGeometry()));
+
+        auto* time = chooser->findChild<QTimeEdit*>(QStringLiteral("time"));
+        time->setTime(QTime(7, 5));
+        QTest::keyClick(time, Qt::Key_Return);
+        QVERIFY(!chooser->isVisible());
+        QCOMPARE(*window.form().date(), at(2026, 11, 23, 7, 5));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+        button->click();
+        chooser = window.findChild<DateChooser*>();
+        QTest::keyClick(chooser->findChild<QPushButton*>(QStringLiteral("noDate")), Qt::Key_Return);
+        QVERIFY(!window.form().date());
+    }
 };
 
 LULLET_TEST_MAIN_WITH(QApplication, TestQuickAdd)

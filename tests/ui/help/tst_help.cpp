@@ -61,6 +61,39 @@ private Q_SLOTS:
         QCOMPARE(skipped.count(), 1);
     }
 
+    // The button that leaves stands on the last slide where Next stood, as the primary one; the
+    // dots stay in the middle; the guide reads as a link.
+    void theLastSlideLeavesFromWhereNextStood()
+    {
+        WelcomeSlides slides(QStringLiteral("Get Started"));
+        slides.resize(600, 600);
+        slides.show();
+        QPushButton* next = button(&slides, "next");
+        QPushButton* skip = button(&slides, "skip");
+        auto* dots = slides.findChild<QLabel*>(QStringLiteral("position"));
+        const auto settle = [] {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        };
+        const auto centred = [&] {
+            return std::abs(dots->geometry().center().x() - dots->parentWidget()->width() / 2) <= 1;
+        };
+        settle();
+        QVERIFY(next->isDefault() && !skip->isDefault());
+        QVERIFY(centred());
+        for (int slide = 1; slide < 4; ++slide)
+            slides.next();
+        settle();
+        const int nextRight = next->geometry().right();
+        slides.next();
+        settle();
+        QCOMPARE(skip->geometry().right(), nextRight);
+        QVERIFY(skip->isDefault());
+        QVERIFY(centred());
+        auto* guide = slides.findChild<QLabel*>(QStringLiteral("usersGuide"));
+        QVERIFY(guide && guide->text().startsWith(QStringLiteral("<a href=")));
+        QVERIFY(guide->textInteractionFlags() & Qt::LinksAccessibleByKeyboard);
+    }
+
     // One help window however often asked for; leaving it, by Skip or by closing, changes no
     // setting, and Skip brings the main window forward.
     void theHelpWindowChangesNoSetting()

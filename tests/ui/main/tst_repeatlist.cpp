@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
+#include <QStyle>
 #include <QTableView>
 
 using namespace lullet;
@@ -108,6 +109,55 @@ private Q_SLOTS:
         QVERIFY(library().rules().empty());
         QCOMPARE(rowTitled(model, QStringLiteral("Knee bends")), -1);
         QVERIFY(model.rowAt(model.rowCount() - 1)->title != Catalogue::customHeaderTitle());
+    }
+
+    // As wide as in a window at its 600-pixel minimum, in the usual font and at 12 points, the
+    // columns share the width: every row shows its whole schedule and its whole next time, the
+    // texts wrapping where they must and the rows growing to hold them, and the lullets keep the
+    // wider column, where a long title ends in "…".
+    void everyRuleShowsItsScheduleInANarrowWindow()
+    {
+        RepeatListView view(app().services());
+        RepeatListModel& model = view.model();
+        for (int row = 0; row < model.rowCount(); ++row)
+            model.setData(model.index(row, 0), Qt::Checked, Qt::CheckStateRole);
+        QCoreApplication::processEvents();
+        view.resize(400, 560);
+        view.show();
+        QTableView* table = view.table();
+        for (const qreal points : {view.font().pointSizeF(), 12.0}) {
+            QFont font = view.font();
+            font.setPointSizeF(points);
+            view.setFont(font);
+            QCoreApplication::processEvents();
+            saveShot(&view, QStringLiteral("repeat-list-narrow-%1pt").arg(points));
+            QVERIFY(table->columnWidth(RepeatListModel::LulletColumn) >=
+                    table->columnWidth(RepeatListModel::NextColumn));
+            const QFontMetrics metrics(font);
+            // Whether a text, wrapped to the column within the style's margins, stands whole in
+            // the height.
+            const int margins =
+                2 * (table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table) + 1);
+            auto fits = [&](const QString& text, int column, int height) {
+                const int width = table->columnWidth(column) - margins;
+                const QRect needed =
+                    metrics.boundingRect(QRect(0, 0, width, 1000), Qt::TextWordWrap, text);
+                return needed.width() <= width && needed.height() <= height;
+            };
+            for (int row = 0; row < model.rowCount(); ++row) {
+                const CatalogueRow* shown = model.rowAt(row);
+                if (shown->type != CatalogueRow::ItemRow)
+                    continue;
+                const int height = table->rowHeight(row);
+                const QString next =
+                    model.index(row, RepeatListModel::NextColumn).data().toString();
+                QVERIFY2(!next.isEmpty(), qPrintable(shown->title));
+                QVERIFY2(fits(next, RepeatListModel::NextColumn, height), qPrintable(next));
+                QVERIFY2(fits(shown->notes2, RepeatListModel::LulletColumn,
+                              height - metrics.lineSpacing()),
+                         qPrintable(shown->notes2));
+            }
+        }
     }
 };
 

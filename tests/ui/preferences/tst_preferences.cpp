@@ -5,12 +5,17 @@
 #include "ui/preferences/BackupTab.h"
 #include "ui/preferences/PreferencesWindow.h"
 #include "ui/preferences/ScheduleTab.h"
+#include "ui/widgets/TimeField.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
+#include <QImage>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTableView>
 #include <QTreeWidget>
 
@@ -92,6 +97,67 @@ private Q_SLOTS:
         saveShot(&window, QStringLiteral("preferences-general"));
     }
 
+    // The tabs' icons are drawn in the palette's text colour: they show on a dark window, and
+    // follow when the palette turns dark while the window is open.
+    void theTabIconsShowInADarkPalette()
+    {
+        BackupCommands commands(services(), nullptr, [](const QString&) {});
+        PreferencesWindow window(services(), commands, app().presence);
+        QPalette dark = window.palette();
+        dark.setColor(QPalette::Window, QColor(0x2A, 0x2A, 0x2E));
+        dark.setColor(QPalette::WindowText, QColor(0xEE, 0xEE, 0xEE));
+        dark.setColor(QPalette::Button, QColor(0x35, 0x35, 0x3A));
+        dark.setColor(QPalette::ButtonText, QColor(0xEE, 0xEE, 0xEE));
+        window.setPalette(dark);
+        for (const auto tab : {PreferencesWindow::Tab::General, PreferencesWindow::Tab::Security,
+                               PreferencesWindow::Tab::Backup, PreferencesWindow::Tab::Schedule,
+                               PreferencesWindow::Tab::MoreInfo}) {
+            const QImage icon = window.tabAction(tab)->icon().pixmap(32).toImage();
+            // The mean lightness of what the icon paints, against the window's.
+            qint64 sum = 0;
+            qint64 count = 0;
+            for (int y = 0; y < icon.height(); ++y) {
+                for (int x = 0; x < icon.width(); ++x) {
+                    const QColor pixel = icon.pixelColor(x, y);
+                    if (pixel.alpha() > 128) {
+                        sum += pixel.lightness();
+                        ++count;
+                    }
+                }
+            }
+            QVERIFY(count > 0);
+            QVERIFY2(sum / count - dark.color(QPalette::Window).lightness() > 128,
+                     qPrintable(window.tabAction(tab)->objectName()));
+        }
+        window.resize(560, 319);
+        saveShot(&window, QStringLiteral("preferences-dark"));
+    }
+
+    // File panels open in the user's documents folder, or at home where there is none, never in
+    // the folder the program was started from; so does an open panel whose own folder is gone.
+    void filePanelsStartInTheUsersFolders()
+    {
+        BackupCommands commands(services(), nullptr, [](const QString&) {});
+        const QString documents =
+            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        QVERIFY(!QFileInfo::exists(documents));
+        const auto offeredIn = [] { return QFileInfo(Dialogs::asked().last().information).path(); };
+        Dialogs::chooseFileNext(QString());
+        commands.backUpNow();
+        QCOMPARE(offeredIn(), QDir::homePath());
+        QVERIFY(QDir().mkpath(documents));
+        Dialogs::chooseFileNext(QString());
+        commands.backUpNow();
+        QCOMPARE(offeredIn(), documents);
+
+        QVERIFY(!QFileInfo::exists(services().backups.backupsFolder()));
+        Dialogs::answerNext(QStringLiteral("Yes"));
+        Dialogs::chooseFileNext(QString());
+        commands.restoreFromFile();
+        QCOMPARE(Dialogs::asked().last().information, documents);
+        QVERIFY(QDir(documents).removeRecursively());
+    }
+
     // A day switched off counts at once: no idle question on it.
     void theWorkingWeek()
     {
@@ -104,6 +170,42 @@ private Q_SLOTS:
         QVERIFY(!services().hours.isWorkingTime(at(2026, 11, 23, 10, 30)));
         tab.resize(560, 380);
         saveShot(&tab, QStringLiteral("preferences-schedule"));
+    }
+
+    // A working time reads as every time in the program does, in the locale's short form, and
+    // what is typed over the hours or the minutes clicked replaces them.
+    void aWorkingTimeIsTypedInTheLocalesForm()
+    {
+        const QLocale before;
+        for (const char* name : {"de_DE", "fr_CA", "ko_KR", "en_US"}) {
+            CalendarContext::setLocale(QLatin1String(name));
+            QLocale::setDefault(QLocale(QLatin1String(name)));
+            ScheduleTab tab(services());
+            const QModelIndex start =
+                tab.table()->model()->index(1, ScheduleTableModel::StartColumn);
+            tab.table()->openPersistentEditor(start);
+            auto* field = qobject_cast<TimeField*>(tab.table()->indexWidget(start));
+            QVERIFY(field);
+            QCOMPARE(field->text(),
+                     at(2026, 11, 23, 9, 0).toString(DateStyle::None, DateStyle::Short));
+        }
+        QLocale::setDefault(before);
+
+        ScheduleTab tab(services());
+        tab.show();
+        QTableView* table = tab.table();
+        const QModelIndex monday = table->model()->index(1, ScheduleTableModel::StartColumn);
+        table->edit(monday);
+        auto* field = table->findChild<TimeField*>();
+        auto* typing = field->findChild<QLineEdit*>();
+        QTest::mouseClick(typing, Qt::LeftButton, {}, QPoint(3, typing->height() / 2));
+        QCoreApplication::processEvents();
+        QTest::keyClicks(field, QStringLiteral("1030"));
+        QTest::keyClick(field, Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(table->model()->data(monday).toTime(), QTime(10, 30));
+        QVERIFY(!services().hours.isWorkingTime(at(2026, 11, 23, 10, 15)));
+        QVERIFY(services().hours.isWorkingTime(at(2026, 11, 23, 10, 45)));
     }
 
     // The list of copies, newest first, kept up to date; a restore asks first and its safety

@@ -2,6 +2,7 @@
 #include "support/Asking.h"
 #include "support/DesktopTest.h"
 #include "support/FakeNotifications.h"
+#include "support/Shots.h"
 #include "ui/prompts/IdlePromptView.h"
 #include "ui/prompts/ReminderPromptView.h"
 #include "ui/prompts/TimeOverPromptView.h"
@@ -9,10 +10,12 @@
 #include "ui/widgets/Balloon.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
+#include <QTextLayout>
 
 using namespace lullet;
 using namespace lullet::test;
@@ -36,6 +39,23 @@ Balloon* shownBalloon()
     return nullptr;
 }
 
+// The last line of a label's text as the label wraps it.
+QString lastLine(const QLabel* label)
+{
+    QTextLayout layout(label->text(), label->font());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QString last;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(label->contentsRect().width());
+        last = label->text().mid(line.textStart(), line.textLength());
+    }
+    layout.endLayout();
+    return last;
+}
+
 } // namespace
 
 // Each prompt on screen, driven by its buttons as a user would.
@@ -52,6 +72,47 @@ class TestPromptViews : public DesktopTest {
     }
 
 private Q_SLOTS:
+    // However long the title, a prompt's last line is never a lone "?" or a lone time: it holds
+    // at least three words. The texts read exactly as the program words them.
+    void aMessageEndsWithMoreThanItsLastWord()
+    {
+        const QStringList words =
+            QStringLiteral("Drink a glass of water and take a short walk around the room then "
+                           "stretch both arms and legs slowly")
+                .split(u' ');
+        const QString time = at(2026, 11, 23, 10, 15).toString(DateStyle::None, DateStyle::Short);
+        for (qsizetype count = 1; count <= words.size(); ++count) {
+            const QString title = words.mid(0, count).join(u' ');
+            Item* previous = item(title, at(2026, 11, 23, 9, 0), 5);
+            Item* due = item(title, at(2026, 11, 23, 10, 15), 5);
+            ReminderPromptView reminder(services(), due, previous);
+            TimeOverPromptView timeOver(services(), previous);
+            TodoPromptView todo(services(), due);
+            const std::pair<QWidget*, QStringList> prompts[] = {
+                {&reminder,
+                 {QStringLiteral("Time for : %1, at :%2").arg(title, time),
+                  QStringLiteral("Have you finished : %1 ?").arg(title)}},
+                {&timeOver, {QStringLiteral("Have you finished : %1 ?").arg(title)}},
+                {&todo, {QStringLiteral("Time for : %1. Done ?").arg(title)}},
+            };
+            for (const auto& [prompt, texts] : prompts) {
+                prompt->show();
+                QStringList shown;
+                for (const QLabel* label : prompt->findChildren<QLabel*>()) {
+                    if (!label->wordWrap())
+                        continue;
+                    QString text = label->text();
+                    shown << text.replace(QChar::Nbsp, u' ').remove(QChar(0x2060));
+                    const QString last = lastLine(label).replace(QChar::Nbsp, u' ');
+                    QVERIFY2(last.simplified().count(u' ') >= 2, qPrintable(label->text()));
+                }
+                QCOMPARE(shown, texts);
+            }
+            if (count == 5)
+                saveShot(&reminder, QStringLiteral("reminder-wrapped"));
+        }
+    }
+
     void theReminderStartsTheDueItem()
     {
         Item* due = item(QStringLiteral("Tea"), at(2026, 11, 23, 10, 15), 10);

@@ -31,11 +31,12 @@ void Protection::writeSwitch(bool on, Writer writer)
 
 void Protection::readPassword(QObject* context, SecretStore::ReadDone done)
 {
-    m_secrets.read(context, [this, done = std::move(done)](const SecretStore::Reading& reading) {
-        if (reading.outcome == SecretStore::Outcome::NotFound)
-            writeSwitch(false);
-        done(reading);
-    });
+    m_secrets.read(account(), context,
+                   [this, done = std::move(done)](const SecretStore::Reading& reading) {
+                       if (reading.outcome == SecretStore::Outcome::NotFound)
+                           writeSwitch(false);
+                       done(reading);
+                   });
 }
 
 void Protection::switchOn()
@@ -47,17 +48,18 @@ void Protection::switchOff()
 {
     // The answer changes nothing: the switch is off either way, and a password left behind in
     // an unreachable keyring is read as the current password when protection is next set.
-    m_secrets.remove(this, [](const QString&) {});
+    m_secrets.remove(account(), this, [](const QString&) {});
     writeSwitch(false);
 }
 
 void Protection::storePassword(const QString& password, QObject* context,
                                SecretStore::WriteDone done)
 {
-    m_secrets.write(password, context, [this, done = std::move(done)](const QString& error) {
-        writeSwitch(error.isEmpty());
-        done(error);
-    });
+    m_secrets.write(account(), password, context,
+                    [this, done = std::move(done)](const QString& error) {
+                        writeSwitch(error.isEmpty());
+                        done(error);
+                    });
 }
 
 void Protection::logIn(const QString& typed, QObject* context, LoginDone done)
@@ -66,7 +68,7 @@ void Protection::logIn(const QString& typed, QObject* context, LoginDone done)
         done(Login::Blank, {});
         return;
     }
-    m_secrets.read(context,
+    m_secrets.read(account(), context,
                    [this, typed, done = std::move(done)](const SecretStore::Reading& reading) {
                        switch (reading.outcome) {
                        case SecretStore::Outcome::Unavailable:

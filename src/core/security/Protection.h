@@ -17,6 +17,9 @@ class Protection final : public QObject {
 public:
     Protection(Settings& settings, SecretStore& secrets, Lock& lock, QObject* parent = nullptr);
 
+    // The keyring's account of the launch password: the process name and "AppAccount".
+    static QString account() { return QStringLiteral("lulletAppAccount"); }
+
     // The launch asks for the password.
     bool isOn() const;
 

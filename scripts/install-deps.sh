@@ -12,6 +12,7 @@ packages=(
   qtkeychain-qt6-dev libsecret-1-0 gnome-keyring
   desktop-file-utils poppler-utils xdg-utils
   appstream librsvg2-bin dpkg-dev libxcb1-dev
+  libical-dev radicale apache2-utils python3-bcrypt openssl
 )
 
 missing=()

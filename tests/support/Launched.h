@@ -24,10 +24,11 @@ inline Date at(int y, int mo, int d, int h = 0, int mi = 0, int s = 0)
 // the clock is fake, and the prompts the monitor asks for are recorded instead of shown.
 class Launched {
 public:
-    Launched(const QString& dir, Date now)
+    Launched(const QString& dir, Date now, Sync::PortFactory ports = {})
         : clock(now)
         , settings(QDir(dir).filePath(QStringLiteral("Lullet.conf")))
-        , core(clock, settings, QDir(dir).filePath(QStringLiteral("data")), inhibitor, secrets)
+        , core(clock, settings, QDir(dir).filePath(QStringLiteral("data")), inhibitor, secrets,
+               std::move(ports))
         , prompts(core.services().monitor)
     {
     }

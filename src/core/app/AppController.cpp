@@ -30,7 +30,7 @@ Date nearestMinute(Date now)
 
 AppController::AppController(const Clock& clock, Settings& settings, const QString& storeFolder,
                              DisplaySleepInhibitor& inhibitor, SecretStore& secrets,
-                             QObject* parent)
+                             Sync::PortFactory ports, QObject* parent)
     : QObject(parent)
     , m_clock(clock)
     , m_settings(settings)
@@ -49,13 +49,17 @@ AppController::AppController(const Clock& clock, Settings& settings, const QStri
     , m_postponing(clock, m_library)
     , m_backups({clock, settings, m_store, m_library, m_catalogue, m_running})
     , m_protection(settings, secrets, m_lock)
-    , m_services{clock,       settings,      m_library,        m_schedule,   m_hours,
-                 m_texts,     m_generator,   m_catalogue,      m_running,    m_lock,
-                 m_monitor,   m_itemActions, m_projectActions, m_postponing, m_backups,
-                 m_protection}
+    , m_changeLog(clock, m_store)
+    , m_sync({clock, settings, m_store, m_library, m_catalogue, m_running, secrets, m_changeLog},
+             std::move(ports))
+    , m_services{clock,        settings,      m_library,        m_schedule,   m_hours,
+                 m_texts,      m_generator,   m_catalogue,      m_running,    m_lock,
+                 m_monitor,    m_itemActions, m_projectActions, m_postponing, m_backups,
+                 m_protection, m_sync}
 {
     // The idle question the lock held back is asked as soon as the user is in.
     connect(&m_lock, &Lock::unlocked, &m_monitor, &Monitor::askWhatNow);
+    connect(&m_backups, &Backups::restored, &m_sync, &Sync::storeReplaced);
 }
 
 AppController::~AppController() = default;
@@ -68,6 +72,8 @@ Store::Result AppController::open()
     if (opened.outcome != Store::Outcome::Opened)
         return opened;
     m_storeOpen = true;
+    // Every change saved from now on waits to be synchronised.
+    m_store.context().setSaveObserver(&m_changeLog);
     m_library.loadProjects();
     m_library.loadItems();
     m_catalogue.rebuild();
@@ -98,6 +104,7 @@ void AppController::startMonitoring()
     // After the launch is done: the tray and the window come first.
     if (m_settings.boolean(SettingsKeys::automaticBackup))
         QTimer::singleShot(0, this, [this] { m_backups.createLaunchBackup(); });
+    m_sync.start();
 }
 
 void AppController::armTimer()

@@ -16,6 +16,7 @@ class Protection;
 class RunningItem;
 class ScheduleTexts;
 class Settings;
+class Sync;
 class WorkingHours;
 class WorkingSchedule;
 
@@ -38,6 +39,7 @@ struct Services {
     Postponing& postponing;
     Backups& backups;
     Protection& protection;
+    Sync& sync;
 };
 
 } // namespace lullet

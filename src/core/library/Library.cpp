@@ -78,10 +78,22 @@ void Library::loadHistory(const Project& project)
     readHistoryIn(&project);
 }
 
+void Library::loadHistoryItems(const std::vector<qint64>& rowIds)
+{
+    std::vector<Item*> loaded;
+    const bool ok = context().loadHistoryItems(rowIds, loaded);
+    listRead(loaded, ok);
+}
+
 void Library::readHistoryIn(const Project* project)
 {
     std::vector<Item*> loaded;
     const bool ok = context().loadHistory(loaded, project);
+    listRead(loaded, ok);
+}
+
+void Library::listRead(const std::vector<Item*>& loaded, bool ok)
+{
     if (!loaded.empty()) {
         m_items.insert(m_items.end(), loaded.begin(), loaded.end());
         sortItemsSoon();

@@ -44,6 +44,8 @@ public:
     // is told by readFailed(), and the next call tries the rest again.
     void loadHistory();
     void loadHistory(const Project& project);
+    // Reads these items of the history on disk into the list, and no other.
+    void loadHistoryItems(const std::vector<qint64>& rowIds);
     // Whether some history is still on disk, and a number that changes whenever that does.
     bool holdsHistory() const;
     quint32 historyVersion() const;
@@ -129,6 +131,8 @@ private:
     void later(std::function<void()> emitter);
     // All of the history on disk, or the project's.
     void readHistoryIn(const Project* project);
+    // Lists the items read from the history on disk.
+    void listRead(const std::vector<Item*>& loaded, bool ok);
     // Now, or once at the end of the batch.
     void sortItemsSoon();
     void tellRead(bool ok);

@@ -31,6 +31,12 @@ inline constexpr QLatin1String UDStatusBarIcon{"UDStatusBarIcon"};
 inline constexpr QLatin1String UDOpenAtLogin{"UDOpenAtLogin"};
 // Where the main window stood and how large it was, as Qt saves a window's geometry.
 inline constexpr QLatin1String mainWindowGeometry{"mainWindowGeometry"};
+// The CalDAV server or collection the to-dos are synchronised with; empty: no synchronisation.
+inline constexpr QLatin1String syncURL{"syncURL"};
+// The user name on that server; empty for a server without logins. The password is the keyring's.
+inline constexpr QLatin1String syncUser{"syncUser"};
+// Minutes between synchronisations.
+inline constexpr QLatin1String syncInterval{"syncInterval"};
 
 // Keys inside the "passwordValues" dictionary.
 inline constexpr QLatin1String isPassword{"isPassword"};
@@ -51,7 +57,7 @@ inline const std::vector<Default>& registeredDefaults()
     static const std::vector<Default> table = {
         {isShowFirst, 0},        {openAtLogIn, 0},        {isRating, 1},     {remindMe, 2},
         {promptDuration, 15},    {automaticBackup, true}, {backupOption, 1}, {UDDockIcon, true},
-        {UDStatusBarIcon, true}, {UDOpenAtLogin, false},
+        {UDStatusBarIcon, true}, {UDOpenAtLogin, false},  {syncInterval, 5},
     };
     return table;
 }

@@ -2,6 +2,7 @@
 
 #include "core/store/Db.h"
 #include "core/store/RecordColumns.h"
+#include "core/store/SaveObserver.h"
 #include "core/store/Stmt.h"
 #include "core/store/StringPool.h"
 #include "core/store/Transaction.h"
@@ -296,6 +297,37 @@ bool ObjectContext::loadHistory(std::vector<Item*>& read, const Project* project
     return ok;
 }
 
+bool ObjectContext::loadHistoryItems(const std::vector<qint64>& rowIds, std::vector<Item*>& read)
+{
+    if (!m_historyHeld || rowIds.empty())
+        return true;
+    Stmt stmt(m_db,
+              ("SELECT id, " + columnList<Item>() + " FROM ReminderInfo WHERE id = ?").constData());
+    if (!stmt.isValid())
+        return fail();
+    StringPool pool;
+    const QHash<qint64, Project*> projects = projectsByRowId();
+    const QSet<qint64> known = itemRowIds();
+    const std::size_t before = read.size();
+    for (const qint64 rowId : rowIds) {
+        if (known.contains(rowId))
+            continue;
+        stmt.bind(0, std::optional<qint64>(rowId));
+        if (stmt.step()) {
+            Item* item = adopt(m_reminders);
+            item->m_rowId = rowId;
+            linkToProject(*item, stmt, readColumns(stmt, *item, pool), projects);
+            read.push_back(item);
+        }
+        if (stmt.failed())
+            return fail();
+        stmt.reset();
+    }
+    if (read.size() > before)
+        ++m_historyVersion;
+    return true;
+}
+
 bool ObjectContext::scanHistory(const std::function<void(const Item&)>& visit)
 {
     if (!m_historyHeld)
@@ -305,6 +337,7 @@ bool ObjectContext::scanHistory(const std::function<void(const Item&)>& visit)
     StringPool pool(StringPool::Share::None);
     const QHash<qint64, Project*> projects = projectsByRowId();
     return readHistory(nullptr, [&](const Stmt& stmt) {
+        scratch.m_rowId = stmt.columnInt64(0);
         const int link = readColumns(stmt, scratch, pool);
         scratch.m_toProject = stmt.isNull(link) ? nullptr : projects.value(stmt.columnInt64(link));
         visit(scratch);
@@ -465,7 +498,8 @@ bool ObjectContext::save()
     Transaction txn(m_db);
     if (!txn.isActive())
         return fail();
-    if (!writeInserts() || !writeUpdates() || !writeDeletes()) {
+    if (!writeInserts() || !writeUpdates() || !writeDeletes() ||
+        (m_observer && !m_observer->saving({m_inserted, m_updated, m_deleted}))) {
         fail();
         // The rows written in this try are gone with the rollback.
         for (Record* record : m_inserted)
@@ -489,6 +523,8 @@ bool ObjectContext::save()
     m_deleted.clear();
     m_errorCode = 0;
     m_errorMessage.clear();
+    if (m_observer)
+        m_observer->saved();
     return true;
 }
 

@@ -16,6 +16,7 @@
 namespace lullet {
 
 class Db;
+class SaveObserver;
 class Stmt;
 class StringPool;
 
@@ -43,9 +44,12 @@ public:
     // to `read`. An item already here, deleted ones included, is never read twice. False on a
     // read error: what was read stays, and the next call reads the rest.
     bool loadHistory(std::vector<Item*>& read, const Project* project = nullptr);
+    // Reads these rows of the history on disk into items(), each unless it is here already, and
+    // adds the items read to `read`. False on a read error.
+    bool loadHistoryItems(const std::vector<qint64>& rowIds, std::vector<Item*>& read);
     // Calls `visit` for every item of the history still on disk, each read into one scratch
-    // record that lives only for the call and is linked to its project one way. False on a
-    // read error.
+    // record that lives only for the call, knows its row and is linked to its project one way.
+    // False on a read error.
     bool scanHistory(const std::function<void(const Item&)>& visit);
     // Changes whenever the history on disk does: at a load, a reset, or history read in.
     quint32 historyVersion() const { return m_historyVersion; }
@@ -61,6 +65,9 @@ public:
     Item* insertItem();
     // Takes the record out of the data. Its memory stays valid, flagged as deleted.
     void deleteObject(Record* record);
+
+    // Told of every save from now on; nullptr for none.
+    void setSaveObserver(SaveObserver* observer) { m_observer = observer; }
 
     bool hasChanges() const;
     // Writes every change in one transaction. On failure nothing is written, the changes stay
@@ -90,6 +97,7 @@ private:
     bool writeDeletes();
 
     Db& m_db;
+    SaveObserver* m_observer = nullptr;
     bool m_loaded = false;
     std::optional<Date> m_historyBefore;
     bool m_historyHeld = false;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <vector>
+
+namespace lullet {
+
+class Record;
+
+// Told of every save of the object context, inside its transaction: whatever it writes there is
+// kept or undone with the records' own rows.
+class SaveObserver {
+public:
+    struct Changes {
+        const std::vector<Record*>& inserted;
+        const std::vector<Record*>& updated;
+        // Deleted records still know their rows.
+        const std::vector<Record*>& deleted;
+    };
+
+    virtual ~SaveObserver() = default;
+    // After the records' rows are written, before the commit. False undoes the whole save.
+    virtual bool saving(const Changes& changes) = 0;
+    // After the commit.
+    virtual void saved() = 0;
+};
+
+} // namespace lullet

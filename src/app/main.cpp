@@ -7,6 +7,7 @@
 #include "core/scheduling/WorkingSchedule.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
+#include "net/NetworkHttpPort.h"
 #include "ui/desktop/AppId.h"
 #include "ui/desktop/Autostart.h"
 #include "ui/desktop/DesktopNotifier.h"
@@ -109,8 +110,13 @@ void connectQuitPaths(AppController& core, Shell& shell, MainWindow& window,
                               QStringLiteral("Quit anyway"), QStringLiteral("Cancel")))
             return;
         *terminated = true;
-        core.finishQuit();
-        QApplication::quit();
+        // A last sync sends what waits; quitting waits for it three seconds at most, and what
+        // it could not send goes at the next launch.
+        window.hide();
+        core.services().sync.finishBeforeQuit(std::chrono::seconds(3), [&core] {
+            core.finishQuit();
+            QApplication::quit();
+        });
     };
     QObject::connect(&termination, &TerminationSignals::terminationRequested, qApp, quit);
     QObject::connect(&shell, &Shell::quitRequested, qApp, quit);
@@ -168,7 +174,11 @@ int main(int argc, char* argv[])
     Settings settings(Settings::defaultPath());
     ScreenSaverInhibitor inhibitor;
     KeyringSecretStore keyring;
-    AppController core(clock, settings, Store::defaultFolder(), inhibitor, keyring);
+    // The network exists only while a sync runs.
+    AppController core(clock, settings, Store::defaultFolder(), inhibitor, keyring,
+                       [](const QString& user, const QString& password) {
+                           return std::make_unique<NetworkHttpPort>(user, password);
+                       });
     const QString program = QCoreApplication::applicationFilePath();
     Autostart autostart(Autostart::defaultPath(), program);
     DesktopPresence presence(settings, autostart, QSystemTrayIcon::isSystemTrayAvailable(),

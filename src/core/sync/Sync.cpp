@@ -67,7 +67,7 @@ QString Sync::user() const
     return m_services.settings.value(SettingsKeys::syncUser).toString();
 }
 
-void Sync::connectTo(const QUrl& url, const QString& user, const QString& password,
+void Sync::connectTo(const QUrl& url, const QString& user, const std::optional<QString>& password,
                      QObject* context, std::function<void(const QString& error)> done)
 {
     const QString previous = account(this->url(), this->user());
@@ -82,13 +82,13 @@ void Sync::connectTo(const QUrl& url, const QString& user, const QString& passwo
         if (m_started)
             syncNow();
     };
-    if (user.isEmpty()) {
+    if (user.isEmpty() || !password) {
         save();
         done({});
         return;
     }
     QPointer<QObject> guard(context);
-    m_services.secrets.write(account(url, user), password, this,
+    m_services.secrets.write(account(url, user), *password, this,
                              [save, guard, done = std::move(done)](const QString& error) {
                                  if (error.isEmpty())
                                      save();

@@ -61,9 +61,10 @@ public:
     std::optional<Date> lastSyncedAt() const { return m_lastSynced; }
 
     // Syncs with this server or collection from now on, as this user; the password goes to the
-    // keyring, never to the settings. `done` hears the keyring's refusal, or nothing.
-    void connectTo(const QUrl& url, const QString& user, const QString& password, QObject* context,
-                   std::function<void(const QString& error)> done);
+    // keyring, never to the settings. Without a password the one stored for the same account
+    // stays. `done` hears the keyring's refusal, or nothing.
+    void connectTo(const QUrl& url, const QString& user, const std::optional<QString>& password,
+                   QObject* context, std::function<void(const QString& error)> done);
     // Sync stops, and the server's password leaves the keyring. What the store knows of the
     // server stays, for a return to it.
     void turnOff();

@@ -8,6 +8,7 @@ namespace lullet::TabIcons {
 QIcon general();
 QIcon security();
 QIcon backup();
+QIcon sync();
 QIcon schedule();
 QIcon moreInfo();
 

@@ -10,6 +10,7 @@
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
 #include "core/settings/SettingsKeys.h"
+#include "core/sync/Sync.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/desktop/ActiveWindow.h"
 #include "ui/desktop/DesktopPresence.h"
@@ -87,6 +88,7 @@ Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& pres
     connect(&m_window, &MainWindow::contactRequested, this, &Shell::showContact);
     connectMonitor();
     connectBackups();
+    connectSync();
     connectLock();
     connectPresence();
 }
@@ -124,12 +126,7 @@ void Shell::connectLock()
 void Shell::connectBackups()
 {
     m_backupCommands = new BackupCommands(
-        m_services, &m_window, &FileManager::showFile,
-        [this] {
-            const Project* shown = selectedProject();
-            return shown ? shown->name().value_or(QString()) : QString();
-        },
-        this);
+        m_services, &m_window, &FileManager::showFile, [this] { return shownProjectName(); }, this);
     connect(&m_window, &MainWindow::backUpRequested, m_backupCommands,
             [this] { m_backupCommands->backUpNow(); });
     connect(&m_window, &MainWindow::restoreRequested, m_backupCommands,
@@ -139,6 +136,16 @@ void Shell::connectBackups()
         m_tray->closePopoverImmediate();
         if (MainView* main = m_content ? m_content->mainView() : nullptr)
             main->showAfterRestore(shownProject);
+    });
+}
+
+void Shell::connectSync()
+{
+    // What a sync brought is shown as after a restore, on the project shown if it still exists
+    // (renamed there, it is found by its new name).
+    connect(&m_services.sync, &Sync::changesArrived, this, [this] {
+        if (MainView* main = m_content ? m_content->mainView() : nullptr)
+            main->showAfterRestore(shownProjectName());
     });
 }
 
@@ -327,6 +334,12 @@ const Project* Shell::selectedProject() const
 {
     const MainView* main = m_content ? m_content->mainView() : nullptr;
     return main ? main->selectedProject() : nullptr;
+}
+
+QString Shell::shownProjectName() const
+{
+    const Project* shown = selectedProject();
+    return shown ? shown->name().value_or(QString()) : QString();
 }
 
 void Shell::showPrompt(const std::function<QWidget*()>& make)

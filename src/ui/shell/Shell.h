@@ -86,6 +86,7 @@ private:
     void updateToolTip();
     void connectMonitor();
     void connectBackups();
+    void connectSync();
     void connectLock();
     void connectContent();
     void connectPresence();
@@ -93,6 +94,8 @@ private:
     void onAnswered(PromptOutcome outcome);
     void onRetiring(QWidget* content);
     const Project* selectedProject() const;
+    // The name of the project the main view shows; a deleted record still knows its name.
+    QString shownProjectName() const;
 
     const Services& m_services;
     MainWindow& m_window;

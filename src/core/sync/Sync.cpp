@@ -76,6 +76,9 @@ void Sync::connectTo(const QUrl& url, const QString& user, const std::optional<Q
             m_services.secrets.remove(previous, this, [](const QString&) {});
         m_services.settings.setValue(SettingsKeys::syncURL, url.toString());
         m_services.settings.setValue(SettingsKeys::syncUser, user);
+        // A sync with the server that was is of no more use.
+        if (m_engine)
+            m_engine->abort();
         m_last.reset();
         m_lastSynced.reset();
         Q_EMIT stateChanged();
@@ -173,6 +176,10 @@ void Sync::begin(const QString& user, const QString& password)
         Q_EMIT stateChanged();
         return;
     }
+    // Records written while nothing kept the ledger (a store made before it, or by another
+    // tool) join it once a run.
+    if (!std::exchange(m_ledgerChecked, true))
+        SyncLedger(m_services.store.db()).adoptUnknownRows();
     m_port = m_ports(user, password);
     m_engine = std::make_unique<SyncEngine>(SyncEngine::Services{m_services.clock, m_services.store,
                                                                  m_services.library,
@@ -248,6 +255,7 @@ void Sync::storeReplaced()
     if (m_engine)
         m_engine->abort();
     SyncLedger(m_services.store.db()).forgetServer();
+    m_ledgerChecked = false;
 }
 
 void Sync::quitNow()

@@ -102,6 +102,7 @@ private:
     bool m_readingPassword = false;
     bool m_started = false;
     bool m_quitting = false;
+    bool m_ledgerChecked = false;
     int m_passes = 0;
     std::optional<SyncResult> m_last;
     std::optional<Date> m_lastSynced;

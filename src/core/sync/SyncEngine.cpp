@@ -21,6 +21,7 @@ using Problem = CalDavClient::Problem;
 
 constexpr int fetchBatch = 100;
 constexpr std::size_t entriesPerChunk = 500;
+constexpr std::size_t writtenPerRecord = 100;
 
 const QString sourceKey = QStringLiteral("source");
 const QString collectionKey = QStringLiteral("collection");
@@ -91,6 +92,7 @@ void SyncEngine::finish()
     if (!m_requests.isIdle() || m_finished)
         return;
     m_finished = true;
+    recordWritten();
     Q_EMIT finished(m_result);
 }
 
@@ -124,11 +126,13 @@ void SyncEngine::assignMissingUids()
             onDisk.insert(*entry.rowId);
     }
     const QHash<qint64, LocalRecords::OnDisk> disk = m_local.onDisk(onDisk);
-    for (SyncLedger::Entry& entry : missing) {
-        if (entry.uid.isEmpty() && entry.entity == Record::Entity::Item &&
-            disk.contains(*entry.rowId))
-            giveUid(entry, disk[*entry.rowId].uid);
-    }
+    m_ledger.atOnce([&] {
+        for (SyncLedger::Entry& entry : missing) {
+            if (entry.uid.isEmpty() && entry.entity == Record::Entity::Item &&
+                disk.contains(*entry.rowId))
+                giveUid(entry, disk[*entry.rowId].uid);
+        }
+    });
 }
 
 void SyncEngine::start()
@@ -187,10 +191,10 @@ void SyncEngine::readChanges()
                 return;
             }
             m_removed = changes.removed;
-            const QHash<QString, QString> known = m_ledger.etags();
             QStringList wanted;
             for (const CalDavClient::Member& member : changes.changed) {
-                if (known.value(member.href) != member.etag)
+                const std::optional<SyncLedger::Entry> known = m_ledger.byHref(member.href);
+                if (!known || known->etag != member.etag)
                     wanted.append(member.href);
             }
             fetch(wanted);
@@ -363,20 +367,22 @@ bool SyncEngine::settleIncoming()
         m_requests.stop();
         return false;
     }
-    for (const Incoming& incoming : m_incoming) {
-        if (incoming.skipped)
-            continue;
-        std::optional<SyncLedger::Entry> now =
-            incoming.made ? m_ledger.byRow(incoming.made->entity(), incoming.made->rowId())
-                          : m_ledger.byUid(incoming.read.uid);
-        if (!now)
-            now = m_ledger.byHref(incoming.href);
-        if (!now)
-            continue;
-        m_ledger.record(now->id, incoming.href, incoming.etag, incoming.text);
-        if (!incoming.send)
-            m_ledger.settle(now->id, now->pending);
-    }
+    m_ledger.atOnce([this] {
+        for (const Incoming& incoming : m_incoming) {
+            if (incoming.skipped)
+                continue;
+            std::optional<SyncLedger::Entry> now =
+                incoming.made ? m_ledger.byRow(incoming.made->entity(), incoming.made->rowId())
+                              : m_ledger.byUid(incoming.read.uid);
+            if (!now)
+                now = m_ledger.byHref(incoming.href);
+            if (!now)
+                continue;
+            m_ledger.record(now->id, incoming.href, incoming.etag, incoming.text);
+            if (!incoming.send)
+                m_ledger.settle(now->id, now->pending);
+        }
+    });
     return true;
 }
 
@@ -403,6 +409,7 @@ void SyncEngine::giveUid(SyncLedger::Entry& entry, const QString& derived)
 // The waiting changes go a chunk at a time: the history on disk is passed over once a chunk.
 void SyncEngine::uploadChunk()
 {
+    recordWritten();
     if (m_nextPending >= m_pending.size()) {
         finish();
         return;
@@ -415,24 +422,26 @@ void SyncEngine::uploadChunk()
             onDisk.insert(*entry.rowId);
     }
     const QHash<qint64, LocalRecords::OnDisk> disk = m_local.onDisk(onDisk);
-    for (; m_nextPending < end; ++m_nextPending) {
-        SyncLedger::Entry& entry = m_pending[m_nextPending];
-        if (!entry.rowId) {
-            sendDeletion(entry);
-        } else if (Record* record = m_local.recordOf(entry)) {
-            if (entry.uid.isEmpty())
-                giveUid(entry, SyncIdentity::uidFor(*record));
-            put(entry, m_local.fieldsOf(*record, fieldsOfText(entry.synced)), entry.uid);
-        } else if (disk.contains(*entry.rowId)) {
-            const LocalRecords::OnDisk& item = disk[*entry.rowId];
-            if (entry.uid.isEmpty())
-                giveUid(entry, item.uid);
-            put(entry, item.fields, entry.uid);
-        } else {
-            // Its row is gone without a deletion: nothing can be sent.
-            m_ledger.remove(entry.id);
+    m_ledger.atOnce([&] {
+        for (; m_nextPending < end; ++m_nextPending) {
+            SyncLedger::Entry& entry = m_pending[m_nextPending];
+            if (!entry.rowId) {
+                sendDeletion(entry);
+            } else if (Record* record = m_local.recordOf(entry)) {
+                if (entry.uid.isEmpty())
+                    giveUid(entry, SyncIdentity::uidFor(*record));
+                put(entry, m_local.fieldsOf(*record, fieldsOfText(entry.synced)), entry.uid);
+            } else if (disk.contains(*entry.rowId)) {
+                const LocalRecords::OnDisk& item = disk[*entry.rowId];
+                if (entry.uid.isEmpty())
+                    giveUid(entry, item.uid);
+                put(entry, item.fields, entry.uid);
+            } else {
+                // Its row is gone without a deletion: nothing can be sent.
+                m_ledger.remove(entry.id);
+            }
         }
-    }
+    });
     m_requests.run([this] { uploadChunk(); });
 }
 
@@ -451,7 +460,7 @@ void SyncEngine::put(const SyncLedger::Entry& entry, const QJsonObject& fields, 
         m_dav.put(
             CalDavClient::urlOf(m_collection, href), text, etag,
             m_requests.answer([this, entry, href, text](Outcome outcome, const QString& newTag) {
-                afterWrite(outcome, [&] {
+                afterWrite(outcome, [this, entry, href, newTag, text] {
                     m_ledger.record(entry.id, href, newTag, QString::fromUtf8(text));
                     m_ledger.settle(entry.id, entry.pending);
                 });
@@ -478,17 +487,32 @@ void SyncEngine::sendDeletion(const SyncLedger::Entry& entry)
                          // Changed there meanwhile, it comes back here at the next pass.
                          if (outcome.problem == Problem::Conflict)
                              m_ledger.remove(entry.id);
-                         afterWrite(outcome, [&] { m_ledger.remove(entry.id); });
+                         afterWrite(outcome, [this, entry] { m_ledger.remove(entry.id); });
                      }));
     });
 }
 
+// What the server took is recorded a batch at a time: should the program end before, the next
+// sync finds those resources there and only confirms them.
+void SyncEngine::recordWritten()
+{
+    if (m_written.empty())
+        return;
+    m_ledger.atOnce([this] {
+        for (const std::function<void()>& record : m_written)
+            record();
+    });
+    m_written.clear();
+}
+
 // The answer to a write: done, left to the next pass (changed there meanwhile), or refused and
 // left waiting here; anything else ends the sync.
-void SyncEngine::afterWrite(const Outcome& outcome, const std::function<void()>& written)
+void SyncEngine::afterWrite(const Outcome& outcome, std::function<void()> written)
 {
     if (outcome.ok()) {
-        written();
+        m_written.push_back(std::move(written));
+        if (m_written.size() >= writtenPerRecord)
+            recordWritten();
         ++m_result.sent;
     } else if (outcome.problem == Problem::Conflict) {
         compareAllNextTime();

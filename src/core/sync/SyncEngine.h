@@ -66,7 +66,8 @@ private:
     void uploadChunk();
     void put(const SyncLedger::Entry& entry, const QJsonObject& fields, const QString& uid);
     void sendDeletion(const SyncLedger::Entry& entry);
-    void afterWrite(const Outcome& outcome, const std::function<void()>& written);
+    void afterWrite(const Outcome& outcome, std::function<void()> written);
+    void recordWritten();
     void giveUid(SyncLedger::Entry& entry, const QString& derived);
     // What changed on the server is no longer known: the next pass compares every resource.
     void compareAllNextTime();
@@ -89,6 +90,8 @@ private:
     std::vector<SyncLedger::Entry> m_pending;
     std::size_t m_nextPending = 0;
     RequestQueue m_requests;
+    // What to record of the writes the server took, not recorded yet.
+    std::vector<std::function<void()>> m_written;
     bool m_finished = false;
 };
 

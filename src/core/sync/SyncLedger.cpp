@@ -84,6 +84,17 @@ std::vector<SyncLedger::Entry> SyncLedger::pending()
     return many("WHERE pending IS NOT NULL ORDER BY entity, id");
 }
 
+bool SyncLedger::adoptUnknownRows()
+{
+    return m_db.exec(
+        "INSERT INTO SyncRecord (entity, rowId, pending) SELECT 0, id, 0 FROM Project WHERE id "
+        "NOT IN (SELECT rowId FROM SyncRecord WHERE entity = 0 AND rowId IS NOT NULL); "
+        "INSERT INTO SyncRecord (entity, rowId, pending) SELECT 1, id, 0 FROM RepeatReminderInfo "
+        "WHERE id NOT IN (SELECT rowId FROM SyncRecord WHERE entity = 1 AND rowId IS NOT NULL); "
+        "INSERT INTO SyncRecord (entity, rowId, pending) SELECT 2, id, 0 FROM ReminderInfo WHERE "
+        "id NOT IN (SELECT rowId FROM SyncRecord WHERE entity = 2 AND rowId IS NOT NULL);");
+}
+
 std::vector<SyncLedger::Entry> SyncLedger::withoutUid()
 {
     return many("WHERE uid IS NULL AND rowId IS NOT NULL ORDER BY entity, rowId");
@@ -209,6 +220,13 @@ bool SyncLedger::remove(qint64 id)
                [&](Stmt& s) { s.bind(0, std::optional<qint64>(id)); });
 }
 
+bool SyncLedger::atOnce(const std::function<void()>& changes)
+{
+    Transaction txn(m_db);
+    changes();
+    return !txn.isActive() || txn.commit();
+}
+
 QString SyncLedger::state(const QString& key)
 {
     Stmt stmt(m_db, "SELECT value FROM SyncState WHERE key = ?");
@@ -218,6 +236,9 @@ QString SyncLedger::state(const QString& key)
 
 bool SyncLedger::setState(const QString& key, const QString& value)
 {
+    // A sync that changed nothing writes nothing.
+    if (state(key) == value)
+        return true;
     return run("INSERT INTO SyncState (key, value) VALUES (?, ?) "
                "ON CONFLICT (key) DO UPDATE SET value = excluded.value",
                [&](Stmt& s) {

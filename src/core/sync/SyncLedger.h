@@ -43,6 +43,9 @@ public:
     // Every entry whose change waits to be sent, deletions among them.
     std::vector<Entry> pending();
     bool hasPending();
+    // Records the ledger doesn't know (written while nothing kept it) join it, waiting to be
+    // sent.
+    bool adoptUnknownRows();
     // The entries of records never given a UID (records older than the ledger), by row.
     std::vector<Entry> withoutUid();
     // The version of each resource known here, by href.
@@ -65,6 +68,9 @@ public:
     // Nothing waits any more, unless the record changed again after `seen` was read.
     bool settle(qint64 id, std::optional<qint64> seen);
     bool remove(qint64 id);
+
+    // Makes the changes as one transaction: many small ones cost one write of the store.
+    bool atOnce(const std::function<void()>& changes);
 
     QString state(const QString& key);
     bool setState(const QString& key, const QString& value);

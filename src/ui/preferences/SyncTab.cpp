@@ -70,7 +70,10 @@ void SyncTab::addServerSection(QFormLayout* layout)
     layout->addRow(note);
     m_connect->setObjectName(QStringLiteral("connect"));
     m_connect->setDefault(true);
-    layout->addRow(QString(), m_connect);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_connect);
+    row->addStretch();
+    layout->addRow(QString(), row);
     connect(m_connect, &QPushButton::clicked, this, &SyncTab::onConnect);
     connect(m_url, &QLineEdit::returnPressed, this, &SyncTab::onConnect);
     connect(m_password, &QLineEdit::returnPressed, this, &SyncTab::onConnect);

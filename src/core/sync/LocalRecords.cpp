@@ -24,7 +24,7 @@ LocalRecords::LocalRecords(Library& library, ChangeLog& changeLog, SyncLedger& l
 {
 }
 
-void LocalRecords::index()
+void LocalRecords::refresh()
 {
     m_byRow.clear();
     const auto add = [this](const auto& records) {
@@ -41,8 +41,7 @@ void LocalRecords::index()
 
 void LocalRecords::bringIn(const std::vector<SyncLedger::Entry>& entries)
 {
-    if (!m_indexed)
-        index();
+    refresh();
     std::vector<qint64> wanted;
     for (const SyncLedger::Entry& entry : entries) {
         if (entry.entity == Record::Entity::Item && entry.rowId &&
@@ -52,13 +51,13 @@ void LocalRecords::bringIn(const std::vector<SyncLedger::Entry>& entries)
     if (wanted.empty() || !m_library.holdsHistory())
         return;
     m_library.loadHistoryItems(wanted);
-    index();
+    refresh();
 }
 
 Record* LocalRecords::recordOf(const SyncLedger::Entry& entry)
 {
     if (!m_indexed)
-        index();
+        refresh();
     if (!entry.rowId)
         return nullptr;
     Record* record = m_byRow.value(key(entry.entity, *entry.rowId));

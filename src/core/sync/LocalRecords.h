@@ -25,6 +25,8 @@ class LocalRecords {
 public:
     LocalRecords(Library& library, ChangeLog& changeLog, SyncLedger& ledger);
 
+    // Looks at the records in memory again, as they may have changed since.
+    void refresh();
     // Reads in, in one go, the items of these entries that are still on disk.
     void bringIn(const std::vector<SyncLedger::Entry>& entries);
     // The record of the entry, in memory; none for a record deleted or still on disk.
@@ -50,7 +52,6 @@ public:
     void remove(Record& record);
 
 private:
-    void index();
     QString uidOf(const Project* project);
     Project* projectOf(const QString& uid);
 

@@ -20,7 +20,7 @@ namespace {
 using Problem = CalDavClient::Problem;
 
 constexpr int fetchBatch = 100;
-constexpr std::size_t entriesPerChunk = 500;
+constexpr std::size_t entriesPerChunk = 2000;
 constexpr std::size_t writtenPerRecord = 100;
 
 const QString sourceKey = QStringLiteral("source");
@@ -414,6 +414,8 @@ void SyncEngine::uploadChunk()
         finish();
         return;
     }
+    // Records may have been made meanwhile.
+    m_local.refresh();
     const std::size_t end = std::min(m_pending.size(), m_nextPending + entriesPerChunk);
     QSet<qint64> onDisk;
     for (std::size_t i = m_nextPending; i < end; ++i) {
@@ -436,10 +438,8 @@ void SyncEngine::uploadChunk()
                 if (entry.uid.isEmpty())
                     giveUid(entry, item.uid);
                 put(entry, item.fields, entry.uid);
-            } else {
-                // Its row is gone without a deletion: nothing can be sent.
-                m_ledger.remove(entry.id);
             }
+            // Anything else is deleted here and not saved yet: its deletion goes next time.
         }
     });
     m_requests.run([this] { uploadChunk(); });

@@ -424,6 +424,31 @@ private Q_SLOTS:
         QCOMPARE(countTitled(*b, QStringLiteral("Kept")), 1);
     }
 
+    // What the user changes while a sync is under way goes too.
+    void aChangeDuringASyncIsSent()
+    {
+        auto a = machine(m_collection);
+        QVERIFY(a);
+        a->addItem(QStringLiteral("Before"), at(2027, 3, 9, 8, 0));
+        a->library().save();
+        // Made while the server is asked what changed.
+        m_wire->beforeSend = [&](const HttpRequest& request) {
+            if (request.method != "REPORT")
+                return;
+            m_wire->beforeSend = {};
+            QTimer::singleShot(0, [&] {
+                a->addItem(QStringLiteral("Meanwhile"), at(2027, 3, 9, 9, 0));
+                a->library().save();
+            });
+        };
+        SYNCED(*a);
+        auto b = machine(m_collection);
+        QVERIFY(b);
+        SYNCED(*b);
+        QCOMPARE(countTitled(*b, QStringLiteral("Before")), 1);
+        QCOMPARE(countTitled(*b, QStringLiteral("Meanwhile")), 1);
+    }
+
     void anUnchangedStoreCostsOneRequest()
     {
         auto a = machine(m_collection);

@@ -1,5 +1,7 @@
 #include "core/sync/CalDavClient.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace lullet {
@@ -7,6 +9,17 @@ namespace lullet {
 namespace {
 
 const QByteArray xmlType = "application/xml; charset=utf-8";
+
+// The server's own status and what was wrong with an answer, as the user reads them.
+QString statusWords(int status)
+{
+    return QCoreApplication::translate("CalDavClient", "HTTP status %1").arg(status);
+}
+
+QString notMultistatus()
+{
+    return QCoreApplication::translate("CalDavClient", "no WebDAV answer");
+}
 
 bool isRedirect(int status)
 {
@@ -60,7 +73,7 @@ CalDavClient::Outcome CalDavClient::outcomeOf(const HttpResponse& response)
         return {Problem::Aborted, response.detail};
     }
     const int status = response.status;
-    const QString words = QStringLiteral("HTTP %1").arg(status);
+    const QString words = statusWords(status);
     if (status / 100 == 2)
         return {};
     if (status == 401)
@@ -92,7 +105,7 @@ void CalDavClient::ask(const QByteArray& method, const QUrl& url, int depth, con
         Outcome outcome = outcomeOf(response);
         std::optional<DavXml::Multistatus> parsed;
         if (outcome.ok() && !(parsed = DavXml::parse(response.body, url)))
-            outcome = {Problem::Garbage, QStringLiteral("no multistatus answer")};
+            outcome = {Problem::Garbage, notMultistatus()};
         done(outcome, parsed.value_or(DavXml::Multistatus{}));
     });
 }
@@ -112,7 +125,7 @@ void CalDavClient::propfind(const QUrl& url, int depth, const QByteArray& query,
         Outcome outcome = outcomeOf(response);
         std::optional<DavXml::Multistatus> parsed;
         if (outcome.ok() && !(parsed = DavXml::parse(response.body, url)))
-            outcome = {Problem::Garbage, QStringLiteral("no multistatus answer")};
+            outcome = {Problem::Garbage, notMultistatus()};
         done(outcome, parsed.value_or(DavXml::Multistatus{}), url);
     });
 }
@@ -212,7 +225,8 @@ void CalDavClient::changesSince(const QUrl& collection, const QString& token,
                     changes.changed.push_back({r.href, r.etag});
             }
             if (outcome.ok() && changes.token.isEmpty())
-                outcome = {Problem::Garbage, QStringLiteral("no sync token")};
+                outcome = {Problem::Garbage,
+                           QCoreApplication::translate("CalDavClient", "no sync token")};
             done(outcome, changes);
         });
 }

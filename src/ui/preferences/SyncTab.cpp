@@ -191,14 +191,8 @@ QString SyncTab::statusText() const
 QString SyncTab::syncedText() const
 {
     const std::optional<Date> at = m_sync.lastSyncedAt();
-    if (!at)
-        return {};
-    const qint64 minutes = m_clock.now().secondsAfterDate(*at) / 60;
-    if (minutes < 1)
-        return tr("Synced just now.");
-    if (minutes < 60)
-        return tr("Synced %n minute(s) ago.", nullptr, int(minutes));
-    return tr("Synced at %1.").arg(at->toString(DateStyle::Short, DateStyle::Short, &m_clock));
+    // "Synced 2 minutes ago."
+    return at ? tr("Synced %1.").arg(at->relativeTimeToString(m_clock)) : QString();
 }
 
 QString SyncTab::problemText() const

@@ -14,6 +14,9 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 namespace lullet::test {
 
 // A Radicale server of the test's own on 127.0.0.1 and a free port, with its storage and
@@ -222,6 +225,8 @@ private:
     {
         writeConfig();
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        // A test that dies takes its server with it.
+        m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
         m_process.start(QStringLiteral(RADICALE_BINARY),
                         {QStringLiteral("--config"), path("config")});
         if (!m_process.waitForStarted(10000))

@@ -84,7 +84,8 @@ CalDavClient::Outcome CalDavClient::outcomeOf(const HttpResponse& response)
         return {Problem::Conflict, words};
     if ((status == 403 || status == 409) && response.body.contains("valid-sync-token"))
         return {Problem::TokenExpired, words};
-    if (status / 100 == 5)
+    // Not implemented: a refusal of the request, not a failing server.
+    if (status / 100 == 5 && status != 501)
         return {Problem::ServerError, words};
     return {Problem::Refused, words};
 }

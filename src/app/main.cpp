@@ -94,6 +94,14 @@ void openCore(AppController& core, Shell& shell, MainWindow& window, bool inTray
     QTimer::singleShot(1000, qApp, [] { ::malloc_trim(0); });
 }
 
+// HTTP for sync: a network made for each sync, which exists only while it runs.
+Sync::PortFactory networkPorts()
+{
+    return [](const QString& user, const QString& password) {
+        return std::make_unique<NetworkHttpPort>(user, password);
+    };
+}
+
 // Quitting finishes the running item and saves; every way to end the program comes here.
 void connectQuitPaths(AppController& core, Shell& shell, MainWindow& window,
                       TerminationSignals& termination)
@@ -174,11 +182,7 @@ int main(int argc, char* argv[])
     Settings settings(Settings::defaultPath());
     ScreenSaverInhibitor inhibitor;
     KeyringSecretStore keyring;
-    // The network exists only while a sync runs.
-    AppController core(clock, settings, Store::defaultFolder(), inhibitor, keyring,
-                       [](const QString& user, const QString& password) {
-                           return std::make_unique<NetworkHttpPort>(user, password);
-                       });
+    AppController core(clock, settings, Store::defaultFolder(), inhibitor, keyring, networkPorts());
     const QString program = QCoreApplication::applicationFilePath();
     Autostart autostart(Autostart::defaultPath(), program);
     DesktopPresence presence(settings, autostart, QSystemTrayIcon::isSystemTrayAvailable(),

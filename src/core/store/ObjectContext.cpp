@@ -249,10 +249,11 @@ QSet<qint64> ObjectContext::itemRowIds() const
     return ids;
 }
 
-bool ObjectContext::readHistory(const Project* project, const std::function<void(const Stmt&)>& row)
+bool ObjectContext::readHistory(const Project* project, const QByteArray& rows,
+                                const std::function<void(const Stmt&)>& row)
 {
     QByteArray sql =
-        "SELECT id, " + columnList<Item>() + " FROM ReminderInfo WHERE " + historyCondition;
+        "SELECT id, " + columnList<Item>() + " FROM ReminderInfo WHERE " + historyCondition + rows;
     if (project)
         sql += " AND toProject = ?3";
     Stmt stmt(m_db, sql.constData());
@@ -269,6 +270,19 @@ bool ObjectContext::readHistory(const Project* project, const std::function<void
     return !stmt.failed() || fail();
 }
 
+bool ObjectContext::readInto(std::vector<Item*>& read, const Project* project,
+                             const QByteArray& rows)
+{
+    StringPool pool;
+    const QHash<qint64, Project*> projects = projectsByRowId();
+    return readHistory(project, rows, [&](const Stmt& stmt) {
+        Item* item = adopt(m_reminders);
+        item->m_rowId = stmt.columnInt64(0);
+        linkToProject(*item, stmt, readColumns(stmt, *item, pool), projects);
+        read.push_back(item);
+    });
+}
+
 bool ObjectContext::loadHistory(std::vector<Item*>& read, const Project* project)
 {
     if (!m_historyHeld)
@@ -276,15 +290,8 @@ bool ObjectContext::loadHistory(std::vector<Item*>& read, const Project* project
     // A project never saved has no rows on disk.
     if (project && (!project->rowId() || m_historyReadFor.contains(project->rowId())))
         return true;
-    StringPool pool;
-    const QHash<qint64, Project*> projects = projectsByRowId();
     const std::size_t before = read.size();
-    const bool ok = readHistory(project, [&](const Stmt& stmt) {
-        Item* item = adopt(m_reminders);
-        item->m_rowId = stmt.columnInt64(0);
-        linkToProject(*item, stmt, readColumns(stmt, *item, pool), projects);
-        read.push_back(item);
-    });
+    const bool ok = readInto(read, project);
     if (ok && project) {
         m_historyReadFor.insert(project->rowId());
     } else if (ok) {
@@ -301,31 +308,14 @@ bool ObjectContext::loadHistoryItems(const std::vector<qint64>& rowIds, std::vec
 {
     if (!m_historyHeld || rowIds.empty())
         return true;
-    Stmt stmt(m_db,
-              ("SELECT id, " + columnList<Item>() + " FROM ReminderInfo WHERE id = ?").constData());
-    if (!stmt.isValid())
-        return fail();
-    StringPool pool;
-    const QHash<qint64, Project*> projects = projectsByRowId();
-    const QSet<qint64> known = itemRowIds();
+    QByteArray ids;
+    for (const qint64 id : rowIds)
+        ids += (ids.isEmpty() ? "" : ",") + QByteArray::number(id);
     const std::size_t before = read.size();
-    for (const qint64 rowId : rowIds) {
-        if (known.contains(rowId))
-            continue;
-        stmt.bind(0, std::optional<qint64>(rowId));
-        if (stmt.step()) {
-            Item* item = adopt(m_reminders);
-            item->m_rowId = rowId;
-            linkToProject(*item, stmt, readColumns(stmt, *item, pool), projects);
-            read.push_back(item);
-        }
-        if (stmt.failed())
-            return fail();
-        stmt.reset();
-    }
+    const bool ok = readInto(read, nullptr, " AND id IN (" + ids + ")");
     if (read.size() > before)
         ++m_historyVersion;
-    return true;
+    return ok;
 }
 
 bool ObjectContext::scanHistory(const std::function<void(const Item&)>& visit)
@@ -336,7 +326,7 @@ bool ObjectContext::scanHistory(const std::function<void(const Item&)>& visit)
     // Texts read once and dropped are not worth sharing.
     StringPool pool(StringPool::Share::None);
     const QHash<qint64, Project*> projects = projectsByRowId();
-    return readHistory(nullptr, [&](const Stmt& stmt) {
+    return readHistory(nullptr, {}, [&](const Stmt& stmt) {
         scratch.m_rowId = stmt.columnInt64(0);
         const int link = readColumns(stmt, scratch, pool);
         scratch.m_toProject = stmt.isNull(link) ? nullptr : projects.value(stmt.columnInt64(link));

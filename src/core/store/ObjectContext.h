@@ -4,6 +4,7 @@
 #include "core/model/Project.h"
 #include "core/model/Rule.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QSet>
 #include <QString>
@@ -85,8 +86,12 @@ private:
     void recordChanged(Record* record);
     template <class T> T* adopt(std::vector<T*>& live);
     // Runs `select` (the item columns, then the project link) bound to the history's bounds
-    // and, if given, a project; calls `row` with each item that is not here yet.
-    bool readHistory(const Project* project, const std::function<void(const Stmt&)>& row);
+    // and, if given, a project and a further condition on the rows; calls `row` with each item
+    // that is not here yet.
+    bool readHistory(const Project* project, const QByteArray& rows,
+                     const std::function<void(const Stmt&)>& row);
+    // Adds the items of the history that readHistory() finds to the context and to `read`.
+    bool readInto(std::vector<Item*>& read, const Project* project, const QByteArray& rows = {});
     QSet<qint64> itemRowIds() const;
     QHash<qint64, Project*> projectsByRowId() const;
     static void linkToProject(Item& item, const Stmt& stmt, int column,

@@ -5,11 +5,13 @@ set -euo pipefail
 cd "$(dirname "$0")/../src"
 
 # The rank of each folder, lowest first. A folder may include its own files and those of folders
-# of a lower rank. The core never includes the UI; src/app wires everything and may include all.
+# of a lower rank. The core never includes the UI nor the network library (net, HTTP for
+# synchronisation); src/app wires everything and may include all.
 declare -A rank=(
   [core/dates]=0 [core/text]=1 [core/settings]=2 [core/model]=4 [core/store]=5
   [core/library]=6 [core/security]=7 [core/scheduling]=8 [core/activity]=9
-  [core/presentation]=10 [core/monitor]=11 [core/backup]=12 [core/reports]=13 [core/app]=14
+  [core/presentation]=10 [core/sync]=10 [core/monitor]=11 [core/backup]=12 [core/reports]=13 [core/app]=14
+  [net]=15
   [ui/widgets]=20 [ui/desktop]=20 [ui/prompts]=21 [ui/authoring]=21 [ui/help]=21 [ui/reports]=21 [ui/main]=22
   [ui/preferences]=22 [ui/shell]=23
 )
@@ -42,7 +44,7 @@ while IFS= read -r file; do
       status=1
     fi
   done < <(sed -n 's/^#include "\([^"]*\)".*/\1/p' "$file")
-done < <(find core ui -name '*.h' -o -name '*.cpp' | sort)
+done < <(find core net ui -name '*.h' -o -name '*.cpp' | sort)
 
 if [ $status -eq 0 ]; then
   echo "include layering: ok"

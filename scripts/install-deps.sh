@@ -13,6 +13,7 @@ packages=(
   desktop-file-utils poppler-utils xdg-utils
   appstream librsvg2-bin dpkg-dev libxcb1-dev libxcb-screensaver0-dev
   libcanberra-dev sound-theme-freedesktop
+  libical-dev radicale apache2-utils python3-bcrypt openssl
 )
 
 missing=()

@@ -8,6 +8,7 @@
 #include "core/scheduling/WorkingSchedule.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
+#include "net/NetworkHttpPort.h"
 #include "ui/desktop/AppId.h"
 #include "ui/desktop/Autostart.h"
 #include "ui/desktop/DesktopNotifier.h"
@@ -133,6 +134,14 @@ void openCore(AppController& core, Shell& shell, MainWindow& window, bool inTray
     MemoryTrim::soon();
 }
 
+// HTTP for sync: a network made for each sync, which exists only while it runs.
+Sync::PortFactory networkPorts()
+{
+    return [](const QString& user, const QString& password) {
+        return std::make_unique<NetworkHttpPort>(user, password);
+    };
+}
+
 // Quitting finishes the running item and saves; every way to end the program comes here.
 void connectQuitPaths(AppController& core, Shell& shell, MainWindow& window,
                       TerminationSignals& termination)
@@ -149,8 +158,13 @@ void connectQuitPaths(AppController& core, Shell& shell, MainWindow& window,
                               QStringLiteral("Quit anyway"), QStringLiteral("Cancel")))
             return;
         *terminated = true;
-        core.finishQuit();
-        QApplication::quit();
+        // A last sync sends what waits; quitting waits for it three seconds at most, and what
+        // it could not send goes at the next launch.
+        window.hide();
+        core.services().sync.finishBeforeQuit(std::chrono::seconds(3), [&core] {
+            core.finishQuit();
+            QApplication::quit();
+        });
     };
     QObject::connect(&termination, &TerminationSignals::terminationRequested, qApp, quit);
     QObject::connect(&shell, &Shell::quitRequested, qApp, quit);
@@ -215,7 +229,8 @@ int main(int argc, char* argv[])
     ScreenSaverInhibitor inhibitor;
     KeyringSecretStore keyring;
     SessionPresence userPresence(QDBusConnection::sessionBus(), QDBusConnection::systemBus());
-    AppController core(clock, settings, Store::defaultFolder(), inhibitor, keyring, &userPresence);
+    AppController core(clock, settings, Store::defaultFolder(), inhibitor, keyring, &userPresence,
+                       networkPorts());
     const QString program = QCoreApplication::applicationFilePath();
     Autostart autostart(Autostart::defaultPath(), program);
     DesktopPresence presence(settings, autostart, QSystemTrayIcon::isSystemTrayAvailable(),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/security/Protection.h"
 #include "core/security/SecretStore.h"
 
 #include <QObject>
@@ -7,6 +8,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -16,38 +18,40 @@ namespace lullet::test {
 // keyring's do; with `holding` set they wait until release(), for the moments in between.
 class FakeSecretStore final : public SecretStore {
 public:
-    void read(QObject* context, ReadDone done) override
+    void read(const QString& account, QObject* context, ReadDone done) override
     {
-        answer(context, [this, done = std::move(done)] {
+        answer(context, [this, account, done = std::move(done)] {
+            const std::optional<QString>& stored = slot(account);
             if (unavailable)
                 done({Outcome::Unavailable, {}, QStringLiteral("No keyring here")});
-            else if (secret)
-                done({Outcome::Found, *secret, {}});
+            else if (stored)
+                done({Outcome::Found, *stored, {}});
             else
                 done({Outcome::NotFound, {}, {}});
         });
     }
 
-    void write(const QString& value, QObject* context, WriteDone done) override
+    void write(const QString& account, const QString& value, QObject* context,
+               WriteDone done) override
     {
-        answer(context, [this, value, done = std::move(done)] {
+        answer(context, [this, account, value, done = std::move(done)] {
             if (unavailable || refuseWrites) {
                 done(QStringLiteral("The keyring is locked"));
                 return;
             }
-            secret = value;
+            slot(account) = value;
             done({});
         });
     }
 
-    void remove(QObject* context, WriteDone done) override
+    void remove(const QString& account, QObject* context, WriteDone done) override
     {
-        answer(context, [this, done = std::move(done)] {
+        answer(context, [this, account, done = std::move(done)] {
             if (unavailable) {
                 done(QStringLiteral("No keyring here"));
                 return;
             }
-            secret.reset();
+            slot(account).reset();
             done({});
         });
     }
@@ -61,12 +65,19 @@ public:
             deliver();
     }
 
+    // The launch password's account, and every other account.
     std::optional<QString> secret;
+    std::map<QString, std::optional<QString>> others;
     bool unavailable = false;
     bool refuseWrites = false;
     bool holding = false;
 
 private:
+    std::optional<QString>& slot(const QString& account)
+    {
+        return account == Protection::account() ? secret : others[account];
+    }
+
     void answer(QObject* context, std::function<void()> reply)
     {
         QPointer<QObject> guard(context);

@@ -32,10 +32,11 @@ inline QStringList titlesOf(const std::vector<Item*>& items)
 // the clock is fake, and the prompts the monitor asks for are recorded instead of shown.
 class Launched {
 public:
-    Launched(const QString& dir, Date now)
+    Launched(const QString& dir, Date now, Sync::PortFactory ports = {})
         : clock(now)
         , settings(QDir(dir).filePath(QStringLiteral("Lullet.conf")))
-        , core(clock, settings, QDir(dir).filePath(QStringLiteral("data")), inhibitor, secrets)
+        , core(clock, settings, QDir(dir).filePath(QStringLiteral("data")), inhibitor, secrets,
+               nullptr, std::move(ports))
         , prompts(core.services().monitor)
     {
     }

@@ -29,7 +29,7 @@ Date nearestMinute(Date now)
 
 AppController::AppController(const Clock& clock, Settings& settings, const QString& storeFolder,
                              DisplaySleepInhibitor& inhibitor, SecretStore& secrets,
-                             UserPresence* presence, QObject* parent)
+                             UserPresence* presence, Sync::PortFactory ports, QObject* parent)
     : QObject(parent)
     , m_clock(clock)
     , m_settings(settings)
@@ -52,10 +52,14 @@ AppController::AppController(const Clock& clock, Settings& settings, const QStri
     , m_postponing(clock, m_library)
     , m_backups({clock, settings, m_store, m_library, m_catalogue, m_running})
     , m_protection(settings, secrets, m_lock)
+    , m_changeLog(clock, m_store)
+    , m_sync({clock, settings, m_store, m_library, m_catalogue, m_running, secrets, m_changeLog},
+             std::move(ports))
     , m_services{clock,         settings,         m_library,    m_schedule, m_hours,
                  m_texts,       m_generator,      m_catalogue,  m_running,  m_historyTotals,
                  m_lock,        m_monitor,        m_prompts,    m_pause,    m_hold,
-                 m_itemActions, m_projectActions, m_postponing, m_backups,  m_protection}
+                 m_itemActions, m_projectActions, m_postponing, m_backups,  m_protection,
+                 m_sync}
 {
     queueMonitorPrompts();
     // Before the minute's prompts are asked for: a pause over, the user back.
@@ -67,6 +71,7 @@ AppController::AppController(const Clock& clock, Settings& settings, const QStri
         if (key == SettingsKeys::promptDuration)
             m_running.setPromptPeriod(m_settings.promptDuration());
     });
+    connect(&m_backups, &Backups::restored, &m_sync, &Sync::storeReplaced);
 }
 
 AppController::~AppController() = default;
@@ -96,6 +101,8 @@ Store::Result AppController::open()
     if (opened.outcome != Store::Outcome::Opened)
         return opened;
     m_storeOpen = true;
+    // Every change saved from now on waits to be synchronised.
+    m_store.context().setSaveObserver(&m_changeLog);
     m_library.loadProjects();
     m_library.loadItems();
     m_catalogue.rebuild();
@@ -126,6 +133,7 @@ void AppController::startMonitoring()
     // After the launch is done: the tray and the window come first.
     if (m_settings.automaticBackup())
         QTimer::singleShot(0, this, [this] { m_backups.createLaunchBackup(); });
+    m_sync.start();
 }
 
 void AppController::armTimer()

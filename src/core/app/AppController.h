@@ -20,6 +20,8 @@
 #include "core/security/Lock.h"
 #include "core/security/Protection.h"
 #include "core/store/Store.h"
+#include "core/sync/ChangeLog.h"
+#include "core/sync/Sync.h"
 
 #include <QObject>
 
@@ -42,10 +44,11 @@ class AppController final : public QObject {
     Q_OBJECT
 public:
     // `presence`: the desktop's word on the user (locked, away, ...); none where there is no
-    // desktop to ask.
+    // desktop to ask. Without `ports`, the program has no network and never syncs.
     AppController(const Clock& clock, Settings& settings, const QString& storeFolder,
                   DisplaySleepInhibitor& inhibitor, SecretStore& secrets,
-                  UserPresence* presence = nullptr, QObject* parent = nullptr);
+                  UserPresence* presence = nullptr, Sync::PortFactory ports = {},
+                  QObject* parent = nullptr);
     ~AppController() override;
 
     const Services& services() const { return m_services; }
@@ -57,7 +60,7 @@ public:
     Store::Result open();
     // The loop begins: the display is kept awake and the monitor ticks each second while an item
     // runs, and at each whole minute while none does. The launch's backup follows, when
-    // "automaticBackup" is on.
+    // "automaticBackup" is on, and the first sync, when sync is on.
     void startMonitoring();
     bool isMonitoring() const;
     // How long until the monitor's next tick; negative when it does not tick.
@@ -96,6 +99,8 @@ private:
     Postponing m_postponing;
     Backups m_backups;
     Protection m_protection;
+    ChangeLog m_changeLog;
+    Sync m_sync;
     Services m_services;
     std::unique_ptr<QTimer> m_timer;
     std::optional<quint32> m_inhibitCookie;

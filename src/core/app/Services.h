@@ -20,6 +20,7 @@ class Protection;
 class RunningItem;
 class ScheduleTexts;
 class Settings;
+class Sync;
 class WorkingHours;
 class WorkingSchedule;
 
@@ -47,6 +48,7 @@ struct Services {
     Postponing& postponing;
     Backups& backups;
     Protection& protection;
+    Sync& sync;
 };
 
 } // namespace lullet

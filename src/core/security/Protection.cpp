@@ -61,7 +61,7 @@ void Protection::writeSwitch(bool on, Writer writer)
 void Protection::read(QObject* context, SecretStore::ReadDone done)
 {
     const SecretStore::Reading silence{SecretStore::Outcome::Unavailable, {}, silenceText()};
-    m_secrets.read(context, inTime(context, std::move(done), silence, m_patience));
+    m_secrets.read(account(), context, inTime(context, std::move(done), silence, m_patience));
 }
 
 void Protection::readPassword(QObject* context, SecretStore::ReadDone done)
@@ -83,7 +83,8 @@ void Protection::switchOff(QObject* context, SecretStore::WriteDone done)
     // The switch is off whatever the keyring answers; a password it could not remove is read as
     // the current password when protection is next set.
     writeSwitch(false);
-    m_secrets.remove(context, inTime(context, std::move(done), silenceText(), m_patience));
+    m_secrets.remove(account(), context,
+                     inTime(context, std::move(done), silenceText(), m_patience));
 }
 
 void Protection::storePassword(const QString& password, QObject* context,
@@ -93,7 +94,7 @@ void Protection::storePassword(const QString& password, QObject* context,
         writeSwitch(error.isEmpty());
         done(error);
     };
-    m_secrets.write(password, context,
+    m_secrets.write(account(), password, context,
                     inTime(context, SecretStore::WriteDone(stored), silenceText(), m_patience));
 }
 

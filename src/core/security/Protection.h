@@ -23,6 +23,8 @@ public:
 
     // How long the keyring is waited for.
     void setKeyringPatience(std::chrono::milliseconds patience) { m_patience = patience; }
+    // The keyring's account of the launch password: the process name and "AppAccount".
+    static QString account() { return QStringLiteral("lulletAppAccount"); }
 
     // The launch asks for the password.
     bool isOn() const;

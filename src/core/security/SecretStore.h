@@ -8,9 +8,10 @@ class QObject;
 
 namespace lullet {
 
-// Where the password lives: the user's keyring, or a fake in tests. Every answer comes later on
-// the main thread, never inside the call, and only while `context` still exists, so a window
-// that closes before the keyring answers hears nothing.
+// Where passwords live: the user's keyring, or a fake in tests. Each password is kept under an
+// account of its own: the launch password under one, each sync server's under another. Every
+// answer comes later on the main thread, never inside the call, and only while `context` still
+// exists, so a window that closes before the keyring answers hears nothing.
 class SecretStore {
 public:
     enum class Outcome {
@@ -32,10 +33,11 @@ public:
 
     virtual ~SecretStore() = default;
 
-    virtual void read(QObject* context, ReadDone done) = 0;
-    virtual void write(const QString& secret, QObject* context, WriteDone done) = 0;
+    virtual void read(const QString& account, QObject* context, ReadDone done) = 0;
+    virtual void write(const QString& account, const QString& secret, QObject* context,
+                       WriteDone done) = 0;
     // Removing a password that isn't there is done, not an error.
-    virtual void remove(QObject* context, WriteDone done) = 0;
+    virtual void remove(const QString& account, QObject* context, WriteDone done) = 0;
 };
 
 } // namespace lullet

@@ -220,6 +220,12 @@ void Settings::setPromptSound(bool on)
     write(SettingsKeys::promptSound, on);
 }
 
+void Settings::setSyncServer(const QString& url, const QString& user)
+{
+    write(SettingsKeys::syncURL, url);
+    write(SettingsKeys::syncUser, user);
+}
+
 void Settings::setMainWindowGeometry(const QByteArray& geometry)
 {
     write(SettingsKeys::mainWindowGeometry, geometry);

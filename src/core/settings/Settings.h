@@ -87,6 +87,12 @@ public:
     bool promptSound() const { return boolean(SettingsKeys::promptSound); }
     void setPromptSound(bool on);
 
+    // The CalDAV server or collection synchronised with, and the user there; empty: no sync.
+    QString syncURL() const { return value(SettingsKeys::syncURL).toString().trimmed(); }
+    QString syncUser() const { return value(SettingsKeys::syncUser).toString(); }
+    void setSyncServer(const QString& url, const QString& user);
+    int syncInterval() const { return integer(SettingsKeys::syncInterval); }
+
     // Where the main window stood, as Qt saves a window's geometry.
     QByteArray mainWindowGeometry() const { return data(SettingsKeys::mainWindowGeometry); }
     void setMainWindowGeometry(const QByteArray& geometry);

@@ -42,6 +42,12 @@ inline constexpr QLatin1String holdWhileFullScreen{"holdWhileFullScreen"};
 inline constexpr QLatin1String naturalBreaks{"naturalBreaks"};
 // A prompt comes with a sound from the desktop's sound theme.
 inline constexpr QLatin1String promptSound{"promptSound"};
+// The CalDAV server or collection the to-dos are synchronised with; empty: no synchronisation.
+inline constexpr QLatin1String syncURL{"syncURL"};
+// The user name on that server; empty for a server without logins. The password is the keyring's.
+inline constexpr QLatin1String syncUser{"syncUser"};
+// Minutes between synchronisations.
+inline constexpr QLatin1String syncInterval{"syncInterval"};
 
 // Keys inside the "passwordValues" dictionary.
 inline constexpr QLatin1String isPassword{"isPassword"};
@@ -64,7 +70,7 @@ inline const std::vector<Default>& registeredDefaults()
         {remindMe, 2},          {promptDuration, 15}, {automaticBackup, true},
         {backupOption, 1},      {UDDockIcon, true},   {UDStatusBarIcon, true},
         {UDOpenAtLogin, false}, {awayMinutes, 5},     {holdWhileFullScreen, true},
-        {naturalBreaks, false}, {promptSound, true},
+        {naturalBreaks, false}, {promptSound, true},  {syncInterval, 5},
     };
     return table;
 }

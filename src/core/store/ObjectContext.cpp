@@ -3,6 +3,7 @@
 #include "core/store/Db.h"
 #include "core/store/HistoryOnDisk.h"
 #include "core/store/RecordSql.h"
+#include "core/store/SaveObserver.h"
 #include "core/store/Stmt.h"
 #include "core/store/StringPool.h"
 #include "core/store/Transaction.h"
@@ -255,18 +256,21 @@ void ObjectContext::deleteHistoryOf(const Project& project)
         m_historyDeletes.push_back(project.rowId());
 }
 
-bool ObjectContext::writeHistoryDeletes()
+bool ObjectContext::writeHistoryDeletes(std::vector<qint64>& deleted)
 {
     if (m_historyDeletes.empty())
         return true;
-    // After the updates: an item moved out of the project meanwhile is no longer its own.
+    // After the updates: an item moved out of the project meanwhile is no longer its own. The
+    // rows go with their ids, which those who keep track of deletions are told.
     const QByteArray sql = QByteArray("DELETE FROM ReminderInfo WHERE ") +
-                           HistoryOnDisk::condition + " AND toProject = ?3";
+                           HistoryOnDisk::condition + " AND toProject = ?3 RETURNING id";
     Stmt stmt(m_db, sql.constData());
     for (const qint64 project : m_historyDeletes) {
         HistoryOnDisk::bindBounds(stmt, *m_historyBefore);
         stmt.bind(2, std::optional<qint64>(project));
-        if (!stmt.run())
+        while (stmt.step())
+            deleted.push_back(stmt.columnInt64(0));
+        if (stmt.failed())
             return false;
         stmt.reset();
     }
@@ -339,7 +343,10 @@ bool ObjectContext::save()
     Transaction txn(m_db);
     if (!txn.isActive())
         return fail();
-    if (!writeInserts() || !writeUpdates() || !writeHistoryDeletes() || !writeDeletes()) {
+    std::vector<qint64> historyDeleted;
+    if (!writeInserts() || !writeUpdates() || !writeHistoryDeletes(historyDeleted) ||
+        !writeDeletes() ||
+        (m_observer && !m_observer->saving({m_inserted, m_updated, m_deleted, historyDeleted}))) {
         fail();
         // The rows written in this try are gone with the rollback.
         for (Record* record : m_inserted)
@@ -365,6 +372,8 @@ bool ObjectContext::save()
         ++m_historyVersion;
     m_errorCode = 0;
     m_errorMessage.clear();
+    if (m_observer)
+        m_observer->saved();
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include "core/model/Project.h"
 #include "core/model/Rule.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QSet>
 #include <QString>
@@ -16,6 +17,7 @@
 namespace lullet {
 
 class Db;
+class SaveObserver;
 class Stmt;
 class StringPool;
 
@@ -57,6 +59,9 @@ public:
     // Takes the record out of the data. Its memory stays valid, flagged as deleted.
     void deleteObject(Record* record);
 
+    // Told of every save from now on; nullptr for none.
+    void setSaveObserver(SaveObserver* observer) { m_observer = observer; }
+
     bool hasChanges() const;
     // Writes every change in one transaction. On failure nothing is written, the changes stay
     // here for the next try, and errorMessage() says why.
@@ -81,9 +86,11 @@ private:
     bool writeInserts();
     bool writeUpdates();
     bool writeDeletes();
-    bool writeHistoryDeletes();
+    // Appends the rows of history it deletes to `deleted`.
+    bool writeHistoryDeletes(std::vector<qint64>& deleted);
 
     Db& m_db;
+    SaveObserver* m_observer = nullptr;
     bool m_loaded = false;
     std::optional<Date> m_historyBefore;
     // Rows of projects whose history on disk the next save deletes.

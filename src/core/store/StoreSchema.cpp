@@ -13,7 +13,7 @@ namespace {
 
 // Each step takes the file from the version before it to its own number. Steps are never edited
 // once released: a change of layout is a new step.
-constexpr std::array<const char*, 2> steps = {
+constexpr std::array<const char*, 3> steps = {
     R"sql(
 CREATE TABLE Project (
     id INTEGER PRIMARY KEY,
@@ -70,6 +70,34 @@ CREATE INDEX ReminderInfo_toProject ON ReminderInfo(toProject);
 CREATE INDEX ReminderInfo_history ON ReminderInfo(toProject, repeatOption, elapsedTime,
     timeLimit, durationHr, durationMin, dtReminder, dtReminderPostponed)
     WHERE hasFinished = 1 AND coalesce(hasStarted, 0) = 0;
+)sql",
+    // What synchronisation knows of each record (entity 0 a project, 1 a rule, 2 an item): its
+    // UID and resource on the server, the resource's version (etag) and its text as both sides
+    // last agreed on it, and the time and sequence number of the last local change not yet sent
+    // (pending). A record deleted here keeps its entry, without a row, until the server knows.
+    // Records made before this step have never been sent: all of them wait for the first sync.
+    R"sql(
+CREATE TABLE SyncRecord (
+    id INTEGER PRIMARY KEY,
+    entity INTEGER NOT NULL,
+    rowId INTEGER,
+    uid TEXT UNIQUE,
+    href TEXT,
+    etag TEXT,
+    synced TEXT,
+    changedAt REAL,
+    pending INTEGER
+);
+CREATE UNIQUE INDEX SyncRecord_row ON SyncRecord(entity, rowId);
+CREATE INDEX SyncRecord_href ON SyncRecord(href);
+CREATE INDEX SyncRecord_pending ON SyncRecord(pending) WHERE pending IS NOT NULL;
+CREATE TABLE SyncState (
+    key TEXT PRIMARY KEY,
+    value TEXT
+);
+INSERT INTO SyncRecord (entity, rowId, pending) SELECT 0, id, 1 FROM Project;
+INSERT INTO SyncRecord (entity, rowId, pending) SELECT 1, id, 1 FROM RepeatReminderInfo;
+INSERT INTO SyncRecord (entity, rowId, pending) SELECT 2, id, 1 FROM ReminderInfo;
 )sql",
 };
 

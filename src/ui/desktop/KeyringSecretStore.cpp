@@ -15,10 +15,10 @@ namespace lullet {
 namespace {
 
 const QString service = QStringLiteral("lullet");
-const QString account = QStringLiteral("lulletAppAccount");
 
 // A job deletes itself once it has answered; its answer reaches `context` only while that lives.
-template <typename Job, typename Answer> void start(Job* job, QObject* context, Answer answer)
+template <typename Job, typename Answer>
+void start(Job* job, const QString& account, QObject* context, Answer answer)
 {
     job->setAutoDelete(true);
     job->setInsecureFallback(false);
@@ -38,7 +38,7 @@ QString errorText(const QKeychain::Job& job)
 // the user cancelled it, hides its items: QtKeychain then reports no password. That must not
 // read as "no password", which would open the program. The Secret Service lists locked items
 // without unlocking them, under the attributes QtKeychain stores with each password.
-void confirmNotFound(QObject* context, SecretStore::ReadDone done)
+void confirmNotFound(const QString& account, QObject* context, SecretStore::ReadDone done)
 {
     QDBusMessage search = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.secrets"), QStringLiteral("/org/freedesktop/secrets"),
@@ -71,16 +71,16 @@ void confirmNotFound(QObject* context, SecretStore::ReadDone done)
 
 } // namespace
 
-void KeyringSecretStore::read(QObject* context, ReadDone done)
+void KeyringSecretStore::read(const QString& account, QObject* context, ReadDone done)
 {
-    start(new QKeychain::ReadPasswordJob(service), context,
-          [context, done = std::move(done)](const QKeychain::ReadPasswordJob& job) {
+    start(new QKeychain::ReadPasswordJob(service), account, context,
+          [account, context, done = std::move(done)](const QKeychain::ReadPasswordJob& job) {
               switch (job.error()) {
               case QKeychain::NoError:
                   done({Outcome::Found, job.textData(), {}});
                   return;
               case QKeychain::EntryNotFound:
-                  confirmNotFound(context, done);
+                  confirmNotFound(account, context, done);
                   return;
               default:
                   done({Outcome::Unavailable, {}, errorText(job)});
@@ -89,18 +89,20 @@ void KeyringSecretStore::read(QObject* context, ReadDone done)
           });
 }
 
-void KeyringSecretStore::write(const QString& secret, QObject* context, WriteDone done)
+void KeyringSecretStore::write(const QString& account, const QString& secret, QObject* context,
+                               WriteDone done)
 {
     auto* writing = new QKeychain::WritePasswordJob(service);
     writing->setTextData(secret);
-    start(writing, context, [done = std::move(done)](const QKeychain::WritePasswordJob& job) {
-        done(job.error() == QKeychain::NoError ? QString() : errorText(job));
-    });
+    start(writing, account, context,
+          [done = std::move(done)](const QKeychain::WritePasswordJob& job) {
+              done(job.error() == QKeychain::NoError ? QString() : errorText(job));
+          });
 }
 
-void KeyringSecretStore::remove(QObject* context, WriteDone done)
+void KeyringSecretStore::remove(const QString& account, QObject* context, WriteDone done)
 {
-    start(new QKeychain::DeletePasswordJob(service), context,
+    start(new QKeychain::DeletePasswordJob(service), account, context,
           [done = std::move(done)](const QKeychain::DeletePasswordJob& job) {
               const bool gone =
                   job.error() == QKeychain::NoError || job.error() == QKeychain::EntryNotFound;

@@ -4,13 +4,14 @@
 
 namespace lullet {
 
-// The password in the user's keyring over the Secret Service, as a generic password of the
-// service "lullet" and the account "lulletAppAccount". Never falls back to a file.
+// Passwords in the user's keyring over the Secret Service, as generic passwords of the service
+// "lullet", each under its account. Never falls back to a file.
 class KeyringSecretStore final : public SecretStore {
 public:
-    void read(QObject* context, ReadDone done) override;
-    void write(const QString& secret, QObject* context, WriteDone done) override;
-    void remove(QObject* context, WriteDone done) override;
+    void read(const QString& account, QObject* context, ReadDone done) override;
+    void write(const QString& account, const QString& secret, QObject* context,
+               WriteDone done) override;
+    void remove(const QString& account, QObject* context, WriteDone done) override;
 };
 
 } // namespace lullet

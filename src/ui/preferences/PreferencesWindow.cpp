@@ -7,6 +7,7 @@
 #include "ui/preferences/MoreInfoTab.h"
 #include "ui/preferences/ScheduleTab.h"
 #include "ui/preferences/SecurityTab.h"
+#include "ui/preferences/SyncTab.h"
 #include "ui/preferences/TabIcons.h"
 
 #include <QActionGroup>
@@ -39,6 +40,8 @@ const TabLook tabs[] = {
      QT_TRANSLATE_NOOP("PreferencesWindow", "Security"), "security-high", &TabIcons::security, 400},
     {PreferencesWindow::Tab::Backup, "backup", QT_TRANSLATE_NOOP("PreferencesWindow", "Backup"),
      "document-save", &TabIcons::backup, 457},
+    {PreferencesWindow::Tab::Sync, "sync", QT_TRANSLATE_NOOP("PreferencesWindow", "Sync"),
+     "emblem-synchronizing", &TabIcons::sync, 457},
     {PreferencesWindow::Tab::Schedule, "schedule",
      QT_TRANSLATE_NOOP("PreferencesWindow", "Schedule"), "x-office-calendar", &TabIcons::schedule,
      457},
@@ -135,6 +138,9 @@ QWidget* PreferencesWindow::page(Tab tab)
         break;
     case Tab::Backup:
         made = new BackupTab(m_services, m_backupCommands, m_pages);
+        break;
+    case Tab::Sync:
+        made = new SyncTab(m_services.sync, m_services.clock, m_pages);
         break;
     case Tab::Schedule:
         made = new ScheduleTab(m_services, m_pages);

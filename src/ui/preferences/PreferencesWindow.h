@@ -20,7 +20,7 @@ struct Services;
 class PreferencesWindow final : public QWidget {
     Q_OBJECT
 public:
-    enum class Tab { General, Security, Backup, Schedule, MoreInfo };
+    enum class Tab { General, Security, Backup, Sync, Schedule, MoreInfo };
 
     PreferencesWindow(const Services& services, BackupCommands& backupCommands,
                       DesktopPresence& presence, QWidget* parent = nullptr);

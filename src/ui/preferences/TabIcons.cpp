@@ -82,6 +82,22 @@ QIcon backup(const QColor& ink)
     });
 }
 
+QIcon sync(const QColor& ink)
+{
+    return drawn(ink, [&ink](QPainter& painter) {
+        // Two arrows chasing each other round a circle: kept in step.
+        painter.setPen(QPen(ink, 7, Qt::SolidLine, Qt::FlatCap));
+        painter.setBrush(Qt::NoBrush);
+        const QRectF ring(12, 12, 40, 40);
+        painter.drawArc(ring, 20 * 16, 140 * 16);
+        painter.drawArc(ring, 200 * 16, 140 * 16);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ink);
+        painter.drawPolygon(QPolygonF({QPointF(4, 30), QPointF(20, 30), QPointF(12, 40)}));
+        painter.drawPolygon(QPolygonF({QPointF(44, 34), QPointF(60, 34), QPointF(52, 24)}));
+    });
+}
+
 QIcon schedule(const QColor& ink)
 {
     return drawn(ink, [](QPainter& painter) {

@@ -9,6 +9,7 @@ namespace lullet::TabIcons {
 QIcon general(const QColor& ink);
 QIcon security(const QColor& ink);
 QIcon backup(const QColor& ink);
+QIcon sync(const QColor& ink);
 QIcon schedule(const QColor& ink);
 QIcon moreInfo(const QColor& ink);
 

@@ -9,6 +9,7 @@
 #include "core/presentation/RunningStatus.h"
 #include "core/security/Lock.h"
 #include "core/settings/Settings.h"
+#include "core/sync/Sync.h"
 #include "ui/authoring/QuickAddView.h"
 #include "ui/desktop/ActiveWindow.h"
 #include "ui/desktop/DesktopPresence.h"
@@ -78,6 +79,7 @@ Shell::Shell(const Services& services, MainWindow& window, DesktopPresence& pres
     connect(&m_services.pause, &ReminderPause::changed, this, &Shell::updateToolTip);
     connectMonitor();
     connectBackups();
+    connectSync();
     connectLock();
     connectPresence();
 }
@@ -120,12 +122,7 @@ void Shell::showLockState()
 void Shell::connectBackups()
 {
     m_backupCommands = new BackupCommands(
-        m_services, &m_window, &FileManager::showFile,
-        [this] {
-            const Project* shown = selectedProject();
-            return shown ? shown->name().value_or(QString()) : QString();
-        },
-        this);
+        m_services, &m_window, &FileManager::showFile, [this] { return shownProjectName(); }, this);
     connect(&m_window, &MainWindow::backUpRequested, m_backupCommands,
             [this] { m_backupCommands->backUpNow(); });
     connect(&m_window, &MainWindow::restoreRequested, m_backupCommands,
@@ -135,6 +132,16 @@ void Shell::connectBackups()
         m_tray->closePopoverImmediate();
         if (MainView* main = m_content ? m_content->mainView() : nullptr)
             main->showAfterReload(shownProject);
+    });
+}
+
+void Shell::connectSync()
+{
+    // What a sync brought is shown as after a restore, on the project shown if it still exists
+    // (renamed there, it is found by its new name).
+    connect(&m_services.sync, &Sync::changesArrived, this, [this] {
+        if (MainView* main = m_content ? m_content->mainView() : nullptr)
+            main->showAfterReload(shownProjectName());
     });
 }
 
@@ -321,6 +328,12 @@ const Project* Shell::selectedProject() const
 {
     const MainView* main = m_content ? m_content->mainView() : nullptr;
     return main ? main->shownProject() : nullptr;
+}
+
+QString Shell::shownProjectName() const
+{
+    const Project* shown = selectedProject();
+    return shown ? shown->name().value_or(QString()) : QString();
 }
 
 void Shell::quickAdd()

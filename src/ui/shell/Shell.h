@@ -78,12 +78,15 @@ private:
     void updateToolTip();
     void connectMonitor();
     void connectBackups();
+    void connectSync();
     void connectLock();
     // The data's menu entries, the tray's quick add and its list follow the lock.
     void showLockState();
     void connectContent();
     void connectPresence();
     const Project* selectedProject() const;
+    // The name of the project the main view shows; a deleted record still knows its name.
+    QString shownProjectName() const;
 
     const Services& m_services;
     MainWindow& m_window;

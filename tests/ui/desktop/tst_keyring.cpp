@@ -14,11 +14,12 @@ using namespace lullet;
 class TestKeyring : public QObject {
     Q_OBJECT
     KeyringSecretStore m_keyring;
+    const QString account = QStringLiteral("lulletAppAccount");
 
-    SecretStore::Reading read()
+    SecretStore::Reading read(const QString& which)
     {
         std::optional<SecretStore::Reading> reading;
-        m_keyring.read(this, [&](const SecretStore::Reading& r) { reading = r; });
+        m_keyring.read(which, this, [&](const SecretStore::Reading& r) { reading = r; });
         if (!QTest::qWaitFor([&] { return reading.has_value(); }, 20000))
             qFatal("the keyring did not answer a read");
         return *reading;
@@ -36,27 +37,39 @@ class TestKeyring : public QObject {
 private Q_SLOTS:
     void storesReadsAndRemovesThePassword()
     {
-        QCOMPARE(read().outcome, SecretStore::Outcome::NotFound);
+        QCOMPARE(read(account).outcome, SecretStore::Outcome::NotFound);
         const QString secret = QStringLiteral("Kestrel 9 \u00e9\u0301");
-        QCOMPARE(wait([&](auto done) { m_keyring.write(secret, this, done); }), QString());
-        SecretStore::Reading found = read();
+        QCOMPARE(wait([&](auto done) { m_keyring.write(account, secret, this, done); }), QString());
+        SecretStore::Reading found = read(account);
         QCOMPARE(found.outcome, SecretStore::Outcome::Found);
         QCOMPARE(found.secret, secret);
         // Storing again replaces.
-        QCOMPARE(wait([&](auto done) { m_keyring.write(QStringLiteral("Falcon77"), this, done); }),
+        QCOMPARE(wait([&](auto done) {
+                     m_keyring.write(account, QStringLiteral("Falcon77"), this, done);
+                 }),
                  QString());
-        QCOMPARE(read().secret, QStringLiteral("Falcon77"));
-        QCOMPARE(wait([&](auto done) { m_keyring.remove(this, done); }), QString());
-        QCOMPARE(read().outcome, SecretStore::Outcome::NotFound);
+        QCOMPARE(read(account).secret, QStringLiteral("Falcon77"));
+        QCOMPARE(wait([&](auto done) { m_keyring.remove(account, this, done); }), QString());
+        QCOMPARE(read(account).outcome, SecretStore::Outcome::NotFound);
+        // Each account holds its own password.
+        const QString server = QStringLiteral("sync:bob@dav.example.org");
+        QCOMPARE(
+            wait([&](auto done) { m_keyring.write(server, QStringLiteral("Owl"), this, done); }),
+            QString());
+        QCOMPARE(read(account).outcome, SecretStore::Outcome::NotFound);
+        QCOMPARE(read(server).secret, QStringLiteral("Owl"));
+        QCOMPARE(wait([&](auto done) { m_keyring.remove(server, this, done); }), QString());
         // Removing what isn't there is no failure.
-        QCOMPARE(wait([&](auto done) { m_keyring.remove(this, done); }), QString());
+        QCOMPARE(wait([&](auto done) { m_keyring.remove(account, this, done); }), QString());
     }
 
     // A locked keyring that can't be unlocked (here: no display for its dialog) hides the
     // password. That is no answer, never "no password".
     void aLockedKeyringIsUnavailable()
     {
-        QCOMPARE(wait([&](auto done) { m_keyring.write(QStringLiteral("Kestrel9"), this, done); }),
+        QCOMPARE(wait([&](auto done) {
+                     m_keyring.write(account, QStringLiteral("Kestrel9"), this, done);
+                 }),
                  QString());
         QDBusMessage lock = QDBusMessage::createMethodCall(
             QStringLiteral("org.freedesktop.secrets"), QStringLiteral("/org/freedesktop/secrets"),
@@ -65,7 +78,7 @@ private Q_SLOTS:
             QDBusObjectPath(QStringLiteral("/org/freedesktop/secrets/collection/login"))});
         const QDBusMessage locked = QDBusConnection::sessionBus().call(lock);
         QCOMPARE(locked.type(), QDBusMessage::ReplyMessage);
-        const SecretStore::Reading reading = read();
+        const SecretStore::Reading reading = read(account);
         QCOMPARE(reading.outcome, SecretStore::Outcome::Unavailable);
         QVERIFY(!reading.error.isEmpty());
     }

@@ -68,8 +68,8 @@ private Q_SLOTS:
         WelcomeSlides slides(QStringLiteral("Get Started"));
         slides.resize(600, 600);
         slides.show();
-        QPushButton* next = button(&slides, "next");
-        QPushButton* skip = button(&slides, "skip");
+        QPushButton* next = child<QPushButton>(&slides, "next");
+        QPushButton* skip = child<QPushButton>(&slides, "skip");
         auto* dots = slides.findChild<QLabel*>(QStringLiteral("position"));
         const auto settle = [] {
             QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);

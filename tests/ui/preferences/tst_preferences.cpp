@@ -1,10 +1,14 @@
 #include "core/scheduling/ScheduleTableModel.h"
+#include "core/sync/HttpPort.h"
+#include "core/sync/Sync.h"
 #include "support/DesktopTest.h"
 #include "support/Shots.h"
 #include "ui/preferences/BackupCommands.h"
 #include "ui/preferences/BackupTab.h"
 #include "ui/preferences/PreferencesWindow.h"
 #include "ui/preferences/ScheduleTab.h"
+#include "ui/preferences/SyncTab.h"
+#include "ui/widgets/Balloon.h"
 #include "ui/widgets/TimeField.h"
 
 #include <QAction>
@@ -12,15 +16,37 @@
 #include <QComboBox>
 #include <QFile>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTreeWidget>
 
 using namespace lullet;
 using namespace lullet::test;
+
+namespace {
+
+// A network on which no server answers.
+class UnreachablePort final : public HttpPort {
+public:
+    void send(const HttpRequest&, Done done) override
+    {
+        QTimer::singleShot(0, [done] {
+            done({HttpResponse::Failure::Unreachable,
+                  QStringLiteral("Connection refused"),
+                  0,
+                  {},
+                  {}});
+        });
+    }
+    void abortAll() override {}
+};
+
+} // namespace
 
 // The preferences tabs over a launched core on a fake clock.
 class TestPreferences : public DesktopTest {
@@ -52,8 +78,8 @@ private Q_SLOTS:
         QCOMPARE(services().running.promptPeriod(), 30);
         const std::pair<PreferencesWindow::Tab, int> heights[] = {
             {PreferencesWindow::Tab::Security, 400}, {PreferencesWindow::Tab::Backup, 457},
-            {PreferencesWindow::Tab::Schedule, 457}, {PreferencesWindow::Tab::MoreInfo, 457},
-            {PreferencesWindow::Tab::General, 319},
+            {PreferencesWindow::Tab::Sync, 457},     {PreferencesWindow::Tab::Schedule, 457},
+            {PreferencesWindow::Tab::MoreInfo, 457}, {PreferencesWindow::Tab::General, 319},
         };
         for (const auto& [tab, height] : heights) {
             window.tabAction(tab)->trigger();
@@ -109,9 +135,10 @@ private Q_SLOTS:
         dark.setColor(QPalette::Button, QColor(0x35, 0x35, 0x3A));
         dark.setColor(QPalette::ButtonText, QColor(0xEE, 0xEE, 0xEE));
         window.setPalette(dark);
-        for (const auto tab : {PreferencesWindow::Tab::General, PreferencesWindow::Tab::Security,
-                               PreferencesWindow::Tab::Backup, PreferencesWindow::Tab::Schedule,
-                               PreferencesWindow::Tab::MoreInfo}) {
+        for (const auto tab :
+             {PreferencesWindow::Tab::General, PreferencesWindow::Tab::Security,
+              PreferencesWindow::Tab::Backup, PreferencesWindow::Tab::Sync,
+              PreferencesWindow::Tab::Schedule, PreferencesWindow::Tab::MoreInfo}) {
             const QImage icon = window.tabAction(tab)->icon().pixmap(32).toImage();
             // The mean lightness of what the icon paints, against the window's.
             qint64 sum = 0;
@@ -156,6 +183,57 @@ private Q_SLOTS:
         commands.restoreFromFile();
         QCOMPARE(Dialogs::asked().last().information, documents);
         QVERIFY(QDir(documents).removeRecursively());
+    }
+
+    // The server's address and user go to the settings, the password to the keyring only; how
+    // the sync went is said in words, and stopping forgets the password.
+    void theSyncTab()
+    {
+        QTemporaryDir dir;
+        // A network where no server answers.
+        Launched app(dir.path(), at(2026, 11, 23, 10, 0), [](const QString&, const QString&) {
+            return std::make_unique<UnreachablePort>();
+        });
+        QVERIFY(app.open());
+        SyncTab tab(app.services().sync, app.clock);
+        tab.show();
+        const auto field = [&](const char* name) {
+            return tab.findChild<QLineEdit*>(QLatin1String(name));
+        };
+        const auto button = [&](const char* name) {
+            return tab.findChild<QPushButton*>(QLatin1String(name));
+        };
+        const auto status = [&] {
+            return tab.findChild<QLabel*>(QStringLiteral("syncStatus"))->text();
+        };
+        QVERIFY(status().startsWith(QStringLiteral("Sync is off")));
+        QVERIFY(!button("syncNow")->isEnabled());
+
+        field("syncURL")->setText(QStringLiteral("ftp://files.example.com"));
+        button("connect")->click();
+        QVERIFY(Balloon::of(field("syncURL")));
+        QVERIFY(!app.settings.contains(SettingsKeys::syncURL));
+
+        field("syncURL")->setText(QStringLiteral("dav.example.com/kim/tasks/"));
+        field("syncUser")->setText(QStringLiteral("kim"));
+        field("syncPassword")->setText(QStringLiteral("Owl 7"));
+        button("connect")->click();
+        QTRY_VERIFY(status().contains(QStringLiteral("could not be reached")));
+        QCOMPARE(app.settings.value(SettingsKeys::syncURL).toString(),
+                 QStringLiteral("https://dav.example.com/kim/tasks/"));
+        QCOMPARE(app.settings.value(SettingsKeys::syncUser).toString(), QStringLiteral("kim"));
+        const QString account = QStringLiteral("sync:kim@dav.example.com");
+        QCOMPARE(app.secrets.others[account], std::optional(QStringLiteral("Owl 7")));
+        QFile file(app.settings.filePath());
+        app.settings.sync();
+        QVERIFY(file.open(QIODevice::ReadOnly) && !file.readAll().contains("Owl 7"));
+        QVERIFY(field("syncPassword")->text().isEmpty());
+        saveShot(&tab, QStringLiteral("preferences-sync"));
+
+        button("stopSyncing")->click();
+        QVERIFY(status().startsWith(QStringLiteral("Sync is off")));
+        QVERIFY(app.settings.value(SettingsKeys::syncURL).toString().isEmpty());
+        QTRY_VERIFY(!app.secrets.others[account]);
     }
 
     // A day switched off counts at once: no idle question on it.

@@ -132,9 +132,10 @@ private Q_SLOTS:
         Shell& shell = ui.shell;
         QStringList unnamed;
         shell.showPreferences();
-        for (const auto tab : {PreferencesWindow::Tab::General, PreferencesWindow::Tab::Security,
-                               PreferencesWindow::Tab::Backup, PreferencesWindow::Tab::Schedule,
-                               PreferencesWindow::Tab::MoreInfo}) {
+        for (const auto tab :
+             {PreferencesWindow::Tab::General, PreferencesWindow::Tab::Security,
+              PreferencesWindow::Tab::Backup, PreferencesWindow::Tab::Sync,
+              PreferencesWindow::Tab::Schedule, PreferencesWindow::Tab::MoreInfo}) {
             shell.preferences()->showTab(tab);
             unnamed << unnamedControls({shell.preferences()});
         }

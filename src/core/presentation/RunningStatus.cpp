@@ -6,6 +6,8 @@
 #include "core/model/Item.h"
 #include "core/presentation/RowTexts.h"
 
+#include <algorithm>
+
 namespace lullet {
 
 QString RunningStatus::clockText(const Item& item)
@@ -14,6 +16,22 @@ QString RunningStatus::clockText(const Item& item)
     if (const int limit = item.timeLimit().value_or(0); limit > 0)
         time += QStringLiteral(" / ") + RowTexts::getStringFromSeconds(limit);
     return item.title().value_or(QString()) + QStringLiteral("  ") + time;
+}
+
+std::optional<double> RunningStatus::progress(const RunningItem& running, const Clock& clock)
+{
+    const Item* item = running.item();
+    if (!item)
+        return std::nullopt;
+    const double elapsed = std::max(0, item->elapsedTime().value_or(0));
+    if (const int limit = item->timeLimit().value_or(0); limit > 0)
+        return std::min(1.0, elapsed / limit);
+    const double period = std::max(1, running.promptPeriod()) * 60.0;
+    const double sincePrompt =
+        running.lastPromptAt()
+            ? clock.now().timeIntervalSince1970() - running.lastPromptAt()->timeIntervalSince1970()
+            : elapsed;
+    return std::clamp(sincePrompt / period, 0.0, 1.0);
 }
 
 const Item* RunningStatus::nextDue(const Library& library, const Clock& clock)

@@ -3,6 +3,7 @@
 #include "core/activity/RunningItem.h"
 #include "core/app/Services.h"
 #include "core/model/Item.h"
+#include "core/presentation/RunningStatus.h"
 
 #include <QColor>
 #include <QFont>
@@ -141,6 +142,10 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const
         return rowTexts(index.row()).projectName;
     case RunningRole:
         return m_services.running.isRunning(line.item);
+    case ProgressRole:
+        if (m_services.running.isRunning(line.item))
+            return *RunningStatus::progress(m_services.running, m_services.clock);
+        return {};
     case FinishedRole:
         return line.heading ? QVariant() : QVariant(isFinished(line));
     case Qt::DisplayRole:

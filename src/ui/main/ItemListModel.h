@@ -20,8 +20,15 @@ class ItemListModel final : public QAbstractTableModel {
 public:
     enum Column { StartColumn, TitleColumn, TimeColumn, DurationColumn, UsedColumn, ColumnCount };
     // ItemRole: the item of a row in memory, none for a heading or a row on disk. FinishedRole
-    // answers for item rows only.
-    enum Role { ItemRole = Qt::UserRole + 1, DueRole, ProjectRole, RunningRole, FinishedRole };
+    // answers for item rows only; ProgressRole, from 0 to 1, for the running item's row only.
+    enum Role {
+        ItemRole = Qt::UserRole + 1,
+        DueRole,
+        ProjectRole,
+        RunningRole,
+        FinishedRole,
+        ProgressRole
+    };
 
     ItemListModel(const Services& services, const ListBuilder::Scope& scope,
                   RowTexts::ProjectName naming, QObject* parent = nullptr);

@@ -24,11 +24,18 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace lullet {
 
 namespace {
 
 constexpr int minimumTitleWidth = 150;
+constexpr int preferredTimeWidth = 180;
+// Enough for "1:00 PM" and "Due in 2 days" at the usual font.
+constexpr int minimumTimeWidth = 110;
+constexpr int preferredDurationWidth = 64;
+constexpr int preferredUsedWidth = 72;
 
 } // namespace
 
@@ -124,9 +131,9 @@ void ItemListView::buildTable(QVBoxLayout* layout)
     columns->setSectionResizeMode(ItemListModel::StartColumn, QHeaderView::Fixed);
     // The title takes what the other columns leave; the time column is wide enough for "Due
     // from 1 hr 30 min at 10:15 AM" and the user may widen it.
-    m_table->setColumnWidth(ItemListModel::TimeColumn, 180);
-    m_table->setColumnWidth(ItemListModel::DurationColumn, 64);
-    m_table->setColumnWidth(ItemListModel::UsedColumn, 72);
+    m_table->setColumnWidth(ItemListModel::TimeColumn, preferredTimeWidth);
+    m_table->setColumnWidth(ItemListModel::DurationColumn, preferredDurationWidth);
+    m_table->setColumnWidth(ItemListModel::UsedColumn, preferredUsedWidth);
     columns->setMinimumSectionSize(36);
     m_table->setWordWrap(false);
     // Reached with Tab: Space or Return starts or stops the current row, the menu key opens its
@@ -170,6 +177,9 @@ void ItemListView::showMenu(const QModelIndex& index, const QPoint& where)
 
 bool ItemListView::eventFilter(QObject* watched, QEvent* event)
 {
+    // The table's own size, known only once its layout has placed it.
+    if (watched == m_table && event->type() == QEvent::Resize)
+        fitColumns();
     if (watched != m_table || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
@@ -227,21 +237,22 @@ void ItemListView::listenToChanges()
     });
 }
 
-void ItemListView::resizeEvent(QResizeEvent* event)
+void ItemListView::fitColumns()
 {
-    QWidget::resizeEvent(event);
-    // The planned and used times show whenever they leave the title room enough to read.
-    if (m_withHeader) {
-        const int others = m_table->columnWidth(ItemListModel::StartColumn) +
-                           m_table->columnWidth(ItemListModel::TimeColumn) +
-                           m_table->columnWidth(ItemListModel::DurationColumn) +
-                           m_table->columnWidth(ItemListModel::UsedColumn);
-        const int room = m_table->width() - 2 * m_table->frameWidth() -
-                         m_table->verticalScrollBar()->sizeHint().width() - others;
-        const bool narrow = room < minimumTitleWidth;
-        m_table->setColumnHidden(ItemListModel::DurationColumn, narrow);
-        m_table->setColumnHidden(ItemListModel::UsedColumn, narrow);
-    }
+    if (!m_withHeader)
+        return;
+    // The title comes first: the planned and used times show when they leave it room enough to
+    // read, and the time column gives way down to what its shortest texts need.
+    const int start = m_table->columnWidth(ItemListModel::StartColumn);
+    const int times = preferredDurationWidth + preferredUsedWidth;
+    const int room = m_table->width() - 2 * m_table->frameWidth() -
+                     m_table->verticalScrollBar()->sizeHint().width() - start;
+    const bool narrow = room - preferredTimeWidth - times < minimumTitleWidth;
+    m_table->setColumnHidden(ItemListModel::DurationColumn, narrow);
+    m_table->setColumnHidden(ItemListModel::UsedColumn, narrow);
+    const int time = std::clamp(room - minimumTitleWidth - (narrow ? 0 : times), minimumTimeWidth,
+                                preferredTimeWidth);
+    m_table->setColumnWidth(ItemListModel::TimeColumn, time);
 }
 
 void ItemListView::reload()

@@ -53,12 +53,13 @@ Q_SIGNALS:
     void addTasksRequested(lullet::Project* project);
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildHeader(QVBoxLayout* layout);
     void buildTable(QVBoxLayout* layout);
+    // Shares the table's width out among its columns.
+    void fitColumns();
     void listenToChanges();
     // The row's menu, at a point of the table's viewport.
     void showMenu(const QModelIndex& index, const QPoint& where);

@@ -98,14 +98,12 @@ void ListHeader::buildCounts(QVBoxLayout* texts)
     counts->addWidget(m_todayCount, 1, 1);
     counts->setColumnStretch(2, 1);
     texts->addLayout(counts);
+    // The times each on a line of their own: side by side, the longer would be cut in a narrow
+    // window.
     m_timeUsed = countLabel(QStringLiteral("timeUsed"), this);
     m_todayTime = countLabel(QStringLiteral("todayTime"), this);
-    auto* times = new QHBoxLayout;
-    times->setSpacing(16);
-    times->addWidget(m_timeUsed);
-    times->addWidget(m_todayTime);
-    times->addStretch();
-    texts->addLayout(times);
+    texts->addWidget(m_timeUsed);
+    texts->addWidget(m_todayTime);
     // The running item's own clock, the same text as the tray's panel shows.
     m_runningClock = new ElidedLabel(QString(), this);
     m_runningClock->setObjectName(QStringLiteral("runningClock"));

@@ -7,9 +7,14 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace lullet {
 
 namespace {
+
+// The colour of work under way, as the list's header shows it.
+const QColor ringColor(0xFC, 0x72, 0x74);
 
 bool isButton(const QModelIndex& index)
 {
@@ -53,6 +58,26 @@ void StartButtonDelegate::paint(QPainter* painter, const QStyleOptionViewItem& o
     if (enabled && m_pressed == index)
         button.state |= QStyle::State_Sunken;
     style->drawControl(QStyle::CE_PushButton, &button, painter, widget);
+    if (const QVariant progress = index.data(ItemListModel::ProgressRole); progress.isValid())
+        paintProgress(painter, button.rect, progress.toDouble());
+}
+
+// The running item's progress as a ring round its button, drawn as the list's header draws the
+// list's: from the top, clockwise.
+void StartButtonDelegate::paintProgress(QPainter* painter, const QRect& around, double fraction)
+{
+    const int side = std::min(around.width(), around.height()) - 2;
+    QRectF ring(0, 0, side, side);
+    ring.moveCenter(QRectF(around).center());
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    QColor track = ringColor;
+    track.setAlphaF(0.15f);
+    painter->setPen(QPen(track, 2.5));
+    painter->drawEllipse(ring);
+    painter->setPen(QPen(ringColor, 2.5, Qt::SolidLine, Qt::RoundCap));
+    painter->drawArc(ring, 90 * 16, -int(std::clamp(fraction, 0.0, 1.0) * 360 * 16));
+    painter->restore();
 }
 
 bool StartButtonDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,

@@ -43,10 +43,13 @@ void BarChart::setEmptyText(const QString& text)
     update();
 }
 
-std::pair<double, double> BarChart::axisFor(double largest) const
+BarChart::Axis BarChart::axis() const
 {
+    double largest = 0;
+    for (const Bar& bar : m_bars)
+        largest = std::max(largest, bar.value);
     if (largest <= 0)
-        return m_wholeNumbers ? std::pair{1.0, 1.0} : std::pair{1.0, 0.25};
+        return m_wholeNumbers ? Axis{1.0, 1.0, 0} : Axis{1.0, 0.25, 2};
     // A step of 1, 2 or 5 times a power of ten that gives at most four steps.
     const double rough = largest / 4;
     const double power = std::pow(10.0, std::floor(std::log10(rough)));
@@ -58,7 +61,24 @@ std::pair<double, double> BarChart::axisFor(double largest) const
     }
     if (m_wholeNumbers)
         step = std::max(step, 1.0);
-    return {std::ceil(largest / step) * step, step};
+    // As many decimals as the step has: 0.05 h steps read 0.05, 0.10, 0.15, never 0.1 twice.
+    const int decimals = std::max(0, -int(std::floor(std::log10(power) + 1e-9)));
+    return {std::ceil(largest / step) * step, step, m_wholeNumbers ? 0 : decimals};
+}
+
+QString BarChart::label(const Axis& axis, double value) const
+{
+    return QString::number(value, 'f', axis.decimals) +
+           (m_unit.isEmpty() ? QString() : u' ' + m_unit);
+}
+
+QStringList BarChart::axisLabels() const
+{
+    const Axis axis = this->axis();
+    QStringList labels;
+    for (int tick = 0; tick * axis.step <= axis.top + axis.step / 2; ++tick)
+        labels << label(axis, tick * axis.step);
+    return labels;
 }
 
 void BarChart::paintEvent(QPaintEvent*)
@@ -66,21 +86,16 @@ void BarChart::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QFontMetrics metrics = fontMetrics();
-    double largest = 0;
-    for (const Bar& bar : m_bars)
-        largest = std::max(largest, bar.value);
-    const auto [top, step] = axisFor(largest);
-
-    if (largest <= 0 && !m_emptyText.isEmpty()) {
+    const Axis axis = this->axis();
+    const bool empty =
+        std::none_of(m_bars.begin(), m_bars.end(), [](const Bar& bar) { return bar.value > 0; });
+    if (empty && !m_emptyText.isEmpty()) {
         painter.setPen(palette().color(QPalette::PlaceholderText));
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
         return;
     }
-    const auto tickText = [this](double value) {
-        return QString::number(value, 'f', m_wholeNumbers ? 0 : 1) +
-               (m_unit.isEmpty() ? QString() : u' ' + m_unit);
-    };
-    const int axisWidth = metrics.horizontalAdvance(tickText(top)) + 8;
+    const QStringList labels = axisLabels();
+    const int axisWidth = metrics.horizontalAdvance(labels.last()) + 8;
     const QRect plot =
         rect().adjusted(axisWidth, metrics.height() / 2, -4, -(metrics.height() + 6));
     if (plot.width() <= 0 || plot.height() <= 0)
@@ -88,13 +103,14 @@ void BarChart::paintEvent(QPaintEvent*)
 
     const QColor grid = palette().color(QPalette::Mid);
     painter.setPen(palette().color(QPalette::WindowText));
-    for (double value = 0; value <= top + step / 2; value += step) {
-        const int y = plot.bottom() - int(std::lround(value / top * plot.height()));
+    for (int tick = 0; tick < labels.size(); ++tick) {
+        const double value = tick * axis.step;
+        const int y = plot.bottom() - int(std::lround(value / axis.top * plot.height()));
         painter.setPen(grid);
         painter.drawLine(plot.left(), y, plot.right(), y);
         painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(QRect(0, y - metrics.height() / 2, axisWidth - 6, metrics.height()),
-                         Qt::AlignRight | Qt::AlignVCenter, tickText(value));
+                         Qt::AlignRight | Qt::AlignVCenter, labels[tick]);
     }
     if (m_bars.empty())
         return;
@@ -108,7 +124,7 @@ void BarChart::paintEvent(QPaintEvent*)
     for (std::size_t i = 0; i < m_bars.size(); ++i) {
         const Bar& bar = m_bars[i];
         const double left = plot.left() + slot * double(i);
-        const double height = top > 0 ? bar.value / top * plot.height() : 0;
+        const double height = axis.top > 0 ? bar.value / axis.top * plot.height() : 0;
         const QRectF shape(left + slot * 0.2, plot.bottom() - height, slot * 0.6, height);
         painter.fillRect(shape, m_color);
         if (i % std::size_t(every) == 0)

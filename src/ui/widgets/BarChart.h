@@ -30,13 +30,22 @@ public:
     void setEmptyText(const QString& text);
 
     QSize sizeHint() const override { return {400, 180}; }
+    // The value axis' labels, from 0 up: no two alike, each as precise as its step needs.
+    QStringList axisLabels() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    // The top of the value axis and its step: round numbers, four steps or so.
-    std::pair<double, double> axisFor(double largest) const;
+    // The top of the value axis, its step (round numbers, four steps or so), and the decimals
+    // its labels need.
+    struct Axis {
+        double top = 1;
+        double step = 1;
+        int decimals = 0;
+    };
+    Axis axis() const;
+    QString label(const Axis& axis, double value) const;
 
     std::vector<Bar> m_bars;
     QColor m_color = QColor(0xFC, 0x72, 0x74);

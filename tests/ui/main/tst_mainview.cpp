@@ -347,14 +347,18 @@ private Q_SLOTS:
         QVERIFY(list->isVisible());
         const QRect inside = list->rect();
         for (const char* name :
-             {"taskCount", "completedCount", "dueCount", "todayCount", "timeUsed", "status",
-              "askWhenIdle", "showRunningOnly", "export"}) {
+             {"taskCount", "completedCount", "dueCount", "todayCount", "timeUsed", "todayTime",
+              "status", "askWhenIdle", "showRunningOnly", "export"}) {
             auto* widget = list->findChild<QWidget*>(QLatin1String(name));
             QVERIFY2(widget && widget->isVisible(), name);
             QVERIFY2(widget->width() >= widget->sizeHint().width(), name);
             const QRect where(widget->mapTo(list, QPoint(0, 0)), widget->size());
             QVERIFY2(inside.contains(where), name);
         }
+        // The tasks' names read: the other columns give way to the title.
+        auto* table = child<QTableView>(list, "items");
+        QVERIFY(table->columnWidth(ItemListModel::TitleColumn) >= 150);
+        QVERIFY(table->isColumnHidden(ItemListModel::UsedColumn));
         QCOMPARE(child<QLabel>(list, "completedCount")->text(), QStringLiteral("Complete: 1"));
         auto* name = child<ElidedLabel>(list, "listName");
         QCOMPARE(name->text(), QStringLiteral("Book club reading list for winter"));
@@ -369,6 +373,24 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
             QCOMPARE(view.sidebar().list()->width(), sidebarWidth);
         }
+    }
+
+    // A chart's value axis never prints a label twice, however small its values.
+    void chartAxisLabelsAreDistinct()
+    {
+        BarChart chart;
+        chart.setUnit(QStringLiteral("h"));
+        for (const double largest : {0.0, 0.04, 0.2, 0.35, 1.0, 7.3, 120.0}) {
+            chart.setBars({{QStringLiteral("MON"), largest}, {QStringLiteral("TUE"), largest / 3}});
+            const QStringList labels = chart.axisLabels();
+            QVERIFY2(labels.size() >= 2, qPrintable(labels.join(u',')));
+            QCOMPARE(QSet<QString>(labels.begin(), labels.end()).size(), labels.size());
+        }
+        chart.setBars({{QStringLiteral("MON"), 0.2}});
+        QCOMPARE(chart.axisLabels(),
+                 (QStringList{QStringLiteral("0.00 h"), QStringLiteral("0.05 h"),
+                              QStringLiteral("0.10 h"), QStringLiteral("0.15 h"),
+                              QStringLiteral("0.20 h")}));
     }
 
     // The main header and the tray's panel show the running item's one clock.
@@ -392,6 +414,23 @@ private Q_SLOTS:
         QCOMPARE(clock->text(), QStringLiteral("Running: Walk the dog  00:00:19"));
         QCOMPARE(child<QLabel>(&panel, "runningNow")->text(),
                  QStringLiteral("Walk the dog  00:00:19"));
+
+        // Its row shows how far it is: through the prompt period without a limit, else through
+        // its limit; no other row has a progress.
+        const QAbstractItemModel* rows = child<QTableView>(shownList(view), "items")->model();
+        const auto progresses = [&] {
+            QList<double> found;
+            for (int row = 0; row < rows->rowCount(); ++row) {
+                const QVariant progress = rows->index(row, 0).data(ItemListModel::ProgressRole);
+                if (progress.isValid())
+                    found << progress.toDouble();
+            }
+            return found;
+        };
+        QCOMPARE(progresses(), QList<double>{19.0 / (15 * 60)});
+        services().running.item()->setTimeLimit(76);
+        QCOMPARE(progresses(), QList<double>{0.25});
+        saveShot(&view, QStringLiteral("running-row"));
     }
 };
 

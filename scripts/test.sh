@@ -11,6 +11,9 @@ if git rev-parse --is-inside-work-tree >/dev/null 2>&1; then
     git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 fi
 bash scripts/check-includes.sh
+# Every text of the sources is in the translations. The German, French and Spanish texts are on
+# their way; until then an untranslated message passes.
+bash scripts/check-translations.sh --allow-unfinished
 
 # The core alone, without Qt Gui or Widgets on the link line, which proves the layering holds,
 # and with the address and undefined-behaviour sanitizers on its tests.

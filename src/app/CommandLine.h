@@ -2,6 +2,8 @@
 
 namespace lullet {
 
+class Translations;
+
 // What the program was asked to do on its command line. Read before any window system is
 // touched, so that help, the version and a wrong option need no display.
 struct CommandLine {
@@ -18,8 +20,8 @@ struct CommandLine {
     bool resume = false;
 
     // Fills `into` and returns -1 when the program should go on; otherwise the exit status, once
-    // help, the version or the usage line has been printed.
-    static int parse(int argc, char* argv[], CommandLine& into);
+    // help, the version or the usage line has been printed in the user's language.
+    static int parse(int argc, char* argv[], CommandLine& into, const Translations& translations);
 };
 
 } // namespace lullet

@@ -21,6 +21,7 @@
 #include "ui/desktop/SessionPresence.h"
 #include "ui/desktop/SingleInstance.h"
 #include "ui/desktop/TerminationSignals.h"
+#include "ui/desktop/Translations.h"
 #include "ui/desktop/TrayIconPainter.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/Shell.h"
@@ -88,22 +89,26 @@ void showWindows(const Services& services, Shell& shell, MainWindow& window, boo
 {
     QObject::connect(&services.library, &Library::saveFailed, &window,
                      [&window](const QString& message) { Dialogs::inform(&window, message); });
-    QObject::connect(&services.library, &Library::readFailed, &window,
-                     [&window](const QString& message) {
-                         Dialogs::inform(&window,
-                                         QStringLiteral("Some of your older history could not be "
+    QObject::connect(
+        &services.library, &Library::readFailed, &window, [&window](const QString& message) {
+            Dialogs::inform(&window,
+                            QCoreApplication::translate("main",
+                                                        "Some of your older history could not be "
                                                         "read: lists and counts may be short."),
-                                         message);
-                     });
+                            message);
+        });
     shell.setLoaded();
     // The idle question meets the user right after the window appears, or at once in the tray.
     const auto greet = [&services, &window] {
         if (services.schedule.takeReplacedNotice())
-            Dialogs::inform(&window, QStringLiteral("Your working hours could not be read."),
-                            QStringLiteral("Lullet uses Monday to Friday, 9:00 to 18:00, until "
-                                           "you set them again. What could not be read is kept "
-                                           "under \"schedulesUnreadable\" in %1.")
-                                .arg(services.settings.filePath()));
+            Dialogs::inform(
+                &window,
+                QCoreApplication::translate("main", "Your working hours could not be read."),
+                QCoreApplication::translate(
+                    "main", "Lullet uses Monday to Friday, 9:00 to 18:00, until you set them "
+                            "again. What could not be read is kept under \"schedulesUnreadable\" "
+                            "in %1.")
+                    .arg(services.settings.filePath()));
         if (!services.running.item())
             services.monitor.askWhatNow();
     };
@@ -152,10 +157,13 @@ void connectQuitPaths(AppController& core, Shell& shell, MainWindow& window,
             return;
         if (core.prepareToQuit() == AppController::QuitReply::SaveFailed &&
             !Dialogs::confirm(&window,
-                              QStringLiteral("Could not save changes while quitting. Quit anyway?"),
-                              QStringLiteral("Quitting now will lose any changes you have made "
-                                             "since the last successful save"),
-                              QStringLiteral("Quit anyway"), QStringLiteral("Cancel")))
+                              QCoreApplication::translate(
+                                  "main", "Could not save changes while quitting. Quit anyway?"),
+                              QCoreApplication::translate(
+                                  "main", "Quitting now will lose any changes you have made "
+                                          "since the last successful save"),
+                              QCoreApplication::translate("main", "Quit anyway"),
+                              QCoreApplication::translate("main", "Cancel")))
             return;
         *terminated = true;
         // A last sync sends what waits; quitting waits for it three seconds at most, and what
@@ -187,19 +195,24 @@ int main(int argc, char* argv[])
     // and every file the program makes is the user's alone.
     TerminationSignals::install();
     ::umask(077);
+    // The user's language, already for the command line's help.
+    Translations translations;
     CommandLine options;
-    if (const int status = CommandLine::parse(argc, argv, options); status >= 0)
+    if (const int status = CommandLine::parse(argc, argv, options, translations); status >= 0)
         return status;
 
     // Without a window system Qt would abort; the user is told instead.
     if (!PlatformChoice::hasDisplay(QProcessEnvironment::systemEnvironment())) {
-        std::fprintf(stderr, "Lullet: %s\n",
-                     qPrintable(QCoreApplication::translate(
-                         "main", "no display. Start Lullet in your desktop session.")));
+        std::fprintf(
+            stderr, "Lullet: %s\n",
+            qPrintable(translations.text(
+                "main",
+                QT_TRANSLATE_NOOP("main", "no display. Start Lullet in your desktop session."))));
         return 1;
     }
     PlatformChoice::apply();
     QApplication app(argc, argv);
+    translations.install();
     QApplication::setApplicationName(QStringLiteral("Lullet"));
     QApplication::setApplicationVersion(QStringLiteral(PROJECT_VERSION));
     QApplication::setDesktopFileName(QLatin1String(appId));
@@ -219,7 +232,8 @@ int main(int argc, char* argv[])
     case SingleInstance::Role::Secondary:
         if (instance.forward(requestOf(options)))
             return 0;
-        return endLaunch(QStringLiteral("Another Lullet is running but does not answer."));
+        return endLaunch(
+            QCoreApplication::translate("main", "Another Lullet is running but does not answer."));
     case SingleInstance::Role::Primary:
         break;
     }

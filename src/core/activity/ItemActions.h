@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <vector>
@@ -15,19 +16,21 @@ class RunningItem;
 // What can be done to an item from anywhere it is listed: start, stop (which is finishing),
 // finish, confirm a to-do, delete, move and duplicate to a project.
 class ItemActions {
+    Q_DECLARE_TR_FUNCTIONS(ItemActions)
+
 public:
     ItemActions(Library& library, RunningItem& running, Catalogue& catalogue);
 
-    static QString alreadyRunningMessage() { return QStringLiteral("A task is already running."); }
+    static QString alreadyRunningMessage() { return tr("A task is already running."); }
     static QString alreadyRunningInformation()
     {
-        return QStringLiteral(
+        return tr(
             "Another Task is already running. \nDo you want to complete that, and start this?");
     }
-    static QString cannotPostponeTitle() { return QStringLiteral("Cannot postpone now"); }
+    static QString cannotPostponeTitle() { return tr("Cannot postpone now"); }
     static QString cannotPostponeText()
     {
-        return QStringLiteral("Cannot postpone now as this Lullet is running");
+        return tr("Cannot postpone now as this Lullet is running");
     }
 
     enum class StartResult { Started, ToDoDone, AnotherIsRunning };

@@ -72,14 +72,13 @@ std::optional<Date> Postponing::dateFor(int choice, Date base, const Clock& cloc
 QString Postponing::eveningLabel(Date base, const Clock& clock)
 {
     if (base.dateAtStartOfDay().dateByAddingHours(19) < base)
-        return base.isToday(clock) ? QStringLiteral("Tomorrow eve")
-                                   : QStringLiteral("Next evening");
-    return QStringLiteral("This evening");
+        return base.isToday(clock) ? tr("Tomorrow eve") : tr("Next evening");
+    return tr("This evening");
 }
 
 QString Postponing::nextDayLabel(Date base, const Clock& clock)
 {
-    return base.isToday(clock) ? QStringLiteral("Tomorrow") : QStringLiteral("Next day");
+    return base.isToday(clock) ? tr("Tomorrow") : tr("Next day");
 }
 
 QString Postponing::inTwoDaysLabel(Date base)
@@ -90,8 +89,8 @@ QString Postponing::inTwoDaysLabel(Date base)
 QString Postponing::weekendLabel(Date base)
 {
     return base.dateAtEndOfWeek().dateByAddingHours(10).daysAfterDate(base) > 0
-               ? QStringLiteral("This weekend")
-               : QStringLiteral("Next weekend");
+               ? tr("This weekend")
+               : tr("Next weekend");
 }
 
 bool Postponing::chooseInPanel(Item* item, int choice)

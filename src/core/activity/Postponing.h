@@ -2,6 +2,7 @@
 
 #include "core/dates/Date.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <optional>
@@ -16,6 +17,8 @@ class Library;
 // panel and of the rows' menu. Only the effective date (dtReminderPostponed) is written, but for
 // the choice that takes the date away altogether.
 class Postponing {
+    Q_DECLARE_TR_FUNCTIONS(Postponing)
+
 public:
     enum Choice {
         InThreeHours = 1,

@@ -2,6 +2,7 @@
 
 #include "core/model/Project.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace lullet {
@@ -11,19 +12,20 @@ class Library;
 
 // Adding, renaming, deleting and duplicating projects.
 class ProjectActions {
+    Q_DECLARE_TR_FUNCTIONS(ProjectActions)
+
 public:
     ProjectActions(const Clock& clock, Library& library);
 
-    static QString blankMessage() { return QStringLiteral("Name is blank\nPlease set a name"); }
+    static QString blankMessage() { return tr("Name is blank\nPlease set a name"); }
     static QString existsMessage()
     {
-        return QStringLiteral("Project alreday exists\nPlease enter different name");
+        return tr("Project alreday exists\nPlease enter different name");
     }
-    static QString deleteTitle() { return QStringLiteral("Confirm before delete"); }
+    static QString deleteTitle() { return tr("Confirm before delete"); }
     static QString deleteQuestion()
     {
-        return QStringLiteral(
-            "All tasks under this Project will be deleted.\nAre you sure to delete ?");
+        return tr("All tasks under this Project will be deleted.\nAre you sure to delete ?");
     }
 
     struct Added {

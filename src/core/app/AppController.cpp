@@ -116,11 +116,10 @@ Store::Result AppController::open()
 void AppController::startMonitoring()
 {
     QPointer<AppController> self(this);
-    m_inhibitor.inhibit(QStringLiteral("Reason for activity"),
-                        [self](std::optional<quint32> cookie) {
-                            if (self && cookie)
-                                self->m_inhibitCookie = cookie;
-                        });
+    m_inhibitor.inhibit(tr("Reason for activity"), [self](std::optional<quint32> cookie) {
+        if (self && cookie)
+            self->m_inhibitCookie = cookie;
+    });
     m_timer = std::make_unique<QTimer>();
     m_timer->setTimerType(Qt::PreciseTimer);
     connect(m_timer.get(), &QTimer::timeout, this, [this] {

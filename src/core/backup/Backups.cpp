@@ -18,8 +18,9 @@ namespace lullet {
 
 namespace {
 
-const QString backupType = QStringLiteral("Backup");
-const QString safetyType = QStringLiteral("Restored Backup");
+// Kept in the list of backups as they are; the backup panel shows them translated.
+const QString backupType = QStringLiteral(QT_TRANSLATE_NOOP("Backups", "Backup"));
+const QString safetyType = QStringLiteral(QT_TRANSLATE_NOOP("Backups", "Restored Backup"));
 
 } // namespace
 
@@ -86,8 +87,8 @@ void Backups::makeListedCopy(const QString& type, const std::function<void(bool 
 {
     const QString folder = backupsFolder();
     if (!PrivateFiles::makeFolder(folder)) {
-        Q_EMIT backupFailed(QStringLiteral("No backup was made: the folder %1 could not be "
-                                           "created.")
+        Q_EMIT backupFailed(tr("No backup was made: the folder %1 could not be "
+                               "created.")
                                 .arg(folder));
         then(false);
         return;
@@ -101,7 +102,7 @@ void Backups::makeListedCopy(const QString& type, const std::function<void(bool 
         m_services.store.storePath(), path,
         [this, path, type, then](const StoreCopy::Result& result) {
             if (!result.ok) {
-                Q_EMIT backupFailed(QStringLiteral("No backup was made. ") + result.message);
+                Q_EMIT backupFailed(tr("No backup was made. %1").arg(result.message));
                 then(false);
                 return;
             }
@@ -125,8 +126,7 @@ void Backups::backUpTo(const QString& destination)
                          if (result.ok)
                              Q_EMIT backedUp(destination);
                          else
-                             Q_EMIT backupFailed(QStringLiteral("No backup was made. ") +
-                                                 result.message);
+                             Q_EMIT backupFailed(tr("No backup was made. %1").arg(result.message));
                      });
 }
 
@@ -135,7 +135,7 @@ std::optional<QString> Backups::refusal(const QString& path) const
     const Store& store = m_services.store;
     const QString chosen = QFileInfo(path).canonicalFilePath();
     if (!chosen.isEmpty() && chosen == QFileInfo(store.storePath()).canonicalFilePath())
-        return QStringLiteral("That file is the store Lullet is using now.");
+        return tr("That file is the store Lullet is using now.");
     const QString work = QFileInfo(workFolder()).canonicalFilePath();
     if (store.isWorkingFile(path) ||
         (!work.isEmpty() && chosen.startsWith(work + QLatin1Char('/'))))
@@ -153,8 +153,8 @@ void Backups::restoreFrom(const QString& path, const QString& shownProject)
         return;
     }
     if (!m_services.library.save()) {
-        Q_EMIT restoreFailed(QStringLiteral("Your latest changes could not be saved, so nothing "
-                                            "was restored."));
+        Q_EMIT restoreFailed(tr("Your latest changes could not be saved, so nothing "
+                                "was restored."));
         return;
     }
     m_restoring = true;
@@ -176,9 +176,9 @@ void Backups::restoreFrom(const QString& path, const QString& shownProject)
                 if (!ok) {
                     StoreFiles::remove(prepared);
                     m_restoring = false;
-                    Q_EMIT restoreFailed(QStringLiteral("No safety copy of your present data "
-                                                        "could be made, so nothing was "
-                                                        "restored."));
+                    Q_EMIT restoreFailed(tr("No safety copy of your present data "
+                                            "could be made, so nothing was "
+                                            "restored."));
                     return;
                 }
                 swap(shownProject);

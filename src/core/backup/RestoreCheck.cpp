@@ -4,7 +4,6 @@
 #include "core/store/StoreSchema.h"
 
 #include <QByteArray>
-#include <QCoreApplication>
 #include <QFile>
 
 #include <fcntl.h>
@@ -20,18 +19,17 @@ std::optional<QString> RestoreCheck::refusalOfFile(const QString& path)
     const int fd =
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (fd < 0)
-        return QStringLiteral("The file could not be read.");
+        return tr("The file could not be read.");
     struct stat info = {};
     const bool plain = ::fstat(fd, &info) == 0 && S_ISREG(info.st_mode);
     QByteArray header(100, '\0');
     const ssize_t got = plain ? ::read(fd, header.data(), std::size_t(header.size())) : 0;
     ::close(fd);
     if (!plain)
-        return QCoreApplication::translate("RestoreCheck",
-                                           "Only a file can be restored, and this is a folder, "
-                                           "a device or another special file.");
+        return tr("Only a file can be restored, and this is a folder, "
+                  "a device or another special file.");
     if (got < 100 || !header.startsWith(QByteArrayView("SQLite format 3\0", 16)))
-        return QStringLiteral("The file is not a database, so it is no Lullet backup.");
+        return tr("The file is not a database, so it is no Lullet backup.");
     return std::nullopt;
 }
 
@@ -39,23 +37,23 @@ std::optional<QString> RestoreCheck::refusalOfContent(Db& db)
 {
     const std::optional<QString> quick = db.queryText("PRAGMA quick_check");
     if (quick != QStringLiteral("ok"))
-        return QStringLiteral("The file is damaged: %1").arg(quick.value_or(db.errorMessage()));
+        return tr("The file is damaged: %1").arg(quick.value_or(db.errorMessage()));
     switch (StoreSchema::check(db)) {
     case StoreSchema::Check::Ours:
         break;
     case StoreSchema::Check::Fresh:
-        return QStringLiteral("The file is an empty database, not a Lullet store.");
+        return tr("The file is an empty database, not a Lullet store.");
     case StoreSchema::Check::Foreign:
-        return QStringLiteral("The file is a database of another program, not a Lullet store.");
+        return tr("The file is a database of another program, not a Lullet store.");
     case StoreSchema::Check::Newer:
-        return QStringLiteral("The file was written by a newer version of Lullet. Update Lullet "
-                              "to restore it.");
+        return tr("The file was written by a newer version of Lullet. Update Lullet "
+                  "to restore it.");
     case StoreSchema::Check::Damaged:
     case StoreSchema::Check::Unknown:
-        return QStringLiteral("The file is damaged: %1").arg(db.errorMessage());
+        return tr("The file is damaged: %1").arg(db.errorMessage());
     }
     if (!StoreSchema::hasTables(db))
-        return QStringLiteral("The file lacks the tables of a Lullet store.");
+        return tr("The file lacks the tables of a Lullet store.");
     return std::nullopt;
 }
 

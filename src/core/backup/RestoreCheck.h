@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <optional>
@@ -14,6 +15,8 @@ class Db;
 // through SQLite and in the very reading that copies it, its content: it must pass SQLite's
 // quick check and be a Lullet store this version can open, with its tables.
 class RestoreCheck {
+    Q_DECLARE_TR_FUNCTIONS(RestoreCheck)
+
 public:
     // Why the file can't be restored, in words for the user; nothing when it may be read.
     static std::optional<QString> refusalOfFile(const QString& path);

@@ -46,9 +46,9 @@ StoreCopy::Result StoreCopy::copy(const QString& source, const QString& destinat
                                   const QString& workFolder, const Check& check)
 {
     if (!QFile::exists(source))
-        return failed(QStringLiteral("The store %1 does not exist.").arg(source));
+        return failed(tr("The store %1 does not exist.").arg(source));
     if (QFile::exists(destination))
-        return failed(QStringLiteral("%1 already exists; it was left as it was.").arg(destination));
+        return failed(tr("%1 already exists; it was left as it was.").arg(destination));
     PrivateFiles::makeFolder(workFolder);
     const QString temp = QDir(workFolder).filePath(QStringLiteral("tempBkp.sqlite"));
     QFile::remove(temp);
@@ -57,11 +57,9 @@ StoreCopy::Result StoreCopy::copy(const QString& source, const QString& destinat
         from.setBusyTimeout(2000);
         Db to(temp);
         if (!from.isOpen())
-            return failed(
-                QStringLiteral("%1 could not be read: %2").arg(source, from.errorMessage()));
+            return failed(tr("%1 could not be read: %2").arg(source, from.errorMessage()));
         if (!to.isOpen())
-            return failed(
-                QStringLiteral("%1 could not be written: %2").arg(temp, to.errorMessage()));
+            return failed(tr("%1 could not be written: %2").arg(temp, to.errorMessage()));
         // One reading for the check and the copy, with its log if the source has one.
         from.exec("BEGIN");
         if (check) {
@@ -73,18 +71,18 @@ StoreCopy::Result StoreCopy::copy(const QString& source, const QString& destinat
         QString error;
         if (!copyPages(from, to, error)) {
             QFile::remove(temp);
-            return failed(QStringLiteral("The store could not be copied: %1").arg(error));
+            return failed(tr("The store could not be copied: %1").arg(error));
         }
         // The copy carries the live store's WAL mode: it is made a single, whole file.
         if (to.queryText("PRAGMA journal_mode = DELETE") != QStringLiteral("delete")) {
             QFile::remove(temp);
-            return failed(QStringLiteral("The copy could not be made a single file: %1")
-                              .arg(to.errorMessage()));
+            return failed(
+                tr("The copy could not be made a single file: %1").arg(to.errorMessage()));
         }
     }
     if (!QFile::copy(temp, destination)) {
         QFile::remove(temp);
-        return failed(QStringLiteral("The copy could not be written to %1.").arg(destination));
+        return failed(tr("The copy could not be written to %1.").arg(destination));
     }
     QFile::remove(temp);
     PrivateFiles::keepFile(destination);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <functional>
@@ -13,6 +14,8 @@ class Db;
 // own, so that what is committed but still in the write-ahead log is in it too. The copy ends in
 // journal mode DELETE: one file, no side files. Safe on any thread; it touches no record.
 class StoreCopy {
+    Q_DECLARE_TR_FUNCTIONS(StoreCopy)
+
 public:
     struct Result {
         bool ok = false;

@@ -4,11 +4,11 @@
 
 namespace lullet {
 
-// The English names of the weekdays, as the schedule table shows them.
+// The names of the weekdays in the user's language, as the schedule table shows them.
 class WeekdayNames {
 public:
     // 1 is "Sunday" through 7 "Saturday"; any other number gives the empty text.
-    static QString english(int weekday);
+    static QString name(int weekday);
 };
 
 } // namespace lullet

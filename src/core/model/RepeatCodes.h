@@ -1,5 +1,8 @@
 #pragma once
 
+#include "core/text/CountedText.h"
+
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -38,10 +41,14 @@ inline int days(int code)
 
 inline QStringList labels()
 {
-    return {QStringLiteral("On date"), QStringLiteral("1 day"),  QStringLiteral("2 days"),
-            QStringLiteral("3 days"),  QStringLiteral("4 days"), QStringLiteral("5 days"),
-            QStringLiteral("6 days"),  QStringLiteral("7 days"), QStringLiteral("10 days"),
-            QStringLiteral("15 days")};
+    QStringList labels{QCoreApplication::translate("RemindBefore", "On date")};
+    for (const int code : codes) {
+        if (code > 0)
+            labels << CountedText::text("RemindBefore",
+                                        QT_TRANSLATE_N_NOOP("RemindBefore", "%n days"), code,
+                                        code == 1 ? "%n day" : nullptr);
+    }
+    return labels;
 }
 } // namespace RemindBefore
 

@@ -5,6 +5,7 @@
 #include "core/library/Library.h"
 #include "core/model/Item.h"
 #include "core/model/RepeatCodes.h"
+#include "core/text/CountedText.h"
 
 namespace lullet {
 
@@ -36,17 +37,18 @@ QString IdlePrompt::rangeText() const
 {
     const Date now = m_clock.now();
     if (m_askNow)
-        return QStringLiteral("(") + shortTime(now) + QStringLiteral(")");
-    return QStringLiteral("(") + shortTime(m_since) + QStringLiteral(" - ") + shortTime(now) +
-           QStringLiteral(")");
+        return tr("(%1)").arg(shortTime(now));
+    return tr("(%1 - %2)").arg(shortTime(m_since), shortTime(now));
 }
 
 QString IdlePrompt::questionText() const
 {
     if (m_askNow)
-        return QStringLiteral("What are you doing now ?");
+        return tr("What are you doing now ?");
     const qint64 minutes = m_clock.now().minutesAfterDate(m_since);
-    return QStringLiteral("What were you doing for last %1 minutes ?").arg(minutes);
+    return CountedText::text(
+        "IdlePrompt",
+        QT_TRANSLATE_N_NOOP("IdlePrompt", "What were you doing for last %n minutes ?"), minutes);
 }
 
 void IdlePrompt::extend(bool askNow)

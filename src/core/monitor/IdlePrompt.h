@@ -3,6 +3,7 @@
 #include "core/dates/Date.h"
 #include "core/monitor/PromptOutcome.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace lullet {
@@ -18,16 +19,15 @@ class RunningItem;
 // A question left unanswered hands its start on to the next question, which then covers the
 // whole gap.
 class IdlePrompt {
+    Q_DECLARE_TR_FUNCTIONS(IdlePrompt)
+
 public:
     // Takes over the start of a gap that an earlier question left unanswered.
     IdlePrompt(const Clock& clock, Library& library, RunningItem& running, Date since, bool askNow);
 
-    static QString blankMessage()
-    {
-        return QStringLiteral(" Task name is blank! Please enter task name. ");
-    }
+    static QString blankMessage() { return tr(" Task name is blank! Please enter task name. "); }
     // The first entry of the project menu, which means no project.
-    static QString noProjectChoice() { return QStringLiteral("Today"); }
+    static QString noProjectChoice() { return tr("Today"); }
 
     Date gapStart() const { return m_since; }
     bool asksNow() const { return m_askNow; }

@@ -19,12 +19,11 @@ ReminderPrompt::ReminderPrompt(Postponing& postponing, RunningItem& running, Ite
 QString ReminderPrompt::reminderText() const
 {
     if (!m_due)
-        return QStringLiteral("None");
-    QString text = QStringLiteral("Time for : ") + m_due->title().value_or(QString()) +
-                   QStringLiteral(", at :");
-    if (const std::optional<Date> due = m_due->effectiveDate())
-        text += due->toString(DateStyle::None, DateStyle::Short);
-    return text;
+        return tr("None");
+    const std::optional<Date> due = m_due->effectiveDate();
+    return tr("Time for : %1, at :%2")
+        .arg(m_due->title().value_or(QString()),
+             due ? due->toString(DateStyle::None, DateStyle::Short) : QString());
 }
 
 QString ReminderPrompt::previousText() const

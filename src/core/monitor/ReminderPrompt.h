@@ -2,6 +2,7 @@
 
 #include "core/monitor/PromptOutcome.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace lullet {
@@ -13,6 +14,8 @@ class RunningItem;
 // A scheduled item is due: start it, delay it, or, where another item still runs, say that the
 // other one is finished or needs more time. This is where an item becomes the running one.
 class ReminderPrompt {
+    Q_DECLARE_TR_FUNCTIONS(ReminderPrompt)
+
 public:
     ReminderPrompt(Postponing& postponing, RunningItem& running, Item* due, Item* previous);
 

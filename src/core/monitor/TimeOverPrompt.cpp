@@ -15,8 +15,7 @@ QString TimeOverPrompt::question(const Item* item)
 {
     if (!item)
         return {};
-    return QStringLiteral("Have you finished : ") + item->title().value_or(QString()) +
-           QStringLiteral(" ?");
+    return tr("Have you finished : %1 ?").arg(item->title().value_or(QString()));
 }
 
 PromptOutcome TimeOverPrompt::finish()

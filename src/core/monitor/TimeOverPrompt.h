@@ -2,6 +2,7 @@
 
 #include "core/monitor/PromptOutcome.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace lullet {
@@ -11,6 +12,8 @@ class RunningItem;
 
 // The running item's time is over: is it finished, or does it need more time?
 class TimeOverPrompt {
+    Q_DECLARE_TR_FUNCTIONS(TimeOverPrompt)
+
 public:
     TimeOverPrompt(RunningItem& running, Item* item);
 

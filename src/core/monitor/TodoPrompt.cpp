@@ -15,8 +15,7 @@ QString TodoPrompt::text() const
 {
     if (!m_item)
         return {};
-    return QStringLiteral("Time for : ") + m_item->title().value_or(QString()) +
-           QStringLiteral(". Done ?");
+    return tr("Time for : %1. Done ?").arg(m_item->title().value_or(QString()));
 }
 
 PromptOutcome TodoPrompt::done()

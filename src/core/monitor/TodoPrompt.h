@@ -2,6 +2,7 @@
 
 #include "core/monitor/PromptOutcome.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace lullet {
@@ -12,6 +13,8 @@ class ItemActions;
 // A lullet or to-do's moment has come: confirm it, which finishes it and makes the next
 // occurrence, or dismiss it, which changes nothing.
 class TodoPrompt {
+    Q_DECLARE_TR_FUNCTIONS(TodoPrompt)
+
 public:
     TodoPrompt(ItemActions& actions, Item* item);
 

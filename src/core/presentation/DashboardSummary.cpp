@@ -142,10 +142,8 @@ DashboardSummary DashboardSummary::of(const std::vector<Item*>& items,
 
 QStringList DashboardSummary::monthLabels()
 {
-    return {QStringLiteral("JAN"), QStringLiteral("FEB"), QStringLiteral("MAR"),
-            QStringLiteral("APR"), QStringLiteral("MAY"), QStringLiteral("JUN"),
-            QStringLiteral("JUL"), QStringLiteral("AUG"), QStringLiteral("SEP"),
-            QStringLiteral("OCT"), QStringLiteral("NOV"), QStringLiteral("DEC")};
+    return {tr("JAN"), tr("FEB"), tr("MAR"), tr("APR"), tr("MAY"), tr("JUN"),
+            tr("JUL"), tr("AUG"), tr("SEP"), tr("OCT"), tr("NOV"), tr("DEC")};
 }
 
 } // namespace lullet

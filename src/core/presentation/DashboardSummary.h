@@ -2,6 +2,7 @@
 
 #include "core/dates/Date.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -20,6 +21,9 @@ class RunningItem;
 // What the dashboard shows, worked out in one pass over the items: the three circles' counts,
 // the items of each month of this year, and a row for each project that has items.
 struct DashboardSummary {
+    Q_DECLARE_TR_FUNCTIONS(DashboardSummary)
+
+public:
     struct ProjectRow {
         QString title;
         int count = 0;
@@ -61,7 +65,7 @@ struct DashboardSummary {
     };
     // "JAN" … "DEC".
     static QStringList monthLabels();
-    static QString notInProjectTitle() { return QStringLiteral("Not in Project"); }
+    static QString notInProjectTitle() { return tr("Not in Project"); }
 };
 
 } // namespace lullet

@@ -77,8 +77,9 @@ QString ListBuilder::dayHeading(Date day)
 {
     const QString weekday = LocalizedText::capitalizeFirst(day.shortWeekdayToString());
     const QString month = LocalizedText::capitalizeFirst(day.shortMonthToString());
-    return weekday + u' ' + QString::number(day.day()) + QStringLiteral(", ") + month + u' ' +
-           QString::number(day.year());
+    // Weekday, day, month and year, as "Mon 3, Jan 2025"; a long history has thousands.
+    static const QString heading = tr("%1 %2, %3 %4");
+    return heading.arg(weekday, QString::number(day.day()), month, QString::number(day.year()));
 }
 
 std::vector<Item*> ListBuilder::itemsFor(const Scope& scope, Library& library, Date now)

@@ -4,6 +4,7 @@
 #include "core/presentation/ListRow.h"
 #include "core/presentation/Segment.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <vector>
@@ -18,6 +19,8 @@ class Project;
 // Which items each list shows, and in which order: "Today", "Anytime" and a project's list, and
 // the custom listings "Upcoming" and "Completed", by day.
 class ListBuilder {
+    Q_DECLARE_TR_FUNCTIONS(ListBuilder)
+
 public:
     struct Scope {
         Segment segment = Segment::Today;

@@ -5,8 +5,6 @@
 #include "core/model/Item.h"
 #include "core/model/RepeatCodes.h"
 
-#include <QCoreApplication>
-
 #include <iterator>
 
 namespace lullet {
@@ -35,11 +33,11 @@ QStringList QuickAddForm::durationChoices()
     QStringList choices;
     for (const int minutes : durationMinutes) {
         if (minutes == 0)
-            choices << QCoreApplication::translate("QuickAddForm", "No duration");
+            choices << tr("No duration");
         else if (minutes == 60)
-            choices << QCoreApplication::translate("QuickAddForm", "1 Hour");
+            choices << tr("1 Hour");
         else
-            choices << QCoreApplication::translate("QuickAddForm", "%1 min").arg(minutes);
+            choices << tr("%1 min").arg(minutes);
     }
     return choices;
 }
@@ -47,16 +45,17 @@ QStringList QuickAddForm::durationChoices()
 QString QuickAddForm::dateLabel() const
 {
     if (!m_date)
-        return QStringLiteral("No");
-    return QString::number(m_date->day()) + u' ' + m_date->shortMonthToString() + u' ' +
-           QString::number(m_date->year());
+        return tr("No");
+    return tr("%1 %2 %3")
+        .arg(QString::number(m_date->day()), m_date->shortMonthToString(),
+             QString::number(m_date->year()));
 }
 
 QString QuickAddForm::timeLabel() const
 {
     if (!m_date)
-        return QStringLiteral("date");
-    return QStringLiteral("at ") + m_date->toString(DateStyle::None, DateStyle::Short);
+        return tr("date");
+    return tr("at %1").arg(m_date->toString(DateStyle::None, DateStyle::Short));
 }
 
 Date QuickAddForm::chooserStart() const

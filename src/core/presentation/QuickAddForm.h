@@ -2,6 +2,7 @@
 
 #include "core/dates/Date.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -18,13 +19,12 @@ class Project;
 // picks another date or none, in the chosen project or none, with the duration chosen in its
 // menu.
 class QuickAddForm {
+    Q_DECLARE_TR_FUNCTIONS(QuickAddForm)
+
 public:
     QuickAddForm(const Clock& clock, Library& library);
 
-    static QString blankMessage()
-    {
-        return QStringLiteral(" Task name is blank! Please enter task name. ");
-    }
+    static QString blankMessage() { return tr(" Task name is blank! Please enter task name. "); }
     static QStringList durationChoices();
 
     // The form is opened afresh: due ten minutes from now.

@@ -4,6 +4,7 @@
 #include "core/model/Item.h"
 #include "core/model/RepeatCodes.h"
 #include "core/presentation/DashboardSummary.h"
+#include "core/text/CountedText.h"
 
 namespace lullet {
 
@@ -16,11 +17,6 @@ QString twoDigits(int value)
         return QString::number(value);
     const QChar digits[2] = {QChar(u'0' + value / 10), QChar(u'0' + value % 10)};
     return QString(digits, 2);
-}
-
-QString plural(qint64 n)
-{
-    return n > 1 ? QStringLiteral("s") : QString();
 }
 
 } // namespace
@@ -46,10 +42,13 @@ QString RowTexts::lateness(const Item& item, Date due, const Clock& clock, bool&
                                       now.dateAtStartOfDay().timeIntervalSince1970()) /
                                      86400.0);
         if (days > 0)
-            return QStringLiteral("In %1 day").arg(days) + plural(days);
+            return CountedText::text("RowTexts", QT_TRANSLATE_N_NOOP("RowTexts", "In %n days"),
+                                     days, days > 1 ? nullptr : "In %n day");
         if (days < 0 && !finished) {
             dueOrOverdue = true;
-            return QStringLiteral("Overdue by %1 day").arg(-days) + plural(-days);
+            return CountedText::text("RowTexts",
+                                     QT_TRANSLATE_N_NOOP("RowTexts", "Overdue by %n days"), -days,
+                                     -days > 1 ? nullptr : "Overdue by %n day");
         }
         return {};
     }
@@ -60,13 +59,12 @@ QString RowTexts::lateness(const Item& item, Date due, const Clock& clock, bool&
         return {};
     const int hours = late / 60;
     const int minutes = late - hours * 60;
-    QString text = QStringLiteral("Due from ");
-    if (hours > 0)
-        text += QString::number(hours) + QStringLiteral(" hr ");
-    if (minutes > 0)
-        text += QString::number(minutes) + QStringLiteral(" min");
     dueOrOverdue = true;
-    return text;
+    if (hours > 0 && minutes > 0)
+        return tr("Due from %1 hr %2 min").arg(hours).arg(minutes);
+    if (hours > 0)
+        return tr("Due from %1 hr ").arg(hours);
+    return tr("Due from %1 min").arg(minutes);
 }
 
 void RowTexts::setTimeUsed(ListRow& row, const Item& item)
@@ -107,7 +105,7 @@ void RowTexts::setTexts(ListRow& row, const Item& record, const Clock& clock, Pr
     if (const std::optional<Date> due = item->effectiveDate()) {
         const QString prefix = lateness(*item, *due, clock, row.dueOrOverdue);
         const QString clockTime = due->toString(DateStyle::None, DateStyle::Short);
-        row.time = prefix.isEmpty() ? clockTime : prefix + QStringLiteral(" at ") + clockTime;
+        row.time = prefix.isEmpty() ? clockTime : tr("%1 at %2").arg(prefix, clockTime);
     }
     setTimeUsed(row, *item);
     const int hours = item->durationHr().value_or(0);
@@ -118,20 +116,21 @@ void RowTexts::setTexts(ListRow& row, const Item& record, const Clock& clock, Pr
 
 void RowTexts::setProjectName(ListRow& row, const Item& item, ProjectName naming)
 {
+    // Every row of a list has these: looked up once, not per row.
+    static const QString lullet = tr("Lullet");
+    static const QString inProject = tr("Lullet  |  %1");
     const Project* project = item.toProject();
     switch (naming) {
     case ProjectName::None:
         return;
     case ProjectName::InList:
-        row.projectName = project
-                              ? QStringLiteral("Lullet  |  ") + project->name().value_or(QString())
-                              : QStringLiteral("Lullet");
+        row.projectName = project ? inProject.arg(project->name().value_or(QString())) : lullet;
         return;
     case ProjectName::InReport:
         // A break, an occurrence of a rule, is the program's own rather than a project's.
         if (item.uniqueId() && *item.uniqueId() != placeholderId()) {
-            row.projectName = QStringLiteral("Lullet");
-            row.title = QStringLiteral("Lullet  |  ") + row.title;
+            row.projectName = lullet;
+            row.title = inProject.arg(row.title);
             return;
         }
         row.projectName =

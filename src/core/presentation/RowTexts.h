@@ -3,6 +3,8 @@
 #include "core/dates/Date.h"
 #include "core/presentation/ListRow.h"
 
+#include <QCoreApplication>
+
 namespace lullet {
 
 class Clock;
@@ -10,6 +12,8 @@ class Item;
 
 // The texts of a list row, from its item as it stands.
 class RowTexts {
+    Q_DECLARE_TR_FUNCTIONS(RowTexts)
+
 public:
     // How a row names its item's project: not at all (a project's own list, the tray's);
     // "Lullet  |  <project>" or "Lullet" in the main window's lists; in a report the project's

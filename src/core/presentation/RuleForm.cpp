@@ -19,23 +19,22 @@ RuleForm::RuleForm(const Services& services)
 
 QStringList RuleForm::modeChoices()
 {
-    return {QStringLiteral("To-do"), QStringLiteral("Timed task")};
+    return {tr("To-do"), tr("Timed task")};
 }
 
 QStringList RuleForm::unitChoices()
 {
-    return {QStringLiteral("Minutes"), QStringLiteral("Hours"),  QStringLiteral("Days"),
-            QStringLiteral("Weeks"),   QStringLiteral("Months"), QStringLiteral("Years")};
+    return {tr("Minutes"), tr("Hours"), tr("Days"), tr("Weeks"), tr("Months"), tr("Years")};
 }
 
 QStringList RuleForm::endChoices()
 {
-    return {QStringLiteral("Never"), QStringLiteral("Until a date")};
+    return {tr("Never"), tr("Until a date")};
 }
 
 QString RuleForm::noRepeatCountMessage()
 {
-    return QStringLiteral("How often should it repeat? Please enter a number above 0.");
+    return tr("How often should it repeat? Please enter a number above 0.");
 }
 
 RuleForm::Fields RuleForm::blankFields() const

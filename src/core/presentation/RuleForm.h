@@ -2,6 +2,7 @@
 
 #include "core/dates/Date.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -18,6 +19,8 @@ struct CatalogueRow;
 // custom rule, and what Done does with the fields. Done decides whether the change touches the
 // schedule, and only then does the rule lose its open occurrences.
 class RuleForm {
+    Q_DECLARE_TR_FUNCTIONS(RuleForm)
+
 public:
     struct Services {
         const Clock& clock;

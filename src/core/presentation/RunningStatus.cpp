@@ -14,8 +14,8 @@ QString RunningStatus::clockText(const Item& item)
 {
     QString time = RowTexts::getStringFromSeconds(item.elapsedTime().value_or(0));
     if (const int limit = item.timeLimit().value_or(0); limit > 0)
-        time += QStringLiteral(" / ") + RowTexts::getStringFromSeconds(limit);
-    return item.title().value_or(QString()) + QStringLiteral("  ") + time;
+        time = tr("%1 / %2").arg(time, RowTexts::getStringFromSeconds(limit));
+    return tr("%1  %2").arg(item.title().value_or(QString()), time);
 }
 
 std::optional<double> RunningStatus::progress(const RunningItem& running, const Clock& clock)
@@ -59,18 +59,18 @@ QString RunningStatus::toolTip(const Library& library, const RunningItem& runnin
         const int limit = item->timeLimit().value_or(0) / 60;
         const QString title = item->title().value_or(QString());
         if (limit > 0)
-            return QStringLiteral("%1: %2 of %3 min").arg(title).arg(minutes).arg(limit);
-        return QStringLiteral("%1: %2 min").arg(title).arg(minutes);
+            return tr("%1: %2 of %3 min").arg(title).arg(minutes).arg(limit);
+        return tr("%1: %2 min").arg(title).arg(minutes);
     }
     const Item* next = nextDue(library, clock);
     if (!next)
-        return QStringLiteral("Lullet");
+        return tr("Lullet");
     const Date due = *next->effectiveDate();
     const QString title = next->title().value_or(QString());
     const QString time = due.toString(DateStyle::None, DateStyle::Short);
     if (due.isToday(clock))
-        return QStringLiteral("Next: %1 at %2").arg(title, time);
-    return QStringLiteral("Next: %1 on %2 at %3")
+        return tr("Next: %1 at %2").arg(title, time);
+    return tr("Next: %1 on %2 at %3")
         .arg(title, due.toString(DateStyle::Medium, DateStyle::None), time);
 }
 

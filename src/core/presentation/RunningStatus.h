@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <optional>
@@ -14,6 +15,8 @@ class RunningItem;
 // The one clock of the running item as every view shows it, and the tray's summary of the
 // moment: what runs, else what comes next.
 class RunningStatus {
+    Q_DECLARE_TR_FUNCTIONS(RunningStatus)
+
 public:
     // "Walk the dog  00:12:03 / 00:30:00": seconds run, then the limit when it has one.
     static QString clockText(const Item& item);

@@ -69,7 +69,7 @@ public:
 
     static CatalogueRowPtr headerRow(const QString& title);
     static CatalogueRowPtr suggestionRow(const CatalogueEntry& entry);
-    static QString customHeaderTitle() { return QStringLiteral("Custom breaks"); }
+    static QString customHeaderTitle() { return tr("Custom breaks"); }
     // A rule's id: its title, "_" and the moment in seconds since 1970, as a double prints.
     static QString newRuleId(const QString& title, Date moment);
 

@@ -23,6 +23,10 @@ struct CatalogueEntry {
 class CatalogueEntries {
 public:
     static const QStringList& groups();
+    // A text of the catalogue (a group, a suggestion's name or notes) in the user's language;
+    // any other text as it is. The catalogue's texts stay English in the records, which a
+    // suggestion's rule is matched by.
+    static QString shown(const QString& text);
     // The suggestions of one group title; empty for an unknown title.
     static const std::vector<CatalogueEntry>& entriesOf(const QString& groupTitle);
 

@@ -61,7 +61,7 @@ QVariant ScheduleTableModel::data(const QModelIndex& index, int role) const
     switch (index.column()) {
     case DayColumn:
         if (role == Qt::DisplayRole)
-            return WeekdayNames::english(info.day);
+            return WeekdayNames::name(info.day);
         break;
     case SelectedColumn:
         if (role == Qt::CheckStateRole)

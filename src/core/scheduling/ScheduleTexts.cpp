@@ -9,6 +9,7 @@
 #include "core/scheduling/RepeatRules.h"
 #include "core/scheduling/WorkingHours.h"
 #include "core/scheduling/WorkingSchedule.h"
+#include "core/text/CountedText.h"
 #include "core/text/LocalizedText.h"
 
 namespace lullet {
@@ -37,13 +38,21 @@ ScheduleTexts::ScheduleTexts(const Clock& clock, WorkingSchedule& schedule,
 
 QString ScheduleTexts::intervalText(int repeatType, int count)
 {
-    static const char* singular[] = {"minute", "hour", "day", "week", "month", "year"};
-    static const char* plural[] = {" mins", " hours", " days", " weeks", " months", " years"};
+    static const char* singular[] = {
+        QT_TRANSLATE_NOOP("ScheduleTexts", "minute"), QT_TRANSLATE_NOOP("ScheduleTexts", "hour"),
+        QT_TRANSLATE_NOOP("ScheduleTexts", "day"),    QT_TRANSLATE_NOOP("ScheduleTexts", "week"),
+        QT_TRANSLATE_NOOP("ScheduleTexts", "month"),  QT_TRANSLATE_NOOP("ScheduleTexts", "year")};
+    static const char* plural[] = {QT_TRANSLATE_N_NOOP("ScheduleTexts", "%n mins"),
+                                   QT_TRANSLATE_N_NOOP("ScheduleTexts", "%n hours"),
+                                   QT_TRANSLATE_N_NOOP("ScheduleTexts", "%n days"),
+                                   QT_TRANSLATE_N_NOOP("ScheduleTexts", "%n weeks"),
+                                   QT_TRANSLATE_N_NOOP("ScheduleTexts", "%n months"),
+                                   QT_TRANSLATE_N_NOOP("ScheduleTexts", "%n years")};
     if (!RepeatUnit::isKnown(repeatType))
         return {};
     if (count <= 1)
-        return QString::fromLatin1(singular[repeatType]);
-    return QString::number(count) + QLatin1String(plural[repeatType]);
+        return tr(singular[repeatType]);
+    return CountedText::text("ScheduleTexts", plural[repeatType], count);
 }
 
 QString ScheduleTexts::dateText(Date d) const
@@ -51,10 +60,10 @@ QString ScheduleTexts::dateText(Date d) const
     QString t = d.toString(DateStyle::Medium, DateStyle::None, &m_clock);
     if (!isFullDate(t))
         return t;
-    return QStringLiteral("On ") + LocalizedText::capitalizeFirst(d.shortWeekdayToString()) + u' ' +
-           QString::number(d.day()) + QStringLiteral(", ") +
-           LocalizedText::capitalizeFirst(d.shortMonthToString()) + u' ' +
-           QString::number(d.year());
+    // Weekday, day, month and year.
+    return tr("On %1 %2, %3 %4")
+        .arg(LocalizedText::capitalizeFirst(d.shortWeekdayToString()), QString::number(d.day()),
+             LocalizedText::capitalizeFirst(d.shortMonthToString()), QString::number(d.year()));
 }
 
 QString ScheduleTexts::timeText(Date d) const
@@ -64,9 +73,10 @@ QString ScheduleTexts::timeText(Date d) const
 
 QString ScheduleTexts::compose(bool isToDo, Date next, int repeatType, int count) const
 {
-    return (isToDo ? QStringLiteral("Lullet") : QStringLiteral("Task")) + QStringLiteral(" : ") +
-           dateText(next) + QStringLiteral(" at ") + timeText(next) +
-           QStringLiteral(", repeats every ") + intervalText(repeatType, count);
+    // The date, the time and how often.
+    const QString text = isToDo ? tr("Lullet : %1 at %2, repeats every %3")
+                                : tr("Task : %1 at %2, repeats every %3");
+    return text.arg(dateText(next), timeText(next), intervalText(repeatType, count));
 }
 
 QString ScheduleTexts::nextTimeLabel(const CatalogueRow& row) const
@@ -76,7 +86,7 @@ QString ScheduleTexts::nextTimeLabel(const CatalogueRow& row) const
     if (const Rule* rule = row.representedObject) {
         if (rule->repeatOption() == std::optional<int>(RepeatEnd::untilDate) &&
             rule->dtRepeatUpto() && rule->dtRepeatUpto()->isEarlierThanDate(startOfToday))
-            return QStringLiteral("No further repeat");
+            return tr("No further repeat");
     }
     if (!row.nextRepeatOn)
         return {};
@@ -86,17 +96,16 @@ QString ScheduleTexts::nextTimeLabel(const CatalogueRow& row) const
         if (minutes < 0)
             return {};
         if (minutes == 0)
-            return QStringLiteral("Now");
+            return tr("Now");
         const qint64 hours = minutes / 60;
         const qint64 rest = minutes - hours * 60;
-        QString label = QStringLiteral("In next ");
+        if (hours > 0 && rest > 0)
+            return tr("In next %1 hr %2 min").arg(hours).arg(rest);
         if (hours > 0)
-            label += QString::number(hours) + QStringLiteral(" hr ");
-        if (rest > 0)
-            label += QString::number(rest) + QStringLiteral(" min");
-        return label;
+            return tr("In next %1 hr ").arg(hours);
+        return tr("In next %1 min").arg(rest);
     }
-    const QString at = QStringLiteral("at ") + timeText(next);
+    const QString time = timeText(next);
     // Calendar days, rounded: a day across a clock change is not 24 hours.
     const qint64 days = qRound64(
         (next.dateAtStartOfDay().timeIntervalSince1970() - startOfToday.timeIntervalSince1970()) /
@@ -104,14 +113,16 @@ QString ScheduleTexts::nextTimeLabel(const CatalogueRow& row) const
     if (row.remindBefore && days <= RemindBefore::days(*row.remindBefore)) {
         const QString word = StyledDateFormat::relativeDayWord(int(days));
         if (!word.isEmpty() && !word.contains(u' '))
-            return word + u' ' + at;
-        return QStringLiteral("In next %1 days ").arg(days) + at;
+            return tr("%1 at %2").arg(word, time);
+        return CountedText::text("ScheduleTexts",
+                                 QT_TRANSLATE_N_NOOP("ScheduleTexts", "In next %n days at %1"),
+                                 days)
+            .arg(time);
     }
-    return QStringLiteral("On %1 %2 %3 ")
-               .arg(next.day())
-               .arg(next.shortMonthToString())
-               .arg(next.year()) +
-           at;
+    // Day, month, year and time.
+    return tr("On %1 %2 %3 at %4")
+        .arg(QString::number(next.day()), next.shortMonthToString(), QString::number(next.year()),
+             time);
 }
 
 QString ScheduleTexts::ruleText(const Rule* rule) const
@@ -145,14 +156,22 @@ QString ScheduleTexts::suggestionText(const CatalogueRow& row) const
 
 QString ScheduleTexts::itemText(const Item& item) const
 {
-    static const char* units[] = {"min", "hr", "day", "week", "month", "year"};
+    static const char* every[] = {QT_TRANSLATE_N_NOOP("ScheduleTexts", "Repeat every %n mins"),
+                                  QT_TRANSLATE_N_NOOP("ScheduleTexts", "Repeat every %n hrs"),
+                                  QT_TRANSLATE_N_NOOP("ScheduleTexts", "Repeat every %n days"),
+                                  QT_TRANSLATE_N_NOOP("ScheduleTexts", "Repeat every %n weeks"),
+                                  QT_TRANSLATE_N_NOOP("ScheduleTexts", "Repeat every %n months"),
+                                  QT_TRANSLATE_N_NOOP("ScheduleTexts", "Repeat every %n years")};
+    static const char* everyOne[] = {"Repeat every %n min",   "Repeat every %n hr",
+                                     "Repeat every %n day",   "Repeat every %n week",
+                                     "Repeat every %n month", "Repeat every %n year"};
     QString text;
     const std::optional<int> count = item.repeatInterval();
     const std::optional<int> type = item.repeatIntervalType();
     if (item.shouldRemind().value_or(false) && count && type && *type >= 0) {
-        text = QStringLiteral("Repeat every ") + QString::number(*count) + u' ' +
-               QLatin1String(units[std::min(*type, 5)]) +
-               (*count >= 2 ? QStringLiteral("s") : QString());
+        const int unit = std::min(*type, 5);
+        text = CountedText::text("ScheduleTexts", every[unit], *count,
+                                 *count >= 2 ? nullptr : everyOne[unit]);
     }
     if (const std::optional<Date> due = item.dtReminder()) {
         if (!text.isEmpty())
@@ -161,16 +180,15 @@ QString ScheduleTexts::itemText(const Item& item) const
         if (relative.split(u' ').size() == 1)
             text += relative;
         else
-            text += QStringLiteral(", On ") +
-                    QStringLiteral("%1").arg(due->day(), 2, 10, QLatin1Char('0')) + u' ' +
-                    due->shortMonthToString() + u' ' + QString::number(due->year());
-        text += QStringLiteral(", at ") + due->toString(DateStyle::None, DateStyle::Short);
+            text += tr(", On %1 %2 %3")
+                        .arg(QStringLiteral("%1").arg(due->day(), 2, 10, QLatin1Char('0')),
+                             due->shortMonthToString(), QString::number(due->year()));
+        text += tr(", at %1").arg(due->toString(DateStyle::None, DateStyle::Short));
     }
     const int hours = item.durationHr().value_or(0);
     const int minutes = item.durationMin().value_or(0);
     if (hours > 0 || minutes > 0) {
-        text += QStringLiteral(", For : ") + QString::number(hours) + QStringLiteral("hr:") +
-                QString::number(minutes) + QStringLiteral("min");
+        text += tr(", For : %1hr:%2min").arg(hours).arg(minutes);
     }
     return text;
 }

@@ -2,6 +2,7 @@
 
 #include "core/dates/Date.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace lullet {
@@ -16,6 +17,8 @@ struct CatalogueRow;
 // The one-line texts that say what a rule or a suggestion is, when it comes next and how often:
 // "Lullet : Today at 3:00 PM, repeats every 2 hours".
 class ScheduleTexts {
+    Q_DECLARE_TR_FUNCTIONS(ScheduleTexts)
+
 public:
     ScheduleTexts(const Clock& clock, WorkingSchedule& schedule, const WorkingHours& hours);
 

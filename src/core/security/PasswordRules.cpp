@@ -1,5 +1,6 @@
 #include "core/security/PasswordRules.h"
 
+#include <QCoreApplication>
 #include <QTextBoundaryFinder>
 
 namespace lullet::PasswordRules {
@@ -11,8 +12,15 @@ bool isBlank(QChar c)
     return c == u'\t' || c.category() == QChar::Separator_Space;
 }
 
-const QString emptyField = QStringLiteral("Please insert values in text fields");
-const QString tooShort = QStringLiteral("Password should be minimum 4 character");
+QString emptyField()
+{
+    return QCoreApplication::translate("PasswordRules", "Please insert values in text fields");
+}
+
+QString tooShort()
+{
+    return QCoreApplication::translate("PasswordRules", "Password should be minimum 4 character");
+}
 
 } // namespace
 
@@ -41,11 +49,11 @@ std::optional<QString> newPasswordProblem(const QString& password, const QString
     const QString first = trimmed(password);
     const QString second = trimmed(repeat);
     if (first.isEmpty() || second.isEmpty())
-        return emptyField;
+        return emptyField();
     if (length(first) < minimumLength)
-        return tooShort;
+        return tooShort();
     if (first != second)
-        return QStringLiteral("Passwords does not match");
+        return QCoreApplication::translate("PasswordRules", "Passwords does not match");
     return std::nullopt;
 }
 
@@ -53,11 +61,11 @@ std::optional<QString> currentPasswordProblem(const QString& typed, const QStrin
 {
     const QString current = trimmed(typed);
     if (current.isEmpty())
-        return emptyField;
+        return emptyField();
     if (length(current) < minimumLength)
-        return tooShort;
+        return tooShort();
     if (current != stored)
-        return QStringLiteral("Wrong Password");
+        return QCoreApplication::translate("PasswordRules", "Wrong Password");
     return std::nullopt;
 }
 

@@ -46,11 +46,6 @@ QString sqliteWords(const Db& db)
     return db.errorCode() == SQLITE_OK ? QString() : QStringLiteral(" (%1)").arg(db.errorMessage());
 }
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Store", text);
-}
-
 } // namespace
 
 QString Store::defaultFolder()
@@ -104,14 +99,16 @@ Store::Result Store::open()
     const QFileInfo info(m_folder);
     if (info.exists() && !info.isDir()) {
         return {Outcome::FolderIsFile,
-                QStringLiteral("Expected a folder to store application data, found a file %1.")
+                QCoreApplication::translate(
+                    "Store", "Expected a folder to store application data, found a file %1.")
                     .arg(m_folder),
                 {}};
     }
     if (!PrivateFiles::makeFolder(m_folder)) {
         return {Outcome::FolderNotCreated,
-                QStringLiteral("There was an error creating or loading the application's saved "
-                               "data. The folder %1 could not be created.")
+                QCoreApplication::translate(
+                    "Store", "There was an error creating or loading the application's saved "
+                             "data. The folder %1 could not be created.")
                     .arg(m_folder),
                 {}};
     }
@@ -135,13 +132,15 @@ std::optional<Store::Result> Store::putBackAfterCutRestore(QString& notice)
         return std::nullopt;
     if (!StoreFiles::rename(keptPath(), storePath())) {
         return Result{Outcome::OpenFailed,
-                      translated("Lullet was stopped during a restore, and your store could not "
-                                 "be put back. Rename %1 to %2, then start Lullet again.")
+                      QCoreApplication::translate(
+                          "Store", "Lullet was stopped during a restore, and your store could not "
+                                   "be put back. Rename %1 to %2, then start Lullet again.")
                           .arg(keptPath(), storePath()),
                       {}};
     }
     StoreFiles::sync(m_folder);
-    notice = translated("Lullet was stopped during a restore. Your data is as it was before it.");
+    notice = QCoreApplication::translate(
+        "Store", "Lullet was stopped during a restore. Your data is as it was before it.");
     return std::nullopt;
 }
 
@@ -182,44 +181,51 @@ Store::Result Store::openFile()
     case Inspection::Usable:
         break;
     case Inspection::NotADatabase:
-        return moveAside(QStringLiteral("the file is not a database"));
+        return moveAside(QCoreApplication::translate("Store", "the file is not a database"));
     case Inspection::Foreign:
-        return moveAside(QStringLiteral("the file is not a Lullet store"));
+        return moveAside(QCoreApplication::translate("Store", "the file is not a Lullet store"));
     case Inspection::Newer:
-        return moveAside(QStringLiteral("the store was written by a newer version of Lullet"));
+        return moveAside(QCoreApplication::translate(
+            "Store", "the store was written by a newer version of Lullet"));
     case Inspection::Damaged:
-        return moveAside(QStringLiteral("the store is damaged"));
+        return moveAside(QCoreApplication::translate("Store", "the store is damaged"));
     case Inspection::Busy:
-        return fail(Outcome::InUse, QStringLiteral("The store %1 is in use by another program. "
-                                                   "Close it and start Lullet again."));
+        return fail(Outcome::InUse, QCoreApplication::translate(
+                                        "Store", "The store %1 is in use by another program. "
+                                                 "Close it and start Lullet again."));
     case Inspection::Unreadable:
-        return fail(Outcome::Unreadable, QStringLiteral("The store %1 cannot be read."));
+        return fail(Outcome::Unreadable,
+                    QCoreApplication::translate("Store", "The store %1 cannot be read."));
     case Inspection::ReadOnly:
         return fail(Outcome::ReadOnly,
-                    QStringLiteral("The store %1 is read-only. Lullet saves every change as it "
-                                   "happens: make the file writable and start Lullet again."));
+                    QCoreApplication::translate(
+                        "Store", "The store %1 is read-only. Lullet saves every change as it "
+                                 "happens: make the file writable and start Lullet again."));
     case Inspection::NoRoom:
         return diskFull();
     }
 
     m_db = Db(storePath());
     if (!m_db.isOpen())
-        return fail(Outcome::Unreadable, QStringLiteral("The store %1 cannot be opened."));
+        return fail(Outcome::Unreadable,
+                    QCoreApplication::translate("Store", "The store %1 cannot be opened."));
     keepPrivate();
     if (!m_db.queryText("PRAGMA journal_mode = WAL"))
         return fail(isBusy(m_db.errorCode()) ? Outcome::InUse : Outcome::Unreadable,
-                    QStringLiteral("The store %1 cannot be read."));
+                    QCoreApplication::translate("Store", "The store %1 cannot be read."));
     if (!StoreSchema::migrate(m_db)) {
         if (isDamage(m_db.errorCode()))
             return moveAside(m_db.errorMessage());
-        return fail(Outcome::OpenFailed, QStringLiteral("The store %1 cannot be brought up to "
-                                                        "date."));
+        return fail(Outcome::OpenFailed,
+                    QCoreApplication::translate("Store", "The store %1 cannot be brought up to "
+                                                         "date."));
     }
     if (!StoreSchema::hasTables(m_db))
         return fail(Outcome::MissingTables,
-                    QStringLiteral("The store %1 lacks Lullet's tables. Move that file aside "
-                                   "(rename it), and Lullet will start afresh with an empty "
-                                   "store."));
+                    QCoreApplication::translate(
+                        "Store", "The store %1 lacks Lullet's tables. Move that file aside "
+                                 "(rename it), and Lullet will start afresh with an empty "
+                                 "store."));
     // Changes are safe once written to the log; the log is made durable at checkpoints.
     m_db.exec("PRAGMA synchronous = NORMAL");
     m_db.exec("PRAGMA foreign_keys = ON");
@@ -238,7 +244,8 @@ Store::Result Store::openFile()
     if (!m_context->load(historyBefore)) {
         if (isDamage(m_context->errorCode()))
             return moveAside(m_context->errorMessage());
-        return fail(Outcome::Unreadable, QStringLiteral("The store %1 cannot be loaded."));
+        return fail(Outcome::Unreadable,
+                    QCoreApplication::translate("Store", "The store %1 cannot be loaded."));
     }
     m_open = true;
     // The log and its shared memory exist by now.
@@ -336,14 +343,16 @@ Store::Result Store::moveAside(const QString& why)
     // The side files go with it, keeping their suffixes, so the moved store opens with its log.
     if (!StoreFiles::rename(storePath(), aside)) {
         return {Outcome::OpenFailed,
-                QStringLiteral("The store %1 could not be used (%2), and could not be moved "
-                               "aside either.")
+                QCoreApplication::translate(
+                    "Store", "The store %1 could not be used (%2), and could not be moved "
+                             "aside either.")
                     .arg(storePath(), why),
                 {}};
     }
     return {Outcome::MovedAside,
-            QStringLiteral("The store could not be used (%1). It was moved to %2; Lullet will "
-                           "start with an empty store next time.")
+            QCoreApplication::translate(
+                "Store", "The store could not be used (%1). It was moved to %2; Lullet will "
+                         "start with an empty store next time.")
                 .arg(why, aside),
             aside};
 }
@@ -353,8 +362,9 @@ Store::Result Store::replaceWith(const QString& prepared)
     // What comes in is on the disk before anything is renamed: a crash finds it whole or absent.
     if (!StoreFiles::sync(prepared)) {
         return {Outcome::OpenFailed,
-                translated("The restored copy could not be written to the disk, so nothing was "
-                           "restored."),
+                QCoreApplication::translate(
+                    "Store", "The restored copy could not be written to the disk, so nothing was "
+                             "restored."),
                 {}};
     }
     // Closing the last connection folds the log into the file: what was saved is in it.
@@ -368,18 +378,19 @@ Store::Result Store::replaceWith(const QString& prepared)
         Result reopened = openFile();
         if (reopened.outcome == Outcome::Opened)
             reopened.outcome = Outcome::OpenFailed;
-        reopened.message =
-            translated("Your store could not be set aside for the restore, so nothing was "
-                       "restored.");
+        reopened.message = QCoreApplication::translate(
+            "Store", "Your store could not be set aside for the restore, so nothing was "
+                     "restored.");
         return reopened;
     }
     const bool placed = StoreFiles::rename(prepared, live);
     StoreFiles::sync(m_folder);
-    const Result opened = placed
-                              ? openFile()
-                              : Result{Outcome::OpenFailed,
-                                       translated("The restored copy could not be put in place."),
-                                       {}};
+    const Result opened =
+        placed ? openFile()
+               : Result{Outcome::OpenFailed,
+                        QCoreApplication::translate("Store",
+                                                    "The restored copy could not be put in place."),
+                        {}};
     if (opened.outcome != Outcome::Opened)
         return putBack(opened);
     StoreFiles::remove(kept);
@@ -396,7 +407,8 @@ Store::Result Store::putBack(const Result& failed)
     Result back = openFile();
     if (back.outcome == Outcome::Opened)
         back.outcome = Outcome::OpenFailed;
-    back.message = translated("The restore failed (%1); your store was put back as it was.")
+    back.message = QCoreApplication::translate(
+                       "Store", "The restore failed (%1); your store was put back as it was.")
                        .arg(failed.message);
     return back;
 }

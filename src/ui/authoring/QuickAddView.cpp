@@ -19,7 +19,7 @@ QuickAddView::QuickAddView(const Services& services, QWidget* parent)
     : QWidget(parent)
     , m_services(services)
     , m_form(services.clock, services.library)
-    , m_choices(services.library, QStringLiteral("No Project"))
+    , m_choices(services.library, tr("No Project"))
     , m_name(new QLineEdit(this))
     , m_projects(new QComboBox(this))
     , m_duration(new QComboBox(this))
@@ -82,7 +82,7 @@ void QuickAddView::reset(const Project* selected)
 
 void QuickAddView::fillProjects(const Project* selected)
 {
-    m_choices = ProjectChoices(m_services.library, QStringLiteral("No Project"));
+    m_choices = ProjectChoices(m_services.library, tr("No Project"));
     m_projects->clear();
     m_projects->addItems(m_choices.titles());
     m_projects->setCurrentIndex(m_choices.indexOf(selected));

@@ -56,7 +56,7 @@ bool Autostart::write()
 {
     const QFileInfo entry(m_path);
     if (!QDir().mkpath(entry.path())) {
-        m_error = QStringLiteral("Cannot make the folder %1.").arg(entry.path());
+        m_error = tr("Cannot make the folder %1.").arg(entry.path());
         return false;
     }
     const QString text = QStringLiteral("[Desktop Entry]\n"
@@ -70,7 +70,7 @@ bool Autostart::write()
                              .arg(quotedProgram(m_program), QLatin1String(appId));
     QSaveFile file(m_path);
     if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0 || !file.commit()) {
-        m_error = QStringLiteral("Cannot write %1: %2").arg(m_path, file.errorString());
+        m_error = tr("Cannot write %1: %2").arg(m_path, file.errorString());
         return false;
     }
     return true;
@@ -81,7 +81,7 @@ bool Autostart::remove()
     QFile file(m_path);
     if (!file.exists() || file.remove())
         return true;
-    m_error = QStringLiteral("Cannot remove %1: %2").arg(m_path, file.errorString());
+    m_error = tr("Cannot remove %1: %2").arg(m_path, file.errorString());
     return false;
 }
 

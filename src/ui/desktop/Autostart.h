@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace lullet {
@@ -7,6 +8,8 @@ namespace lullet {
 // The XDG autostart entry that starts Lullet in the tray when the user logs in. The entry's
 // presence is the truth: the desktop's own startup settings may remove it behind our back.
 class Autostart {
+    Q_DECLARE_TR_FUNCTIONS(Autostart)
+
 public:
     // The entry named after the program's id in "autostart" below $XDG_CONFIG_HOME, or below
     // ~/.config when that is unset or not an absolute path.

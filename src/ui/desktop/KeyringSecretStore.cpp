@@ -1,5 +1,6 @@
 #include "ui/desktop/KeyringSecretStore.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -30,8 +31,9 @@ void start(Job* job, const QString& account, QObject* context, Answer answer)
 
 QString errorText(const QKeychain::Job& job)
 {
-    return job.errorString().isEmpty() ? QStringLiteral("The keyring did not say why.")
-                                       : job.errorString();
+    return job.errorString().isEmpty()
+               ? QCoreApplication::translate("KeyringSecretStore", "The keyring did not say why.")
+               : job.errorString();
 }
 
 // A keyring that is locked, and can't be unlocked because its unlock dialog could not show or
@@ -65,7 +67,8 @@ void confirmNotFound(const QString& account, QObject* context, SecretStore::Read
             }
             done({SecretStore::Outcome::Unavailable,
                   {},
-                  QStringLiteral("Your keyring is locked and could not be unlocked.")});
+                  QCoreApplication::translate(
+                      "KeyringSecretStore", "Your keyring is locked and could not be unlocked.")});
         });
 }
 

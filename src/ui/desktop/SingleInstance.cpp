@@ -87,14 +87,14 @@ bool SingleInstance::usableFolder()
     const QByteArray path = QFile::encodeName(m_folder);
     if (!QDir().mkpath(QFileInfo(m_folder).path()) ||
         (::mkdir(path.constData(), 0700) != 0 && errno != EEXIST)) {
-        m_error = QStringLiteral("Cannot make the folder %1.").arg(m_folder);
+        m_error = tr("Cannot make the folder %1.").arg(m_folder);
         return false;
     }
     struct stat info = {};
     if (::lstat(path.constData(), &info) != 0 || !S_ISDIR(info.st_mode) ||
         info.st_uid != ::getuid() || (info.st_mode & 0022) != 0) {
-        m_error = QStringLiteral("The folder %1 is not private to this user; Lullet will not use "
-                                 "it to talk to itself.")
+        m_error = tr("The folder %1 is not private to this user; Lullet will not use "
+                     "it to talk to itself.")
                       .arg(m_folder);
         return false;
     }
@@ -109,7 +109,7 @@ SingleInstance::Role SingleInstance::claim(std::chrono::milliseconds patience)
         QFile::encodeName(QDir(m_folder).filePath(QStringLiteral("lullet.lock")));
     m_lockFd = ::open(lockPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (m_lockFd < 0) {
-        m_error = QStringLiteral("Cannot open the lock file in %1.").arg(m_folder);
+        m_error = tr("Cannot open the lock file in %1.").arg(m_folder);
         return Role::Failed;
     }
     const QDeadlineTimer deadline(patience);
@@ -122,7 +122,7 @@ SingleInstance::Role SingleInstance::claim(std::chrono::milliseconds patience)
         QThread::msleep(50);
     }
     if (!listen()) {
-        m_error = QStringLiteral("Cannot listen on %1.").arg(socketPath());
+        m_error = tr("Cannot listen on %1.").arg(socketPath());
         return Role::Failed;
     }
     return Role::Primary;

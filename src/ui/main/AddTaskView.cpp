@@ -185,9 +185,8 @@ void AddTaskView::deleteTask(Item* task)
 {
     if (!task)
         return;
-    if (!Dialogs::confirm(this, QStringLiteral("Are you sure to delete ?"),
-                          QStringLiteral("This Reminder will be deleted."), QStringLiteral("Yes"),
-                          QStringLiteral("No")))
+    if (!Dialogs::confirm(this, tr("Are you sure to delete ?"),
+                          tr("This Reminder will be deleted."), tr("Yes"), tr("No")))
         return;
     m_services.itemActions.deleteItem(*task);
 }

@@ -102,7 +102,7 @@ QWidget* DashboardView::makeChart()
     m_chart->setObjectName(QStringLiteral("months"));
     m_chart->setColor(QColor(0xDC, 0xDF, 0xE6));
     m_chart->setWholeNumbers(true);
-    m_chart->setEmptyText(QStringLiteral("You need to provide data for the chart."));
+    m_chart->setEmptyText(tr("You need to provide data for the chart."));
     m_chart->setAutoFillBackground(true);
     m_chart->setBackgroundRole(QPalette::Base);
     m_chart->setMinimumHeight(100);

@@ -97,8 +97,12 @@ QVariant ItemListModel::display(const ListLines::Line& line, const ListRow& row,
             return {};
         if (row.countOnDay <= 0)
             return row.title;
-        return row.title + QStringLiteral("  (%1)").arg(row.countOnDay) +
-               (row.timeUsedInSeconds > 0 ? QStringLiteral("   ") + row.timeUsed : QString());
+        // A day's heading, its count and the time used that day; one per day of a long history.
+        static const QString counted = tr("%1  (%2)");
+        static const QString timed = tr("%1  (%2)   %3");
+        return row.timeUsedInSeconds > 0
+                   ? timed.arg(row.title, QString::number(row.countOnDay), row.timeUsed)
+                   : counted.arg(row.title, QString::number(row.countOnDay));
     }
     switch (column) {
     case StartColumn:

@@ -360,8 +360,7 @@ void ItemListView::startOrStop(Item* item)
         // In the tray's panel, where nothing else shows it.
         if (!m_withHeader)
             Dialogs::inform(this, tr("Task completed"),
-                            item->title().value_or(QString()) +
-                                QStringLiteral(" has been completed now"));
+                            tr("%1 has been completed now").arg(item->title().value_or(QString())));
         return;
     }
     if (m_services.itemActions.start(*item) != ItemActions::StartResult::AnotherIsRunning)
@@ -401,10 +400,11 @@ void ItemListView::showPostponeMessage(const Item& item)
     if (!due)
         return;
     Dialogs::inform(this, tr("Lullet postponed"),
-                    item.title().value_or(QString()) + QStringLiteral(" has been postponed to ") +
-                        QString::number(due->day()) + u' ' +
-                        LocalizedText::capitalizeFirst(due->shortMonthToString()) + u' ' +
-                        QString::number(due->year()));
+                    // The title, then the day, month and year.
+                    tr("%1 has been postponed to %2 %3 %4")
+                        .arg(item.title().value_or(QString()), QString::number(due->day()),
+                             LocalizedText::capitalizeFirst(due->shortMonthToString()),
+                             QString::number(due->year())));
 }
 
 } // namespace lullet

@@ -63,7 +63,7 @@ ListHeader::ListHeader(const Services& services, const ListBuilder::Scope& scope
         m_chart = new BarChart(this);
         m_chart->setObjectName(QStringLiteral("chart"));
         m_chart->setColor(*HexColor::fromHex(ongoingColor));
-        m_chart->setUnit(QStringLiteral("h"));
+        m_chart->setUnit(tr("h"));
         m_chart->setMinimumHeight(160);
         m_chart->setMaximumHeight(200);
         layout->addWidget(m_chart);

@@ -74,9 +74,10 @@ void PostponePanel::buildChoices(Date base)
     for (const auto& [choice, caption] : choices) {
         // Each named choice shows where it leads: "Tomorrow" and, below it, "Tue 24 Nov 9:00 AM".
         const std::optional<Date> to = Postponing::dateFor(choice, base, m_clock);
-        const QString when = to ? to->toString(DateFormat::custom(QStringLiteral("EEE d MMM"))) +
-                                      u' ' + to->toString(DateStyle::None, DateStyle::Short)
-                                : QString();
+        const QString when =
+            to ? to->toString(DateFormat::custom(tr("EEE d MMM", "ICU date pattern"))) + u' ' +
+                     to->toString(DateStyle::None, DateStyle::Short)
+               : QString();
         auto* button =
             new QPushButton(when.isEmpty() ? caption : caption + u'\n' + when, m_choices);
         button->setObjectName(QStringLiteral("choice%1").arg(choice));

@@ -1,6 +1,7 @@
 #include "ui/main/RepeatListModel.h"
 
 #include "core/scheduling/Catalogue.h"
+#include "core/scheduling/CatalogueEntries.h"
 #include "core/scheduling/ScheduleTexts.h"
 
 #include <QFont>
@@ -61,11 +62,14 @@ QVariant RepeatListModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         if (header)
-            return index.column() == SwitchColumn ? row->title : QVariant();
+            return index.column() == SwitchColumn ? CatalogueEntries::shown(row->title)
+                                                  : QVariant();
         if (index.column() == LulletColumn) {
-            QString text = row->title;
-            if (!row->notes.isEmpty())
-                text += QStringLiteral(" - ") + row->notes;
+            const QString title = CatalogueEntries::shown(row->title);
+            const QString text =
+                row->notes.isEmpty()
+                    ? title
+                    : tr("%1 - %2").arg(title, CatalogueEntries::shown(row->notes));
             return text + u'\n' + row->notes2;
         }
         if (index.column() == NextColumn)
@@ -77,7 +81,7 @@ QVariant RepeatListModel::data(const QModelIndex& index, int role) const
         return {};
     case Qt::AccessibleTextRole:
         if (!header && index.column() == SwitchColumn)
-            return row->title;
+            return CatalogueEntries::shown(row->title);
         return {};
     case Qt::FontRole:
         if (header) {

@@ -191,9 +191,8 @@ void RepeatListView::deleteRow(const CatalogueRow* row)
 {
     if (!row || !row->representedObject || !row->isCustom)
         return;
-    if (!Dialogs::confirm(this, QStringLiteral("Are you sure to delete ?"),
-                          QStringLiteral("This Reminder will be deleted."), QStringLiteral("Yes"),
-                          QStringLiteral("No")))
+    if (!Dialogs::confirm(this, tr("Are you sure to delete ?"),
+                          tr("This Reminder will be deleted."), tr("Yes"), tr("No")))
         return;
     m_services.catalogue.deleteRule(row->representedObject);
 }

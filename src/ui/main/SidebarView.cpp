@@ -180,11 +180,12 @@ QString SidebarView::rowText(const SidebarRow& row) const
     if (row.type == SidebarRow::Separator)
         return {};
     if (row.item || row.rowId)
-        return QStringLiteral("• ") + row.name;
-    QString text =
-        row.count ? row.name + QStringLiteral("   ") + QString::number(*row.count) : row.name;
+        return tr("• %1").arg(row.name);
+    // The name, its count, its progress in per cent.
+    const QString text =
+        row.count ? tr("%1   %2").arg(row.name, QString::number(*row.count)) : row.name;
     if (row.progress && *row.progress > 0)
-        text += QStringLiteral("   %1%").arg(qRound(*row.progress * 100));
+        return tr("%1   %2%").arg(text).arg(qRound(*row.progress * 100));
     return text;
 }
 

@@ -76,8 +76,8 @@ void BackupCommands::backUpNow(QWidget* from)
 
 bool BackupCommands::confirmRestore()
 {
-    return Dialogs::confirm(over(m_lastFrom), QStringLiteral("Confirm Restore"),
-                            QStringLiteral("All data will be replaced.\nDo you want to proceed?"));
+    return Dialogs::confirm(over(m_lastFrom), tr("Confirm Restore"),
+                            tr("All data will be replaced.\nDo you want to proceed?"));
 }
 
 void BackupCommands::restoreFromFile(QWidget* from)

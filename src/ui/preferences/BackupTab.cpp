@@ -9,6 +9,7 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMenu>
@@ -22,7 +23,6 @@ namespace lullet {
 namespace {
 
 constexpr int pathRole = Qt::UserRole;
-const QString deleteQuestion = QStringLiteral("Are you sure to delete ?");
 
 QPushButton* button(const QString& text, const char* name, QWidget* parent)
 {
@@ -146,7 +146,9 @@ void BackupTab::addRow(const BackupInfo& info, int at)
     const QString when = info.createdDate
                              ? info.createdDate->toString(DateStyle::Medium, DateStyle::Short)
                              : QString();
-    auto* row = new QTreeWidgetItem({info.type, when, info.sizeDisplay});
+    // The kind is kept in English in the list of backups.
+    const QString kind = QCoreApplication::translate("Backups", info.type.toUtf8().constData());
+    auto* row = new QTreeWidgetItem({kind, when, info.sizeDisplay});
     row->setData(0, pathRole, info.path);
     row->setToolTip(1, info.path);
     m_list->insertTopLevelItem(at, row);
@@ -192,9 +194,8 @@ void BackupTab::restoreFromFile()
 void BackupTab::deleteSelected()
 {
     const QString path = selectedPath();
-    if (path.isEmpty() ||
-        !Dialogs::confirm(window(), QStringLiteral("Selected backup will be deleted."),
-                          deleteQuestion))
+    if (path.isEmpty() || !Dialogs::confirm(window(), tr("Selected backup will be deleted."),
+                                            tr("Are you sure to delete ?")))
         return;
     const QString failure = m_services.backups.list().remove(path);
     delete m_list->currentItem();
@@ -204,7 +205,8 @@ void BackupTab::deleteSelected()
 
 void BackupTab::deleteAll()
 {
-    if (!Dialogs::confirm(window(), QStringLiteral("All backups will be deleted."), deleteQuestion))
+    if (!Dialogs::confirm(window(), tr("All backups will be deleted."),
+                          tr("Are you sure to delete ?")))
         return;
     const QString failures = m_services.backups.list().removeAll();
     m_list->clear();

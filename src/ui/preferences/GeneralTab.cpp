@@ -1,6 +1,7 @@
 #include "ui/preferences/GeneralTab.h"
 
 #include "core/settings/Settings.h"
+#include "core/text/CountedText.h"
 #include "ui/desktop/DesktopPresence.h"
 #include "ui/widgets/Dialogs.h"
 
@@ -22,8 +23,8 @@ constexpr int periods[] = {1, 2, 5, 10, 15, 20, 30, 45, 60};
 // "1 min", "2 mins" … "60 mins".
 QString periodTitle(int minutes)
 {
-    return QString::number(minutes) +
-           (minutes > 1 ? QStringLiteral(" mins") : QStringLiteral(" min"));
+    return CountedText::text("GeneralTab", QT_TRANSLATE_N_NOOP("GeneralTab", "%n mins"), minutes,
+                             minutes > 1 ? nullptr : "%n min");
 }
 
 } // namespace
@@ -140,10 +141,9 @@ void GeneralTab::onTaskbarToggled(bool on)
     if (on)
         return;
     const bool relaunchNow = Dialogs::confirm(
-        this, QStringLiteral("You must now restart app"),
-        QStringLiteral(
-            "Your new setting for the taskbar won't show up until you relaunch this application."),
-        QStringLiteral("Relaunch Now"), QStringLiteral("Later"));
+        this, tr("You must now restart app"),
+        tr("Your new setting for the taskbar won't show up until you relaunch this application."),
+        tr("Relaunch Now"), tr("Later"));
     if (relaunchNow && !m_presence.relaunch())
         Dialogs::inform(this, tr("Lullet could not be started again."),
                         tr("Quit Lullet and start it yourself to see the new setting."));

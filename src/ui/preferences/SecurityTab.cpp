@@ -5,6 +5,7 @@
 #include "ui/widgets/Dialogs.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,8 +19,15 @@ namespace {
 
 const char* const errorColor = "E34947";
 const char* const successColor = "06A0EB";
-const QString doneTitle = QStringLiteral("Done");
-const QString changeTitle = QStringLiteral("Change");
+QString doneTitle()
+{
+    return QCoreApplication::translate("SecurityTab", "Done");
+}
+
+QString changeTitle()
+{
+    return QCoreApplication::translate("SecurityTab", "Change");
+}
 
 QLineEdit* passwordField(const QString& name, QWidget* parent)
 {
@@ -52,7 +60,7 @@ SecurityTab::SecurityTab(Protection& protection, QWidget* parent)
                            "shows anything of your tasks."),
                         this);
     m_note->setWordWrap(true);
-    m_done = new QPushButton(doneTitle, this);
+    m_done = new QPushButton(doneTitle(), this);
     m_done->setObjectName(QStringLiteral("done"));
     layout->addWidget(m_switch);
     layout->addWidget(m_note);
@@ -164,7 +172,7 @@ void SecurityTab::onSwitchClicked(bool on)
             m_new->clear();
             m_repeat->clear();
             m_password.clear();
-            m_done->setText(doneTitle);
+            m_done->setText(doneTitle());
         }
         m_protection.switchOn();
     } else {
@@ -196,7 +204,7 @@ void SecurityTab::onContinue()
     m_switch->setEnabled(true);
     m_new->setText(m_password);
     m_repeat->setText(m_password);
-    m_done->setText(changeTitle);
+    m_done->setText(changeTitle());
     showParts();
     m_new->setFocus();
 }
@@ -211,14 +219,14 @@ void SecurityTab::onDone()
     m_message->hide();
     m_password = PasswordRules::trimmed(m_new->text());
     m_protected = true;
-    if (m_done->text() == changeTitle) {
-        m_done->setText(doneTitle);
+    if (m_done->text() == changeTitle()) {
+        m_done->setText(doneTitle());
         m_new->setEnabled(true);
         m_repeat->setEnabled(true);
         m_new->setFocus();
         return;
     }
-    m_done->setText(changeTitle);
+    m_done->setText(changeTitle());
     m_new->setEnabled(false);
     m_repeat->setEnabled(false);
     m_done->setEnabled(false);
@@ -229,11 +237,11 @@ void SecurityTab::onStored(const QString& error)
 {
     m_done->setEnabled(true);
     if (error.isEmpty()) {
-        showMessage(m_message, QStringLiteral("Password protection is set!"), successColor);
+        showMessage(m_message, tr("Password protection is set!"), successColor);
         return;
     }
     // Nothing is protected by a password the keyring does not hold: the user may try again.
-    m_done->setText(doneTitle);
+    m_done->setText(doneTitle());
     m_new->setEnabled(true);
     m_repeat->setEnabled(true);
     showMessage(

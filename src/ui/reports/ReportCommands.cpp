@@ -70,7 +70,7 @@ bool ReportCommands::refuseEmpty(const Report& report, QWidget* from, const QStr
 {
     if (report.hasItems())
         return false;
-    Dialogs::inform(from, QStringLiteral("Oops!"), emptyText);
+    Dialogs::inform(from, tr("Oops!"), emptyText);
     return true;
 }
 
@@ -151,9 +151,8 @@ void ReportCommands::mail(const Report& report, QWidget* from, const QString& em
                          fallBack();
                      });
     composer->start(QStringLiteral("xdg-email"),
-                    {QStringLiteral("--subject"), QStringLiteral("Lullet report"),
-                     QStringLiteral("--body"), QStringLiteral("Lullet list report"),
-                     QStringLiteral("--attach"), path});
+                    {QStringLiteral("--subject"), tr("Lullet report"), QStringLiteral("--body"),
+                     tr("Lullet list report"), QStringLiteral("--attach"), path});
 }
 
 } // namespace lullet

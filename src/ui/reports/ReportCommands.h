@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <functional>
@@ -16,6 +17,8 @@ struct Report;
 // What the user can do with a report: save it as a PDF and open it, print it, or hand it to the
 // mail program. Each failure is said; an empty report is refused with the reason.
 class ReportCommands {
+    Q_DECLARE_TR_FUNCTIONS(ReportCommands)
+
 public:
     // `mailFolder` holds the one file that mail attaches, replaced each time.
     ReportCommands(const Clock& clock, QString mailFolder);
@@ -23,10 +26,10 @@ public:
     ReportCommands(const Clock& clock, const Library& library);
 
     // What a list says when it has nothing to report, and what a project says.
-    static QString emptyListText() { return QStringLiteral("There is no task data to export."); }
+    static QString emptyListText() { return tr("There is no task data to export."); }
     static QString emptyProjectText()
     {
-        return QStringLiteral("There is no task data to export for this Project.");
+        return tr("There is no task data to export for this Project.");
     }
 
     void savePdf(const Report& report, QWidget* from, const QString& emptyText) const;

@@ -4,6 +4,7 @@
 #include "ui/reports/ShapedTexts.h"
 #include "ui/widgets/BarChart.h"
 
+#include <QCoreApplication>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>
@@ -112,7 +113,8 @@ private:
         m_painter.setFont(sized(8));
         m_painter.setPen(quiet);
         m_painter.drawText(QRectF(m_left, m_height, ReportPainter::contentWidth, footerHeight),
-                           Qt::AlignRight | Qt::AlignBottom, QStringLiteral("Page %1").arg(m_page));
+                           Qt::AlignRight | Qt::AlignBottom,
+                           QCoreApplication::translate("ReportPainter", "Page %1").arg(m_page));
     }
 
     QPainter& m_painter;
@@ -138,8 +140,9 @@ void paintHead(QPainter& painter, Pages& pages, const Report& report)
     painter.drawText(QRectF(left, pages.y() + 34, width - 80, 16), Qt::AlignLeft,
                      report.headCounts().join(QStringLiteral("    ")));
     painter.setPen(quiet);
-    painter.drawText(QRectF(left, pages.y() + 52, width - 80, 16), Qt::AlignLeft,
-                     QStringLiteral("Time: ") + report.headTimes());
+    painter.drawText(
+        QRectF(left, pages.y() + 52, width - 80, 16), Qt::AlignLeft,
+        QCoreApplication::translate("ReportPainter", "Time: %1").arg(report.headTimes()));
 
     // The share of items complete, as the list's own ring shows it.
     const QRectF ring(left + width - 64, pages.y() + 4, 60, 60);
@@ -156,7 +159,8 @@ void paintHead(QPainter& painter, Pages& pages, const Report& report)
     painter.drawArc(ring.adjusted(4, 4, -4, -4), 90 * 16, -qRound(done * 360 * 16));
     painter.setPen(ink);
     painter.setFont(sized(11, true));
-    painter.drawText(ring, Qt::AlignCenter, QStringLiteral("%1%").arg(qRound(done * 100)));
+    painter.drawText(ring, Qt::AlignCenter,
+                     QCoreApplication::translate("ReportPainter", "%1%").arg(qRound(done * 100)));
     pages.advance(84);
 }
 
@@ -176,8 +180,10 @@ void paintItem(Pages& pages, const ListRow& row, RowTexts& texts)
     const double y = pages.y();
     texts.title.add(QRectF(left, y, RowTexts::textWidth, 16), Qt::AlignLeft | Qt::AlignVCenter,
                     row.title);
-    const QString detail =
-        row.projectName.isEmpty() ? row.time : row.projectName + QStringLiteral("  ·  ") + row.time;
+    const QString detail = row.projectName.isEmpty()
+                               ? row.time
+                               : QCoreApplication::translate("ReportPainter", "%1  ·  %2")
+                                     .arg(row.projectName, row.time);
     texts.detail.add(QRectF(left, y + 17, RowTexts::textWidth, 14),
                      Qt::AlignLeft | Qt::AlignVCenter, detail);
     const QRectF times(left + RowTexts::textWidth, y, RowTexts::timesWidth, 31);
@@ -200,7 +206,7 @@ void paintChart(QPainter& painter, Pages& pages, const Report& report)
     chart.setPalette(paper);
     chart.setFont(sized(8));
     chart.setColor(accent);
-    chart.setUnit(QStringLiteral("h"));
+    chart.setUnit(QCoreApplication::translate("ReportPainter", "h"));
     chart.setBars(report.hoursByDay);
     chart.resize(int(ReportPainter::contentWidth), int(chartHeight));
     chart.render(&painter, QPoint(int(pages.left()), int(pages.y())), QRegion(),

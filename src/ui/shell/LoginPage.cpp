@@ -163,10 +163,10 @@ void LoginPage::submit()
                            setChecking(false);
                            switch (result) {
                            case Protection::Login::Blank:
-                               showError(QStringLiteral("PLEASE ENTER PASSWORD..."));
+                               showError(tr("PLEASE ENTER PASSWORD..."));
                                return;
                            case Protection::Login::Wrong:
-                               showError(QStringLiteral("INCORRECT PASSWORD..."));
+                               showError(tr("INCORRECT PASSWORD..."));
                                return;
                            case Protection::Login::Unavailable:
                                m_error->hide();

@@ -85,8 +85,7 @@ void CircularProgress::paintEvent(QPaintEvent*)
     painter.drawArc(ring, 90 * 16, int(-360 * 16 * m_shown));
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(rect(), Qt::AlignCenter,
-                     m_centreText.isNull() ? QStringLiteral("%1%").arg(qRound(m_shown * 100))
-                                           : m_centreText);
+                     m_centreText.isNull() ? tr("%1%").arg(qRound(m_shown * 100)) : m_centreText);
 }
 
 } // namespace lullet

@@ -75,12 +75,14 @@ int Dialogs::ask(QWidget* parent, const Question& question)
 bool Dialogs::confirm(QWidget* parent, const QString& text, const QString& information,
                       const QString& yes, const QString& no)
 {
-    return ask(parent, {text, information, {yes, no}}) == 0;
+    return ask(parent, {text,
+                        information,
+                        {yes.isEmpty() ? tr("Yes") : yes, no.isEmpty() ? tr("No") : no}}) == 0;
 }
 
 void Dialogs::inform(QWidget* parent, const QString& text, const QString& information)
 {
-    ask(parent, {text, information, {QStringLiteral("Ok")}});
+    ask(parent, {text, information, {tr("Ok")}});
 }
 
 QString Dialogs::chooseFileToSave(QWidget* parent, const QString& caption, const QString& name)

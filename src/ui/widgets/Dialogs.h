@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -11,6 +12,8 @@ namespace lullet {
 // panel with the message in its body and buttons that read as given. Tests answer the next
 // questions in advance, so no dialog needs a timer to press it.
 class Dialogs {
+    Q_DECLARE_TR_FUNCTIONS(Dialogs)
+
 public:
     struct Question {
         QString text;
@@ -21,10 +24,10 @@ public:
 
     // The index of the button chosen.
     static int ask(QWidget* parent, const Question& question);
-    // True for "Yes" (or the given first button), false for "No" and for closing the panel.
+    // True for "Yes" (or the given first button), false for "No" (or the given second) and for
+    // closing the panel.
     static bool confirm(QWidget* parent, const QString& text, const QString& information,
-                        const QString& yes = QStringLiteral("Yes"),
-                        const QString& no = QStringLiteral("No"));
+                        const QString& yes = {}, const QString& no = {});
     // A message with one button, "Ok".
     static void inform(QWidget* parent, const QString& text, const QString& information = {});
     // The desktop's file panels: a file to write, offered under `name` in the user's documents

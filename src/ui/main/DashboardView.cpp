@@ -11,6 +11,7 @@
 #include "ui/widgets/BarChart.h"
 #include "ui/widgets/CircularProgress.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -78,7 +79,7 @@ QWidget* DashboardView::makeCircles()
         const CircleLook& look = circleLooks[i];
         auto* circle = new CircularProgress(row);
         circle->setObjectName(QLatin1String(look.name));
-        circle->setAccessibleName(tr(look.caption));
+        circle->setAccessibleName(QCoreApplication::translate("DashboardView", look.caption));
         circle->setColor(look.color);
         circle->setTrackColor(faded(look.color));
         circle->setLineWidth(10);
@@ -87,7 +88,7 @@ QWidget* DashboardView::makeCircles()
         big.setPointSizeF(big.pointSizeF() * 1.8);
         big.setBold(true);
         circle->setFont(big);
-        auto* caption = new QLabel(tr(look.caption), row);
+        auto* caption = new QLabel(QCoreApplication::translate("DashboardView", look.caption), row);
         caption->setAlignment(Qt::AlignHCenter);
         grid->addWidget(circle, 0, i, Qt::AlignHCenter);
         grid->addWidget(caption, 1, i);

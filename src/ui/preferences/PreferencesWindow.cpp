@@ -11,11 +11,14 @@
 #include "ui/preferences/TabIcons.h"
 
 #include <QActionGroup>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace lullet {
 
@@ -72,9 +75,9 @@ PreferencesWindow::PreferencesWindow(const Services& services, BackupCommands& b
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    auto* bar = new QToolBar(this);
-    makeToolBar(bar);
-    layout->addWidget(bar);
+    m_toolBar = new QToolBar(this);
+    makeToolBar(m_toolBar);
+    layout->addWidget(m_toolBar);
     layout->addWidget(m_pages, 1);
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this,
             &QWidget::close);
@@ -96,7 +99,8 @@ void PreferencesWindow::makeToolBar(QToolBar* bar)
     bar->setIconSize(QSize(32, 32));
     auto* group = new QActionGroup(this);
     for (const TabLook& each : tabs) {
-        QAction* action = bar->addAction(tr(each.caption));
+        QAction* action =
+            bar->addAction(QCoreApplication::translate("PreferencesWindow", each.caption));
         action->setObjectName(QLatin1String(each.name));
         action->setCheckable(true);
         group->addAction(action);
@@ -159,8 +163,13 @@ void PreferencesWindow::showTab(Tab tab)
     m_current = tab;
     m_actions.at(tab)->setChecked(true);
     m_pages->setCurrentWidget(page(tab));
-    // Resizing keeps the window's top left corner: the top edge stays.
-    setFixedSize(windowWidth, look(tab).height);
+    // Resizing keeps the window's top left corner: the top edge stays. A tab whose texts wrap to
+    // more lines, in a longer language, takes the height they need.
+    QWidget* shown = page(tab);
+    const int needed = m_toolBar->sizeHint().height() +
+                       (shown->layout() ? shown->layout()->totalMinimumHeightForWidth(windowWidth)
+                                        : shown->minimumSizeHint().height());
+    setFixedSize(windowWidth, std::max(look(tab).height, needed));
 }
 
 void PreferencesWindow::showUnlockedTabs()

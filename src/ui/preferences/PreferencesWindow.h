@@ -43,6 +43,7 @@ private:
     BackupCommands& m_backupCommands;
     DesktopPresence& m_presence;
     QStackedWidget* m_pages;
+    QToolBar* m_toolBar = nullptr;
     std::map<Tab, QAction*> m_actions;
     std::map<Tab, QWidget*> m_made;
     Tab m_current = Tab::General;

@@ -17,9 +17,11 @@
 #include <QFile>
 #include <QImage>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStackedWidget>
 #include <QStandardPaths>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -81,13 +83,32 @@ private Q_SLOTS:
             {PreferencesWindow::Tab::Sync, 457},     {PreferencesWindow::Tab::Schedule, 457},
             {PreferencesWindow::Tab::MoreInfo, 457}, {PreferencesWindow::Tab::General, 319},
         };
-        for (const auto& [tab, height] : heights) {
-            window.tabAction(tab)->trigger();
-            QCOMPARE(window.currentTab(), tab);
-            QCOMPARE(window.height(), height);
-            if (tab == PreferencesWindow::Tab::MoreInfo)
-                saveShot(&window, QStringLiteral("preferences-more-info"));
+        // Each tab takes its height, or more where its controls need it: every control shows
+        // whole, at its size, however long its texts (a longer language, a larger font).
+        window.show();
+        const QFont usual = window.font();
+        for (const bool large : {false, true}) {
+            window.setFont(large ? QFont(usual.family(), 14) : usual);
+            for (const auto& [tab, height] : heights) {
+                window.tabAction(tab)->trigger();
+                QCOMPARE(window.currentTab(), tab);
+                // The General tab grew with the reminders' choices.
+                if (!large && tab != PreferencesWindow::Tab::General)
+                    QCOMPARE(window.height(), height);
+                QVERIFY(window.height() >= height);
+                QWidget* page = window.findChild<QStackedWidget*>()->currentWidget();
+                page->layout()->activate();
+                for (const QWidget* control : page->findChildren<QWidget*>()) {
+                    if (!control->isVisibleTo(page) || control->parentWidget() != page)
+                        continue;
+                    QVERIFY2(control->height() >= control->minimumSizeHint().height(),
+                             qPrintable(control->objectName()));
+                    QVERIFY2(page->rect().contains(control->geometry()),
+                             qPrintable(control->objectName()));
+                }
+            }
         }
+        saveShot(&window, QStringLiteral("preferences-large-font"));
     }
 
     // The desktop choices: the entry for a start at login, and leaving the taskbar asks to

@@ -7,7 +7,7 @@ packages=(
   build-essential cmake ninja-build ccache pkg-config git
   qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-translations-l10n python3
   libicu-dev libsqlite3-dev libgl-dev
-  xvfb xauth dbus dbus-x11 fonts-dejavu-core clang-format
+  xvfb xauth dbus dbus-x11 fonts-dejavu-core clang-format clang-tidy
   openbox xdotool x11-utils
   qtkeychain-qt6-dev libsecret-1-0 gnome-keyring
   desktop-file-utils poppler-utils xdg-utils

@@ -36,6 +36,7 @@
 #include <chrono>
 #include <cstdio>
 #include <memory>
+#include <optional>
 #include <sys/stat.h>
 
 using namespace lullet;
@@ -187,6 +188,38 @@ void connectQuitPaths(AppController& core, Shell& shell, MainWindow& window,
     });
 }
 
+// The program's names and icon, and its life in the tray.
+void describe(QApplication& app)
+{
+    QApplication::setApplicationName(QStringLiteral("Lullet"));
+    QApplication::setApplicationVersion(QStringLiteral(PROJECT_VERSION));
+    QApplication::setDesktopFileName(QLatin1String(appId));
+    // The installed icon; run from the build tree, the tray's drawing stands in.
+    QApplication::setWindowIcon(QIcon::fromTheme(QLatin1String(appId), TrayIconPainter::make()));
+    // The program lives in the tray; closing the window only hides it.
+    app.setQuitOnLastWindowClosed(false);
+}
+
+// One Lullet per user: a second launch hands its request to the first and ends. The exit
+// status when this launch ends here.
+std::optional<int> claim(SingleInstance& instance, const CommandLine& options)
+{
+    // Saving a large store while quitting can take a few seconds.
+    using namespace std::chrono_literals;
+    switch (instance.claim(options.relaunch ? 30s : 0s)) {
+    case SingleInstance::Role::Failed:
+        return endLaunch(instance.errorMessage());
+    case SingleInstance::Role::Secondary:
+        if (instance.forward(requestOf(options)))
+            return 0;
+        return endLaunch(
+            QCoreApplication::translate("main", "Another Lullet is running but does not answer."));
+    case SingleInstance::Role::Primary:
+        break;
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -213,30 +246,11 @@ int main(int argc, char* argv[])
     PlatformChoice::apply();
     QApplication app(argc, argv);
     translations.install();
-    QApplication::setApplicationName(QStringLiteral("Lullet"));
-    QApplication::setApplicationVersion(QStringLiteral(PROJECT_VERSION));
-    QApplication::setDesktopFileName(QLatin1String(appId));
-    // The installed icon; run from the build tree, the tray's drawing stands in.
-    QApplication::setWindowIcon(QIcon::fromTheme(QLatin1String(appId), TrayIconPainter::make()));
-    // The program lives in the tray; closing the window only hides it.
-    app.setQuitOnLastWindowClosed(false);
+    describe(app);
     TerminationSignals termination;
-
-    // One Lullet per user: a second launch hands its request to the first and ends.
     SingleInstance instance(SingleInstance::defaultFolder());
-    // Saving a large store while quitting can take a few seconds.
-    using namespace std::chrono_literals;
-    switch (instance.claim(options.relaunch ? 30s : 0s)) {
-    case SingleInstance::Role::Failed:
-        return endLaunch(instance.errorMessage());
-    case SingleInstance::Role::Secondary:
-        if (instance.forward(requestOf(options)))
-            return 0;
-        return endLaunch(
-            QCoreApplication::translate("main", "Another Lullet is running but does not answer."));
-    case SingleInstance::Role::Primary:
-        break;
-    }
+    if (const std::optional<int> ended = claim(instance, options))
+        return *ended;
 
     SystemClock clock;
     Settings settings(Settings::defaultPath());

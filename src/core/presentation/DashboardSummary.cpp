@@ -89,7 +89,7 @@ std::optional<int> DashboardSummary::Months::monthOf(Date date) const
     return int(after - m_starts.begin()) - 1;
 }
 
-void DashboardSummary::Months::count(std::array<int, 12>& months, const Item& item, int sign) const
+void DashboardSummary::Months::count(std::array<int, 12>& tally, const Item& item, int sign) const
 {
     std::optional<int> postponed;
     if (item.dtReminderPostponed())
@@ -98,9 +98,9 @@ void DashboardSummary::Months::count(std::array<int, 12>& months, const Item& it
     if (item.dtReminder())
         own = monthOf(*item.dtReminder());
     if (postponed)
-        months[std::size_t(*postponed)] += sign;
+        tally[std::size_t(*postponed)] += sign;
     if (own && own != postponed)
-        months[std::size_t(*own)] += sign;
+        tally[std::size_t(*own)] += sign;
 }
 
 DashboardSummary DashboardSummary::of(const std::vector<Item*>& items,

@@ -56,7 +56,7 @@ public:
         int year() const { return m_year; }
         // The start of each month, and the end of December.
         std::vector<Date> starts() const { return {m_starts.begin(), m_starts.end()}; }
-        void count(std::array<int, 12>& months, const Item& item, int sign = 1) const;
+        void count(std::array<int, 12>& tally, const Item& item, int sign = 1) const;
 
     private:
         std::optional<int> monthOf(Date date) const;

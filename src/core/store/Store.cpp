@@ -175,11 +175,11 @@ void Store::close()
 
 // Nothing is written to the file until it is known to be ours or new: a foreign or damaged
 // file is moved aside exactly as it was found, and a file that is only busy is left alone.
-Store::Result Store::openFile()
+std::optional<Store::Result> Store::refusal(Inspection found)
 {
-    switch (inspect()) {
+    switch (found) {
     case Inspection::Usable:
-        break;
+        return std::nullopt;
     case Inspection::NotADatabase:
         return moveAside(QCoreApplication::translate("Store", "the file is not a database"));
     case Inspection::Foreign:
@@ -204,7 +204,12 @@ Store::Result Store::openFile()
     case Inspection::NoRoom:
         return diskFull();
     }
+    return std::nullopt;
+}
 
+// Opens the file as found usable and brings its layout up to date.
+std::optional<Store::Result> Store::openDatabase()
+{
     m_db = Db(storePath());
     if (!m_db.isOpen())
         return fail(Outcome::Unreadable,
@@ -232,7 +237,15 @@ Store::Result Store::openFile()
     // The records are read once into memory and written in small batches: a large page cache
     // would only hold the store a second time, all day.
     m_db.exec("PRAGMA cache_size = -512");
+    return std::nullopt;
+}
 
+Store::Result Store::openFile()
+{
+    if (std::optional<Result> refused = refusal(inspect()))
+        return *refused;
+    if (std::optional<Result> failed = openDatabase())
+        return *failed;
     if (!m_context) {
         m_context = std::make_unique<ObjectContext>(m_db);
         m_history = std::make_unique<HistoryOnDisk>(*m_context, m_db);
@@ -385,12 +398,11 @@ Store::Result Store::replaceWith(const QString& prepared)
     }
     const bool placed = StoreFiles::rename(prepared, live);
     StoreFiles::sync(m_folder);
-    const Result opened =
-        placed ? openFile()
-               : Result{Outcome::OpenFailed,
-                        QCoreApplication::translate("Store",
-                                                    "The restored copy could not be put in place."),
-                        {}};
+    Result opened = placed ? openFile()
+                           : Result{Outcome::OpenFailed,
+                                    QCoreApplication::translate(
+                                        "Store", "The restored copy could not be put in place."),
+                                    {}};
     if (opened.outcome != Outcome::Opened)
         return putBack(opened);
     StoreFiles::remove(kept);

@@ -94,6 +94,9 @@ private:
     Inspection inspect() const;
     Inspection inspectOnce() const;
     Result openFile();
+    // What a launch says of a file it cannot use as found; none for a usable file.
+    std::optional<Result> refusal(Inspection found);
+    std::optional<Result> openDatabase();
     Result fail(Outcome outcome, const QString& what);
     Result diskFull() const;
     Result moveAside(const QString& why);

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace lullet {
 
@@ -111,8 +112,9 @@ void CalDavClient::ask(const QByteArray& method, const QUrl& url, int depth, con
     });
 }
 
-void CalDavClient::propfind(const QUrl& url, int depth, const QByteArray& query, int redirects,
-                            std::function<void(Outcome, const DavXml::Multistatus&, QUrl)> done)
+void CalDavClient::propfind(
+    const QUrl& url, int depth, const QByteArray& query, int redirects,
+    const std::function<void(Outcome, const DavXml::Multistatus&, QUrl)>& done)
 {
     HttpRequest request{
         "PROPFIND", url, {{"Content-Type", xmlType}, {"Depth", QByteArray::number(depth)}}, query};
@@ -131,10 +133,11 @@ void CalDavClient::propfind(const QUrl& url, int depth, const QByteArray& query,
     });
 }
 
-void CalDavClient::discover(const QUrl& start, std::function<void(Outcome, Collection)> done)
+void CalDavClient::discover(const QUrl& start, const std::function<void(Outcome, Collection)>& done)
 {
     propfind(start, 0, DavXml::collectionQuery(), 0,
-             [this, start, done](Outcome outcome, const DavXml::Multistatus& answer, QUrl at) {
+             [this, start, done](const Outcome& outcome, const DavXml::Multistatus& answer,
+                                 const QUrl& at) {
                  const DavXml::Resource* found = outcome.ok() ? resourceAt(answer, at) : nullptr;
                  if (found && found->isCalendar) {
                      if (found->holdsTodos)
@@ -155,36 +158,41 @@ void CalDavClient::discover(const QUrl& start, std::function<void(Outcome, Colle
              });
 }
 
-void CalDavClient::findPrincipal(const QUrl& url, std::function<void(Outcome, Collection)> done)
+void CalDavClient::findPrincipal(const QUrl& url,
+                                 const std::function<void(Outcome, Collection)>& done)
 {
-    propfind(url, 0, DavXml::principalQuery(), 0,
-             [this, done](Outcome outcome, const DavXml::Multistatus& answer, QUrl at) {
-                 const DavXml::Resource* found = outcome.ok() ? resourceAt(answer, at) : nullptr;
-                 if (found && !found->calendarHome.isEmpty())
-                     pickCalendar(CalDavClient::urlOf(at, found->calendarHome), done);
-                 else if (found && !found->principal.isEmpty())
-                     findHome(CalDavClient::urlOf(at, found->principal), done);
-                 else
-                     done(outcome.ok() ? Outcome{Problem::NoTaskList, {}} : outcome, {});
-             });
+    propfind(
+        url, 0, DavXml::principalQuery(), 0,
+        [this, done](const Outcome& outcome, const DavXml::Multistatus& answer, const QUrl& at) {
+            const DavXml::Resource* found = outcome.ok() ? resourceAt(answer, at) : nullptr;
+            if (found && !found->calendarHome.isEmpty())
+                pickCalendar(CalDavClient::urlOf(at, found->calendarHome), done);
+            else if (found && !found->principal.isEmpty())
+                findHome(CalDavClient::urlOf(at, found->principal), done);
+            else
+                done(outcome.ok() ? Outcome{Problem::NoTaskList, {}} : outcome, {});
+        });
 }
 
-void CalDavClient::findHome(const QUrl& principal, std::function<void(Outcome, Collection)> done)
+void CalDavClient::findHome(const QUrl& principal,
+                            const std::function<void(Outcome, Collection)>& done)
 {
-    propfind(principal, 0, DavXml::principalQuery(), 0,
-             [this, done](Outcome outcome, const DavXml::Multistatus& answer, QUrl at) {
-                 const DavXml::Resource* found = outcome.ok() ? resourceAt(answer, at) : nullptr;
-                 if (found && !found->calendarHome.isEmpty())
-                     pickCalendar(CalDavClient::urlOf(at, found->calendarHome), done);
-                 else
-                     done(outcome.ok() ? Outcome{Problem::NoTaskList, {}} : outcome, {});
-             });
+    propfind(
+        principal, 0, DavXml::principalQuery(), 0,
+        [this, done](const Outcome& outcome, const DavXml::Multistatus& answer, const QUrl& at) {
+            const DavXml::Resource* found = outcome.ok() ? resourceAt(answer, at) : nullptr;
+            if (found && !found->calendarHome.isEmpty())
+                pickCalendar(CalDavClient::urlOf(at, found->calendarHome), done);
+            else
+                done(outcome.ok() ? Outcome{Problem::NoTaskList, {}} : outcome, {});
+        });
 }
 
-void CalDavClient::pickCalendar(const QUrl& home, std::function<void(Outcome, Collection)> done)
+void CalDavClient::pickCalendar(const QUrl& home,
+                                const std::function<void(Outcome, Collection)>& done)
 {
     propfind(home, 1, DavXml::collectionQuery(), 0,
-             [done](Outcome outcome, const DavXml::Multistatus& answer, QUrl at) {
+             [done](const Outcome& outcome, const DavXml::Multistatus& answer, const QUrl& at) {
                  if (!outcome.ok()) {
                      done(outcome, {});
                      return;
@@ -208,7 +216,7 @@ void CalDavClient::pickCalendar(const QUrl& home, std::function<void(Outcome, Co
 }
 
 void CalDavClient::changesSince(const QUrl& collection, const QString& token,
-                                std::function<void(Outcome, Changes)> done)
+                                const std::function<void(Outcome, Changes)>& done)
 {
     ask("REPORT", collection, 0, DavXml::syncQuery(token),
         [collection, done](Outcome outcome, const DavXml::Multistatus& answer) {
@@ -232,17 +240,17 @@ void CalDavClient::changesSince(const QUrl& collection, const QString& token,
         });
 }
 
-void CalDavClient::ctag(const QUrl& collection, std::function<void(Outcome, QString)> done)
+void CalDavClient::ctag(const QUrl& collection, const std::function<void(Outcome, QString)>& done)
 {
     ask("PROPFIND", collection, 0, DavXml::listingQuery(),
-        [collection, done](Outcome outcome, const DavXml::Multistatus& answer) {
+        [collection, done](const Outcome& outcome, const DavXml::Multistatus& answer) {
             const DavXml::Resource* found = outcome.ok() ? resourceAt(answer, collection) : nullptr;
             done(outcome, found ? found->ctag : QString());
         });
 }
 
 void CalDavClient::members(const QUrl& collection,
-                           std::function<void(Outcome, std::vector<Member>)> done)
+                           const std::function<void(Outcome, std::vector<Member>)>& done)
 {
     ask("PROPFIND", collection, 1, DavXml::listingQuery(),
         [done](Outcome outcome, const DavXml::Multistatus& answer) {
@@ -251,12 +259,12 @@ void CalDavClient::members(const QUrl& collection,
                 if (!r.isCollection && !r.etag.isEmpty())
                     members.push_back({r.href, r.etag});
             }
-            done(outcome, members);
+            done(std::move(outcome), members);
         });
 }
 
 void CalDavClient::fetch(const QUrl& collection, const QStringList& hrefs,
-                         std::function<void(Outcome, std::vector<DavXml::Resource>)> done)
+                         const std::function<void(Outcome, std::vector<DavXml::Resource>)>& done)
 {
     ask("REPORT", collection, -1, DavXml::multigetQuery(hrefs),
         [done](Outcome outcome, const DavXml::Multistatus& answer) {
@@ -265,12 +273,12 @@ void CalDavClient::fetch(const QUrl& collection, const QStringList& hrefs,
                 if (r.status == 0 && !r.calendarData.isEmpty())
                     found.push_back(r);
             }
-            done(outcome, found);
+            done(std::move(outcome), found);
         });
 }
 
 void CalDavClient::put(const QUrl& url, const QByteArray& body, const QString& etag,
-                       std::function<void(Outcome, QString)> done)
+                       const std::function<void(Outcome, QString)>& done)
 {
     HttpRequest request{"PUT", url, {{"Content-Type", "text/calendar; charset=utf-8"}}, body};
     if (etag.isEmpty())
@@ -282,7 +290,8 @@ void CalDavClient::put(const QUrl& url, const QByteArray& body, const QString& e
     });
 }
 
-void CalDavClient::remove(const QUrl& url, const QString& etag, std::function<void(Outcome)> done)
+void CalDavClient::remove(const QUrl& url, const QString& etag,
+                          const std::function<void(Outcome)>& done)
 {
     HttpRequest request{"DELETE", url, {}, {}};
     if (!etag.isEmpty())

@@ -62,20 +62,21 @@ public:
 
     // The collection at `start`, or the first one for to-dos in the calendar home of the user
     // that `start` (a server's address) names.
-    void discover(const QUrl& start, std::function<void(Outcome, Collection)> done);
+    void discover(const QUrl& start, const std::function<void(Outcome, Collection)>& done);
     void changesSince(const QUrl& collection, const QString& token,
-                      std::function<void(Outcome, Changes)> done);
-    void ctag(const QUrl& collection, std::function<void(Outcome, QString)> done);
-    void members(const QUrl& collection, std::function<void(Outcome, std::vector<Member>)> done);
+                      const std::function<void(Outcome, Changes)>& done);
+    void ctag(const QUrl& collection, const std::function<void(Outcome, QString)>& done);
+    void members(const QUrl& collection,
+                 const std::function<void(Outcome, std::vector<Member>)>& done);
     // The resources' texts, in one request.
     void fetch(const QUrl& collection, const QStringList& hrefs,
-               std::function<void(Outcome, std::vector<DavXml::Resource>)> done);
+               const std::function<void(Outcome, std::vector<DavXml::Resource>)>& done);
     // Writes the resource if it is still at version `etag`, or, with no etag, only if it does
     // not exist. Answers the new version, when the server tells it.
     void put(const QUrl& url, const QByteArray& body, const QString& etag,
-             std::function<void(Outcome, QString)> done);
+             const std::function<void(Outcome, QString)>& done);
     // Deletes the resource if it is still at version `etag`; one already gone is no failure.
-    void remove(const QUrl& url, const QString& etag, std::function<void(Outcome)> done);
+    void remove(const QUrl& url, const QString& etag, const std::function<void(Outcome)>& done);
 
     static QUrl urlOf(const QUrl& collection, const QString& href);
 
@@ -86,11 +87,11 @@ private:
     void ask(const QByteArray& method, const QUrl& url, int depth, const QByteArray& body,
              Parsed done);
     void propfind(const QUrl& url, int depth, const QByteArray& query, int redirects,
-                  std::function<void(Outcome, const DavXml::Multistatus&, QUrl)> done);
+                  const std::function<void(Outcome, const DavXml::Multistatus&, QUrl)>& done);
     // The calendars of the user a URL that is no calendar belongs to.
-    void findPrincipal(const QUrl& url, std::function<void(Outcome, Collection)> done);
-    void findHome(const QUrl& principal, std::function<void(Outcome, Collection)> done);
-    void pickCalendar(const QUrl& home, std::function<void(Outcome, Collection)> done);
+    void findPrincipal(const QUrl& url, const std::function<void(Outcome, Collection)>& done);
+    void findHome(const QUrl& principal, const std::function<void(Outcome, Collection)>& done);
+    void pickCalendar(const QUrl& home, const std::function<void(Outcome, Collection)>& done);
     static Outcome outcomeOf(const HttpResponse& response);
 
     HttpPort& m_port;

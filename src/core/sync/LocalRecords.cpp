@@ -80,7 +80,7 @@ QString LocalRecords::uidOf(const Project* project)
 {
     if (!project)
         return {};
-    if (const QString known = m_uids.value(project); !known.isEmpty())
+    if (QString known = m_uids.value(project); !known.isEmpty())
         return known;
     const std::optional<SyncLedger::Entry> entry =
         m_ledger.byRow(Record::Entity::Project, project->rowId());

@@ -138,6 +138,7 @@ template <class R>
 std::vector<RecordFields::Attribute> attributesOf(const std::vector<Field<R>>& fields)
 {
     std::vector<RecordFields::Attribute> attributes;
+    attributes.reserve(fields.size());
     for (const Field<R>& f : fields)
         attributes.push_back(f.attribute);
     return attributes;

@@ -143,17 +143,17 @@ void SyncEngine::start()
         readChanges();
         return;
     }
-    m_dav.discover(m_source,
-                   m_requests.answer([this](Outcome outcome, CalDavClient::Collection found) {
-                       if (!outcome.ok()) {
-                           fail(outcome);
-                           return;
-                       }
-                       m_collection = found.url;
-                       m_ledger.setState(collectionKey, found.url.toString());
-                       m_ledger.setState(methodKey, found.syncReport ? QString() : byCtag);
-                       readChanges();
-                   }));
+    m_dav.discover(m_source, m_requests.answer([this](const Outcome& outcome,
+                                                      const CalDavClient::Collection& found) {
+        if (!outcome.ok()) {
+            fail(outcome);
+            return;
+        }
+        m_collection = found.url;
+        m_ledger.setState(collectionKey, found.url.toString());
+        m_ledger.setState(methodKey, found.syncReport ? QString() : byCtag);
+        readChanges();
+    }));
 }
 
 void SyncEngine::readChanges()
@@ -163,47 +163,48 @@ void SyncEngine::readChanges()
         return;
     }
     const QString token = m_ledger.state(tokenKey);
-    m_dav.changesSince(
-        m_collection, token,
-        m_requests.answer([this, token](Outcome outcome, const CalDavClient::Changes& changes) {
-            if (outcome.problem == Problem::TokenExpired && !token.isEmpty()) {
-                m_ledger.setState(tokenKey, QString());
-                readChanges();
-                return;
-            }
-            if (outcome.problem == Problem::Refused && token.isEmpty()) {
-                // No sync reports here after all: the ctag will do.
-                m_ledger.setState(methodKey, byCtag);
-                readByCtag();
-                return;
-            }
-            if (outcome.problem == Problem::NotFound)
-                m_ledger.setState(collectionKey, QString());
-            if (!outcome.ok()) {
-                fail(outcome);
-                return;
-            }
-            m_newToken = changes.token;
-            m_result.again = changes.truncated;
-            // From no token the answer lists every member: what it lacks is gone.
-            if (token.isEmpty() && !changes.truncated) {
-                compare(changes.changed);
-                return;
-            }
-            m_removed = changes.removed;
-            QStringList wanted;
-            for (const CalDavClient::Member& member : changes.changed) {
-                const std::optional<SyncLedger::Entry> known = m_ledger.byHref(member.href);
-                if (!known || known->etag != member.etag)
-                    wanted.append(member.href);
-            }
-            fetch(wanted);
-        }));
+    m_dav.changesSince(m_collection, token,
+                       m_requests.answer([this, token](const Outcome& outcome,
+                                                       const CalDavClient::Changes& changes) {
+                           if (outcome.problem == Problem::TokenExpired && !token.isEmpty()) {
+                               m_ledger.setState(tokenKey, QString());
+                               readChanges();
+                               return;
+                           }
+                           if (outcome.problem == Problem::Refused && token.isEmpty()) {
+                               // No sync reports here after all: the ctag will do.
+                               m_ledger.setState(methodKey, byCtag);
+                               readByCtag();
+                               return;
+                           }
+                           if (outcome.problem == Problem::NotFound)
+                               m_ledger.setState(collectionKey, QString());
+                           if (!outcome.ok()) {
+                               fail(outcome);
+                               return;
+                           }
+                           m_newToken = changes.token;
+                           m_result.again = changes.truncated;
+                           // From no token the answer lists every member: what it lacks is gone.
+                           if (token.isEmpty() && !changes.truncated) {
+                               compare(changes.changed);
+                               return;
+                           }
+                           m_removed = changes.removed;
+                           QStringList wanted;
+                           for (const CalDavClient::Member& member : changes.changed) {
+                               const std::optional<SyncLedger::Entry> known =
+                                   m_ledger.byHref(member.href);
+                               if (!known || known->etag != member.etag)
+                                   wanted.append(member.href);
+                           }
+                           fetch(wanted);
+                       }));
 }
 
 void SyncEngine::readByCtag()
 {
-    m_dav.ctag(m_collection, m_requests.answer([this](Outcome outcome, const QString& ctag) {
+    m_dav.ctag(m_collection, m_requests.answer([this](const Outcome& outcome, const QString& ctag) {
         if (!outcome.ok()) {
             fail(outcome);
             return;
@@ -213,14 +214,14 @@ void SyncEngine::readByCtag()
             applyRemote();
             return;
         }
-        m_dav.members(
-            m_collection,
-            m_requests.answer([this](Outcome listed, std::vector<CalDavClient::Member> members) {
-                if (listed.ok())
-                    compare(members);
-                else
-                    fail(listed);
-            }));
+        m_dav.members(m_collection,
+                      m_requests.answer([this](const Outcome& listed,
+                                               const std::vector<CalDavClient::Member>& members) {
+                          if (listed.ok())
+                              compare(members);
+                          else
+                              fail(listed);
+                      }));
     }));
 }
 
@@ -242,24 +243,24 @@ void SyncEngine::fetch(const QStringList& hrefs)
     for (qsizetype at = 0; at < hrefs.size(); at += fetchBatch) {
         const QStringList batch = hrefs.mid(at, fetchBatch);
         m_requests.add([this, batch] {
-            m_dav.fetch(
-                m_collection, batch,
-                m_requests.answer([this](Outcome outcome, std::vector<DavXml::Resource> found) {
-                    if (!outcome.ok()) {
-                        fail(outcome);
-                        return;
-                    }
-                    for (DavXml::Resource& r : found)
-                        m_incoming.push_back({r.href,
-                                              r.etag,
-                                              QString::fromUtf8(r.calendarData),
-                                              {},
-                                              {},
-                                              nullptr,
-                                              false,
-                                              false});
-                    m_requests.run();
-                }));
+            m_dav.fetch(m_collection, batch,
+                        m_requests.answer([this](const Outcome& outcome,
+                                                 const std::vector<DavXml::Resource>& found) {
+                            if (!outcome.ok()) {
+                                fail(outcome);
+                                return;
+                            }
+                            for (const DavXml::Resource& r : found)
+                                m_incoming.push_back({r.href,
+                                                      r.etag,
+                                                      QString::fromUtf8(r.calendarData),
+                                                      {},
+                                                      {},
+                                                      nullptr,
+                                                      false,
+                                                      false});
+                            m_requests.run();
+                        }));
         });
     }
     m_requests.run([this] { applyRemote(); });
@@ -457,14 +458,14 @@ void SyncEngine::put(const SyncLedger::Entry& entry, const QJsonObject& fields, 
     // A resource whose version isn't known is written only if it isn't there.
     const QString etag = entry.href.isEmpty() ? QString() : entry.etag;
     m_requests.add([this, entry, href, text, etag] {
-        m_dav.put(
-            CalDavClient::urlOf(m_collection, href), text, etag,
-            m_requests.answer([this, entry, href, text](Outcome outcome, const QString& newTag) {
-                afterWrite(outcome, [this, entry, href, newTag, text] {
-                    m_ledger.record(entry.id, href, newTag, QString::fromUtf8(text));
-                    m_ledger.settle(entry.id, entry.pending);
-                });
-            }));
+        m_dav.put(CalDavClient::urlOf(m_collection, href), text, etag,
+                  m_requests.answer(
+                      [this, entry, href, text](const Outcome& outcome, const QString& newTag) {
+                          afterWrite(outcome, [this, entry, href, newTag, text] {
+                              m_ledger.record(entry.id, href, newTag, QString::fromUtf8(text));
+                              m_ledger.settle(entry.id, entry.pending);
+                          });
+                      }));
     });
 }
 
@@ -483,7 +484,7 @@ void SyncEngine::sendDeletion(const SyncLedger::Entry& entry)
     }
     m_requests.add([this, entry] {
         m_dav.remove(CalDavClient::urlOf(m_collection, entry.href), entry.etag,
-                     m_requests.answer([this, entry](Outcome outcome) {
+                     m_requests.answer([this, entry](const Outcome& outcome) {
                          // Changed there meanwhile, it comes back here at the next pass.
                          if (outcome.problem == Problem::Conflict)
                              m_ledger.remove(entry.id);

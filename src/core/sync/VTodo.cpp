@@ -200,7 +200,7 @@ std::optional<icalrecurrencetype> recurrenceOf(const QJsonObject& fields)
 QString recurrenceText(const icalrecurrencetype& rule)
 {
     char* text = icalrecurrencetype_as_string_r(const_cast<icalrecurrencetype*>(&rule));
-    const QString result = QString::fromUtf8(text);
+    QString result = QString::fromUtf8(text);
     icalmemory_free_buffer(text);
     return result;
 }

@@ -49,7 +49,7 @@ SingleInstance::Client::~Client()
 
 QString SingleInstance::defaultFolder()
 {
-    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
     if (!runtime.isEmpty())
         return runtime;
     return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation))

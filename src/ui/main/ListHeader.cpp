@@ -41,7 +41,7 @@ QLabel* countLabel(const QString& name, QWidget* parent)
 } // namespace
 
 ListHeader::ListHeader(const Services& services, const ListBuilder::Scope& scope,
-                       std::function<Report()> report, QWidget* parent)
+                       const std::function<Report()>& report, QWidget* parent)
     : QWidget(parent)
     , m_services(services)
     , m_scope(scope)

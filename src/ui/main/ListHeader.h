@@ -30,7 +30,7 @@ class ListHeader final : public QWidget {
     Q_OBJECT
 public:
     ListHeader(const Services& services, const ListBuilder::Scope& scope,
-               std::function<Report()> report, QWidget* parent = nullptr);
+               const std::function<Report()>& report, QWidget* parent = nullptr);
 
     // The list's totals, as its report's head shows them, and the running item's clock.
     void showStats(const TaskStats& stats, const Item* running);

@@ -49,7 +49,7 @@ QWidget* BackupCommands::over(QWidget* from)
 QString BackupCommands::chooseFileToSave(const QString& caption, const QString& proposed)
 {
     m_panelOpen = true;
-    const QString chosen = Dialogs::chooseFileToSave(over(m_lastFrom), caption, proposed);
+    QString chosen = Dialogs::chooseFileToSave(over(m_lastFrom), caption, proposed);
     m_panelOpen = false;
     return chosen;
 }

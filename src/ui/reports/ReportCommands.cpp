@@ -60,7 +60,7 @@ void ReportCommands::addActions(QMenu* menu, QWidget* from, const std::function<
     };
     for (const auto& [title, command] : actions) {
         QObject::connect(menu->addAction(title), &QAction::triggered, from,
-                         [commands = *this, command, from, make, emptyText] {
+                         [commands = *this, command = command, from, make, emptyText] {
                              (commands.*command)(make(), from, emptyText);
                          });
     }

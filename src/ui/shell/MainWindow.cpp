@@ -88,7 +88,7 @@ void MainWindow::makeHelpMenu()
     };
     for (const auto& [title, url] : pages) {
         connect(help->addAction(title), &QAction::triggered, this,
-                [this, url] { Links::open(url, this); });
+                [this, url = url] { Links::open(url, this); });
     }
     help->addSeparator();
     connect(help->addAction(tr("&Contact Us…")), &QAction::triggered, this,

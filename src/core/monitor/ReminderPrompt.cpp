@@ -4,6 +4,7 @@
 #include "core/activity/RunningItem.h"
 #include "core/model/Item.h"
 #include "core/monitor/TimeOverPrompt.h"
+#include "core/scheduling/CatalogueEntries.h"
 
 namespace lullet {
 
@@ -22,7 +23,7 @@ QString ReminderPrompt::reminderText() const
         return tr("None");
     const std::optional<Date> due = m_due->effectiveDate();
     return tr("Time for : %1, at :%2")
-        .arg(m_due->title().value_or(QString()),
+        .arg(CatalogueEntries::shown(m_due->title().value_or(QString())),
              due ? due->toString(DateStyle::None, DateStyle::Short) : QString());
 }
 

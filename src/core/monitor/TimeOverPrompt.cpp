@@ -2,6 +2,7 @@
 
 #include "core/activity/RunningItem.h"
 #include "core/model/Item.h"
+#include "core/scheduling/CatalogueEntries.h"
 
 namespace lullet {
 
@@ -15,7 +16,8 @@ QString TimeOverPrompt::question(const Item* item)
 {
     if (!item)
         return {};
-    return tr("Have you finished : %1 ?").arg(item->title().value_or(QString()));
+    return tr("Have you finished : %1 ?")
+        .arg(CatalogueEntries::shown(item->title().value_or(QString())));
 }
 
 PromptOutcome TimeOverPrompt::finish()

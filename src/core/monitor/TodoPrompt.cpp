@@ -2,6 +2,7 @@
 
 #include "core/activity/ItemActions.h"
 #include "core/model/Item.h"
+#include "core/scheduling/CatalogueEntries.h"
 
 namespace lullet {
 
@@ -15,7 +16,8 @@ QString TodoPrompt::text() const
 {
     if (!m_item)
         return {};
-    return tr("Time for : %1. Done ?").arg(m_item->title().value_or(QString()));
+    return tr("Time for : %1. Done ?")
+        .arg(CatalogueEntries::shown(m_item->title().value_or(QString())));
 }
 
 PromptOutcome TodoPrompt::done()

@@ -4,6 +4,7 @@
 #include "core/model/Item.h"
 #include "core/model/RepeatCodes.h"
 #include "core/presentation/DashboardSummary.h"
+#include "core/scheduling/CatalogueEntries.h"
 #include "core/text/CountedText.h"
 
 namespace lullet {
@@ -98,7 +99,7 @@ void RowTexts::setTexts(ListRow& row, const Item& record, const Clock& clock, Pr
 {
     const Item* item = &record;
     row.type = ListRow::ItemRow;
-    row.title = item->title().value_or(QString());
+    row.title = CatalogueEntries::shown(item->title().value_or(QString()));
     row.isToDo = item->isToDo();
     row.dueOrOverdue = false;
     row.time.clear();

@@ -5,6 +5,7 @@
 #include "core/library/Library.h"
 #include "core/model/Item.h"
 #include "core/presentation/RowTexts.h"
+#include "core/scheduling/CatalogueEntries.h"
 
 #include <algorithm>
 
@@ -15,7 +16,7 @@ QString RunningStatus::clockText(const Item& item)
     QString time = RowTexts::getStringFromSeconds(item.elapsedTime().value_or(0));
     if (const int limit = item.timeLimit().value_or(0); limit > 0)
         time = tr("%1 / %2").arg(time, RowTexts::getStringFromSeconds(limit));
-    return tr("%1  %2").arg(item.title().value_or(QString()), time);
+    return tr("%1  %2").arg(CatalogueEntries::shown(item.title().value_or(QString())), time);
 }
 
 std::optional<double> RunningStatus::progress(const RunningItem& running, const Clock& clock)
@@ -57,7 +58,7 @@ QString RunningStatus::toolTip(const Library& library, const RunningItem& runnin
     if (const Item* item = running.item()) {
         const int minutes = item->elapsedTime().value_or(0) / 60;
         const int limit = item->timeLimit().value_or(0) / 60;
-        const QString title = item->title().value_or(QString());
+        const QString title = CatalogueEntries::shown(item->title().value_or(QString()));
         if (limit > 0)
             return tr("%1: %2 of %3 min").arg(title).arg(minutes).arg(limit);
         return tr("%1: %2 min").arg(title).arg(minutes);
@@ -66,7 +67,7 @@ QString RunningStatus::toolTip(const Library& library, const RunningItem& runnin
     if (!next)
         return tr("Lullet");
     const Date due = *next->effectiveDate();
-    const QString title = next->title().value_or(QString());
+    const QString title = CatalogueEntries::shown(next->title().value_or(QString()));
     const QString time = due.toString(DateStyle::None, DateStyle::Short);
     if (due.isToday(clock))
         return tr("Next: %1 at %2").arg(title, time);

@@ -9,6 +9,7 @@
 #include "core/presentation/Sidebar.h"
 #include "core/presentation/TaskStats.h"
 #include "core/reports/Report.h"
+#include "core/scheduling/CatalogueEntries.h"
 #include "core/text/LocalizedText.h"
 #include "ui/main/ItemListModel.h"
 #include "ui/main/ItemMenu.h"
@@ -360,7 +361,8 @@ void ItemListView::startOrStop(Item* item)
         // In the tray's panel, where nothing else shows it.
         if (!m_withHeader)
             Dialogs::inform(this, tr("Task completed"),
-                            tr("%1 has been completed now").arg(item->title().value_or(QString())));
+                            tr("%1 has been completed now")
+                                .arg(CatalogueEntries::shown(item->title().value_or(QString()))));
         return;
     }
     if (m_services.itemActions.start(*item) != ItemActions::StartResult::AnotherIsRunning)
@@ -402,7 +404,8 @@ void ItemListView::showPostponeMessage(const Item& item)
     Dialogs::inform(this, tr("Lullet postponed"),
                     // The title, then the day, month and year.
                     tr("%1 has been postponed to %2 %3 %4")
-                        .arg(item.title().value_or(QString()), QString::number(due->day()),
+                        .arg(CatalogueEntries::shown(item.title().value_or(QString())),
+                             QString::number(due->day()),
                              LocalizedText::capitalizeFirst(due->shortMonthToString()),
                              QString::number(due->year())));
 }

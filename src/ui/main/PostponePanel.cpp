@@ -5,6 +5,7 @@
 #include "core/dates/Clock.h"
 #include "core/dates/DateFormats.h"
 #include "core/model/Item.h"
+#include "core/scheduling/CatalogueEntries.h"
 
 #include <QDateTimeEdit>
 #include <QGridLayout>
@@ -42,7 +43,9 @@ PostponePanel::PostponePanel(const Services& services, Item* item, QWidget* pare
     const Date base = std::max(item ? Postponing::panelBase(*item, services.clock) : now, now);
     auto* layout = new QVBoxLayout(this);
     auto* title = new QLabel(
-        tr("Postpone %1").arg(item ? item->title().value_or(QString()) : QString()), this);
+        tr("Postpone %1")
+            .arg(item ? CatalogueEntries::shown(item->title().value_or(QString())) : QString()),
+        this);
     title->setObjectName(QStringLiteral("postponeTitle"));
     title->setWordWrap(true);
     QFont bold = title->font();

@@ -1,3 +1,5 @@
+#include "core/model/Item.h"
+#include "core/monitor/TimeOverPrompt.h"
 #include "core/presentation/Segment.h"
 #include "core/text/CountedText.h"
 #include "support/TestMain.h"
@@ -37,6 +39,15 @@ private Q_SLOTS:
             QCOMPARE(inDays(3), QStringLiteral("In 3 Tagen"));
             // A message the translation lacks stays English.
             QCOMPARE(Segments::text(Segment::Upcoming), QStringLiteral("Upcoming"));
+            // A suggestion's title reads German wherever it shows, though the record keeps the
+            // English it is matched by; a title of the user's own stays as written.
+            Item tea;
+            tea.setTitle(QStringLiteral("Tea break"));
+            QCOMPARE(TimeOverPrompt::question(&tea),
+                     QStringLiteral("Have you finished : Teepause ?"));
+            tea.setTitle(QStringLiteral("Tea with Kim"));
+            QCOMPARE(TimeOverPrompt::question(&tea),
+                     QStringLiteral("Have you finished : Tea with Kim ?"));
             // Qt's own dialogs speak German too.
             QCOMPARE(qtCancel(), QStringLiteral("Abbrechen"));
         }

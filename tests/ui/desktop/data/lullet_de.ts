@@ -19,4 +19,11 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>CatalogueEntries</name>
+    <message>
+        <source>Tea break</source>
+        <translation>Teepause</translation>
+    </message>
+</context>
 </TS>

@@ -59,6 +59,9 @@ QString Translations::text(const char* context, const char* source) const
 
 Translations::~Translations()
 {
+    // Gone with the application, when that ended first (as at the end of main).
+    if (!QCoreApplication::instance())
+        return;
     if (m_programInstalled)
         QCoreApplication::removeTranslator(&m_program);
     if (m_qtInstalled)

@@ -182,8 +182,7 @@ QString SidebarView::rowText(const SidebarRow& row) const
     if (row.item || row.rowId)
         return tr("• %1").arg(row.name);
     // The name, its count, its progress in per cent.
-    const QString text =
-        row.count ? tr("%1   %2").arg(row.name, QString::number(*row.count)) : row.name;
+    QString text = row.count ? tr("%1   %2").arg(row.name, QString::number(*row.count)) : row.name;
     if (row.progress && *row.progress > 0)
         return tr("%1   %2%").arg(text).arg(qRound(*row.progress * 100));
     return text;

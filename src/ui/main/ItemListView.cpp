@@ -143,8 +143,6 @@ void ItemListView::buildTable(QVBoxLayout* layout)
     m_table->setColumnWidth(ItemListModel::StartColumn, 36);
     auto* startButtons = new StartButtonDelegate(m_table);
     m_table->setItemDelegateForColumn(ItemListModel::StartColumn, startButtons);
-    // The painted buttons rise under the mouse.
-    m_table->viewport()->setAttribute(Qt::WA_Hover);
     connect(startButtons, &StartButtonDelegate::clicked, this,
             [this](const QModelIndex& index) { startOrStop(m_model->itemAt(index.row())); });
     columns->setVisible(m_withHeader);

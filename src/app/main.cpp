@@ -187,6 +187,7 @@ int main(int argc, char* argv[])
     // and every file the program makes is the user's alone.
     TerminationSignals::install();
     ::umask(077);
+    MemoryTrim::configure();
     CommandLine options;
     if (const int status = CommandLine::parse(argc, argv, options); status >= 0)
         return status;

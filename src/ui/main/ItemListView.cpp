@@ -115,6 +115,9 @@ void ItemListView::updateChart()
 void ItemListView::buildTable(QVBoxLayout* layout)
 {
     m_table = new QTableView(this);
+    // Set before the model: afterwards, each of a long list's rows would be resized and queued
+    // for an update one by one.
+    m_table->verticalHeader()->setDefaultSectionSize(34);
     m_table->setModel(m_model);
     m_table->setObjectName(QStringLiteral("items"));
     const ListBuilder::Scope& scope = m_model->scope();
@@ -125,7 +128,6 @@ void ItemListView::buildTable(QVBoxLayout* layout)
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(34);
     QHeaderView* columns = m_table->horizontalHeader();
     columns->setSectionResizeMode(ItemListModel::TitleColumn, QHeaderView::Stretch);
     columns->setSectionResizeMode(ItemListModel::StartColumn, QHeaderView::Fixed);

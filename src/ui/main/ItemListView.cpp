@@ -10,6 +10,7 @@
 #include "core/presentation/TaskStats.h"
 #include "core/reports/Report.h"
 #include "core/text/LocalizedText.h"
+#include "ui/desktop/MemoryTrim.h"
 #include "ui/main/ItemListModel.h"
 #include "ui/main/ItemMenu.h"
 #include "ui/main/ListHeader.h"
@@ -18,6 +19,7 @@
 #include "ui/widgets/Dialogs.h"
 
 #include <QHeaderView>
+#include <QHideEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScrollBar>
@@ -257,6 +259,29 @@ void ItemListView::fitColumns()
 
 void ItemListView::reload()
 {
+    if (!m_released)
+        m_model->reload();
+}
+
+// A list of the whole history takes megabytes, and rebuilding it at each change of an item
+// takes time: out of sight, in a closed window, it gives its lines up and is built again as it
+// shows. A minimised window keeps its list.
+void ItemListView::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    if (event->spontaneous() || m_released)
+        return;
+    m_released = true;
+    m_model->release();
+    MemoryTrim::soon();
+}
+
+void ItemListView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!m_released)
+        return;
+    m_released = false;
     m_model->reload();
 }
 

@@ -228,6 +228,7 @@ int main(int argc, char* argv[])
     // and every file the program makes is the user's alone.
     TerminationSignals::install();
     ::umask(077);
+    MemoryTrim::configure();
     // The user's language, already for the command line's help.
     Translations translations;
     CommandLine options;

@@ -54,6 +54,12 @@ void ListLines::build(const ListBuilder::Scope& scope)
         buildFlat(scope);
 }
 
+void ListLines::clear()
+{
+    std::vector<Line>().swap(m_lines);
+    m_onDisk = OnDisk::None;
+}
+
 void ListLines::buildFlat(const ListBuilder::Scope& scope)
 {
     // "Today" and "Anytime" list open and recent items, which are all in memory.

@@ -43,6 +43,8 @@ public:
     void build(const ListBuilder::Scope& scope);
     // Every item of the project, or of no project, by day as a project's list shows them.
     void buildGrouped(Project* project);
+    // No lines, and none of the memory they took.
+    void clear();
 
     const std::vector<Line>& lines() const { return m_lines; }
     std::size_t size() const { return m_lines.size(); }

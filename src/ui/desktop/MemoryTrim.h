@@ -7,6 +7,8 @@ namespace lullet {
 // all day. Asked for often, it trims once, a moment after the last asking.
 class MemoryTrim {
 public:
+    // Once, before anything is allocated in earnest: how the C library keeps what is freed.
+    static void configure();
     static void soon();
 };
 

@@ -37,6 +37,14 @@ void ItemListModel::reload()
     endResetModel();
 }
 
+void ItemListModel::release()
+{
+    beginResetModel();
+    m_lines.clear();
+    m_texts.forgetAll();
+    endResetModel();
+}
+
 void ItemListModel::refreshTexts()
 {
     // Forgotten only: a row's texts are made again when it is next read, which for a long list

@@ -35,6 +35,8 @@ public:
 
     // Builds the lines anew from the shared list and the history on disk.
     void reload();
+    // Drops the lines and their texts, for a list out of sight, until the next reload.
+    void release();
     // Keeps only the items that have been started, or lists all again.
     void setShowRunningOnly(bool only);
     // The texts of every row are out of date, as the minute passes.

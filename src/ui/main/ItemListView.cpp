@@ -11,6 +11,7 @@
 #include "core/reports/Report.h"
 #include "core/scheduling/CatalogueEntries.h"
 #include "core/text/LocalizedText.h"
+#include "ui/desktop/MemoryTrim.h"
 #include "ui/main/ItemListModel.h"
 #include "ui/main/ItemMenu.h"
 #include "ui/main/ListHeader.h"
@@ -19,6 +20,7 @@
 #include "ui/widgets/Dialogs.h"
 
 #include <QHeaderView>
+#include <QHideEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScrollBar>
@@ -116,6 +118,9 @@ void ItemListView::updateChart()
 void ItemListView::buildTable(QVBoxLayout* layout)
 {
     m_table = new QTableView(this);
+    // Set before the model: afterwards, each of a long list's rows would be resized and queued
+    // for an update one by one.
+    m_table->verticalHeader()->setDefaultSectionSize(34);
     m_table->setModel(m_model);
     m_table->setObjectName(QStringLiteral("items"));
     const ListBuilder::Scope& scope = m_model->scope();
@@ -126,7 +131,6 @@ void ItemListView::buildTable(QVBoxLayout* layout)
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(34);
     QHeaderView* columns = m_table->horizontalHeader();
     columns->setSectionResizeMode(ItemListModel::TitleColumn, QHeaderView::Stretch);
     columns->setSectionResizeMode(ItemListModel::StartColumn, QHeaderView::Fixed);
@@ -144,8 +148,6 @@ void ItemListView::buildTable(QVBoxLayout* layout)
     m_table->setColumnWidth(ItemListModel::StartColumn, 36);
     auto* startButtons = new StartButtonDelegate(m_table);
     m_table->setItemDelegateForColumn(ItemListModel::StartColumn, startButtons);
-    // The painted buttons rise under the mouse.
-    m_table->viewport()->setAttribute(Qt::WA_Hover);
     connect(startButtons, &StartButtonDelegate::clicked, this,
             [this](const QModelIndex& index) { startOrStop(m_model->itemAt(index.row())); });
     columns->setVisible(m_withHeader);
@@ -258,6 +260,29 @@ void ItemListView::fitColumns()
 
 void ItemListView::reload()
 {
+    if (!m_released)
+        m_model->reload();
+}
+
+// A list of the whole history takes megabytes, and rebuilding it at each change of an item
+// takes time: out of sight, in a closed window, it gives its lines up and is built again as it
+// shows. A minimised window keeps its list.
+void ItemListView::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    if (event->spontaneous() || m_released)
+        return;
+    m_released = true;
+    m_model->release();
+    MemoryTrim::soon();
+}
+
+void ItemListView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!m_released)
+        return;
+    m_released = false;
     m_model->reload();
 }
 

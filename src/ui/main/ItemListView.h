@@ -54,6 +54,8 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void buildHeader(QVBoxLayout* layout);
@@ -81,6 +83,8 @@ private:
     ListHeader* m_header = nullptr;
     QTableView* m_table = nullptr;
     QLabel* m_noData = nullptr;
+    // Out of sight since it was last shown: the list holds no lines and builds none.
+    bool m_released = false;
 };
 
 } // namespace lullet

@@ -3,7 +3,9 @@
 #include "core/model/Item.h"
 #include "ui/main/ItemListModel.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -26,7 +28,33 @@ bool isEnabled(const QModelIndex& index)
     return !index.data(ItemListModel::FinishedRole).toBool();
 }
 
+// Paints a cell's background hovered and not: the same pixels mean the style shows no hover.
+bool showsHoveredCells(const QWidget* view)
+{
+    const auto background = [view](QStyle::State hover) {
+        QImage image(8, 8, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        QStyleOptionViewItem cell;
+        cell.initFrom(view);
+        cell.rect = image.rect();
+        cell.state |= hover;
+        view->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, &painter, view);
+        return image;
+    };
+    return background(QStyle::State_MouseOver) != background(QStyle::State_None);
+}
+
 } // namespace
+
+StartButtonDelegate::StartButtonDelegate(QAbstractItemView* view)
+    : QStyledItemDelegate(view)
+    , m_view(view)
+    , m_styleShowsHover(showsHoveredCells(view))
+{
+    view->viewport()->setAttribute(Qt::WA_Hover);
+    view->viewport()->installEventFilter(this);
+}
 
 void StartButtonDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                 const QModelIndex& index) const
@@ -53,7 +81,7 @@ void StartButtonDelegate::paint(QPainter* painter, const QStyleOptionViewItem& o
     const bool enabled = isEnabled(index);
     if (enabled)
         button.state |= QStyle::State_Enabled;
-    if (enabled && (option.state & QStyle::State_MouseOver))
+    if (enabled && m_hovered == index)
         button.state |= QStyle::State_MouseOver | QStyle::State_Raised;
     if (enabled && m_pressed == index)
         button.state |= QStyle::State_Sunken;
@@ -78,6 +106,31 @@ void StartButtonDelegate::paintProgress(QPainter* painter, const QRect& around, 
     painter->setPen(QPen(ringColor, 2.5, Qt::SolidLine, Qt::RoundCap));
     painter->drawArc(ring, 90 * 16, -int(std::clamp(fraction, 0.0, 1.0) * 360 * 16));
     painter->restore();
+}
+
+bool StartButtonDelegate::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    if (type != QEvent::HoverEnter && type != QEvent::HoverMove && type != QEvent::HoverLeave)
+        return QStyledItemDelegate::eventFilter(watched, event);
+    QModelIndex under;
+    if (type != QEvent::HoverLeave)
+        under = m_view->indexAt(static_cast<QHoverEvent*>(event)->position().toPoint());
+    const bool onButton =
+        m_view->itemDelegateForIndex(under) == this && isButton(under) && isEnabled(under);
+    setHovered(onButton ? under : QModelIndex());
+    // Otherwise the view repaints both rows at each change of row, and the whole viewport as the
+    // pointer enters or leaves it: a tall fill on every crossing, for nothing to see.
+    return !m_styleShowsHover;
+}
+
+void StartButtonDelegate::setHovered(const QModelIndex& index)
+{
+    if (m_hovered == index)
+        return;
+    m_view->update(m_hovered);
+    m_view->update(index);
+    m_hovered = index;
 }
 
 bool StartButtonDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,

@@ -8,6 +8,7 @@
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QMenu>
+#include <QPaintEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QTableView>
@@ -16,6 +17,20 @@
 
 using namespace lullet;
 using namespace lullet::test;
+
+// The region a widget repaints.
+class Repaints : public QObject {
+public:
+    explicit Repaints(QWidget* widget) { widget->installEventFilter(this); }
+    QRegion region;
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+};
 
 // The day's list on screen, driven through its rows.
 class TestListView : public DesktopTest {
@@ -50,6 +65,14 @@ class TestListView : public DesktopTest {
         QTableView* table = view.table();
         const QRect cell = table->visualRect(view.model().index(row, ItemListModel::StartColumn));
         QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
+    }
+
+    // The pointer at a point of the widget, and the repaints it causes.
+    static void hover(QWidget* widget, QEvent::Type type, QPoint at = {})
+    {
+        QHoverEvent event(type, at, widget->mapToGlobal(at), QPointF(-1, -1));
+        QCoreApplication::sendEvent(widget, &event);
+        QCoreApplication::processEvents();
     }
 
 private Q_SLOTS:
@@ -144,6 +167,38 @@ private Q_SLOTS:
             return *a->effectiveDate() < *b->effectiveDate();
         }));
         QVERIFY(all[rules]->isFinished());
+    }
+
+    // The pointer moving along the rows repaints only a start button it enters or leaves: a
+    // repaint of whole rows, or of the whole list as the pointer comes in, at each move would keep
+    // the program busy while the user only reads.
+    void thePointerRepaintsOnlyTheButtonsItCrosses()
+    {
+        item(QStringLiteral("Write"), at(2026, 11, 25, 11, 0));
+        item(QStringLiteral("Read"), at(2026, 11, 25, 14, 0));
+        ItemListView view(services(), {}, true);
+        view.resize(600, 400);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QCoreApplication::processEvents();
+        QTableView* table = view.table();
+        QWidget* viewport = table->viewport();
+        const auto cell = [&](int row, int column) {
+            return table->visualRect(view.model().index(row, column));
+        };
+        Repaints repaints(viewport);
+        hover(viewport, QEvent::HoverEnter, cell(0, ItemListModel::TitleColumn).center());
+        hover(viewport, QEvent::HoverMove, cell(1, ItemListModel::TitleColumn).center());
+        hover(viewport, QEvent::HoverMove, cell(1, ItemListModel::TimeColumn).center());
+        QCOMPARE(repaints.region, QRegion());
+
+        const QRect button = cell(1, ItemListModel::StartColumn);
+        hover(viewport, QEvent::HoverMove, button.center());
+        hover(viewport, QEvent::HoverMove, button.center() + QPoint(1, 1));
+        QCOMPARE(repaints.region, QRegion(button));
+        repaints.region = {};
+        hover(viewport, QEvent::HoverLeave);
+        QCOMPARE(repaints.region, QRegion(button));
     }
 
     // Day headings group the Completed list: they are read, not selected.

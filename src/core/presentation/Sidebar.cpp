@@ -6,6 +6,7 @@
 #include "core/presentation/ListBuilder.h"
 #include "core/presentation/TaskStats.h"
 #include "core/scheduling/Catalogue.h"
+#include "core/scheduling/CatalogueEntries.h"
 #include "core/scheduling/CatalogueRow.h"
 #include "core/text/LocalizedText.h"
 #include "core/text/TextSearch.h"
@@ -203,9 +204,11 @@ std::vector<SidebarRow> Sidebar::searchItems(const TextSearch& search, bool toda
         const std::optional<Date> due = item->dtReminder();
         const bool isToday = today && due && *due >= todayBounds.start && *due <= endOfToday;
         const bool isAnytime = anytime && !due;
-        if (isToday || isAnytime || search.matches(title)) {
+        // A suggestion's title is found as the user reads it, and as the record keeps it.
+        const QString shown = CatalogueEntries::shown(title);
+        if (isToday || isAnytime || search.matches(title) || search.matches(shown)) {
             SidebarRow result;
-            result.name = title;
+            result.name = shown;
             result.item = item;
             found.push_back(result);
         }

@@ -85,10 +85,12 @@ void Library::scanHistory(const std::function<void(const Item&)>& visit, const P
     tellRead(m_store.history().scan(visit, project));
 }
 
-void Library::scanHistoryTitles(
+bool Library::scanHistoryTitles(
     const std::function<void(qint64 rowId, QByteArrayView title, const Project* project)>& visit)
 {
-    tellRead(m_store.history().scanTitles(visit));
+    const bool ok = m_store.history().scanTitles(visit);
+    tellRead(ok);
+    return ok;
 }
 
 void Library::readHistory(const std::vector<qint64>& rowIds,

@@ -44,7 +44,7 @@ public:
     bool historyLines(std::vector<HistoryOnDisk::Line>& out, HistoryOnDisk::Part part = {});
     void scanHistory(const std::function<void(const Item&)>& visit,
                      const Project* project = nullptr);
-    void scanHistoryTitles(const std::function<void(qint64 rowId, QByteArrayView title,
+    bool scanHistoryTitles(const std::function<void(qint64 rowId, QByteArrayView title,
                                                     const Project* project)>& visit);
     void readHistory(const std::vector<qint64>& rowIds,
                      const std::function<void(const Item&)>& visit);

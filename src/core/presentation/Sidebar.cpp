@@ -22,6 +22,7 @@ Sidebar::Sidebar(const Clock& clock, Library& library, const Catalogue& catalogu
     , m_catalogue(catalogue)
     , m_running(running)
     , m_history(history)
+    , m_historySearch(library)
 {
 }
 
@@ -124,8 +125,7 @@ Segment Sidebar::segmentFor(const Item& item, Date now)
                                                                        : Segment::Upcoming;
 }
 
-std::vector<SidebarRow> Sidebar::search(const QString& text,
-                                        const std::vector<SidebarRow>& rows) const
+std::vector<SidebarRow> Sidebar::search(const QString& text, const std::vector<SidebarRow>& rows)
 {
     QStringList terms;
     bool today = false;
@@ -145,23 +145,24 @@ std::vector<SidebarRow> Sidebar::search(const QString& text,
     // The history on disk, read once: its items by title, and the projects whose items match.
     std::vector<SidebarRow> onDisk;
     QSet<const Project*> projectsHit;
-    if (!search.isEmpty()) {
-        m_library.scanHistoryTitles([&](qint64 rowId, QByteArrayView title, const Project* of) {
-            if (!search.matches(title))
-                return;
-            SidebarRow result;
-            result.name = QString::fromUtf8(title);
-            result.rowId = rowId;
-            onDisk.push_back(result);
-            if (of)
-                projectsHit.insert(of);
-        });
-    }
+    m_historySearch.find(terms, search, [&](qint64 rowId, QByteArrayView title, const Project* of) {
+        SidebarRow result;
+        result.name = QString::fromUtf8(title);
+        result.rowId = rowId;
+        onDisk.push_back(result);
+        if (of)
+            projectsHit.insert(of);
+    });
     std::vector<SidebarRow> found = searchRows(rows, search, projectsHit, today, anytime);
     std::vector<SidebarRow> items = searchItems(search, today, anytime);
     found.insert(found.end(), items.begin(), items.end());
     found.insert(found.end(), onDisk.begin(), onDisk.end());
     return found;
+}
+
+void Sidebar::endSearch()
+{
+    m_historySearch.forget();
 }
 
 // Sidebar rows: by name, projects also by the titles of their items, and the segments of the

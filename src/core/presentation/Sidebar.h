@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/presentation/HistorySearch.h"
 #include "core/presentation/HistoryTotals.h"
 #include "core/presentation/Segment.h"
 
@@ -64,8 +65,11 @@ public:
 
     // Comma-separated terms; "today" and "anytime" stand for those items. Matching ignores case
     // and diacritics: rows by name, projects also by the titles of their items, items by title,
-    // those of the history on disk among them.
-    std::vector<SidebarRow> search(const QString& text, const std::vector<SidebarRow>& rows) const;
+    // those of the history on disk among them. A search that narrows the last one looks again
+    // only at the history's items that one found.
+    std::vector<SidebarRow> search(const QString& text, const std::vector<SidebarRow>& rows);
+    // The search ended: what it remembered is given back.
+    void endSearch();
 
 private:
     static std::vector<SidebarRow> searchRows(const std::vector<SidebarRow>& rows,
@@ -79,6 +83,7 @@ private:
     const Catalogue& m_catalogue;
     const RunningItem& m_running;
     HistoryTotals& m_history;
+    HistorySearch m_historySearch;
 };
 
 } // namespace lullet

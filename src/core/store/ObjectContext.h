@@ -44,6 +44,9 @@ public:
     // Changes whenever the history on disk does as a whole: at a load, a reset, or a save that
     // deleted a project's.
     quint32 historyVersion() const { return m_historyVersion; }
+    // The rows of the items in memory, deleted ones not yet saved among them: none of them is
+    // the history's any more.
+    QSet<qint64> itemRowIds() const;
     // The project's history on disk goes with the next save, in its transaction.
     void deleteHistoryOf(const Project& project);
 
@@ -78,7 +81,6 @@ private:
     friend class HistoryOnDisk;
     void recordChanged(Record* record);
     template <class T> T* adopt(std::vector<T*>& live);
-    QSet<qint64> itemRowIds() const;
     QHash<qint64, Project*> projectsByRowId() const;
     static void linkToProject(Item& item, const Stmt& stmt, int column,
                               const QHash<qint64, Project*>& projects);

@@ -333,6 +333,7 @@ void SidebarView::search(const QString& text)
 {
     if (text.trimmed().isEmpty()) {
         m_showingResults = false;
+        m_sidebar.endSearch();
         reload();
         return;
     }

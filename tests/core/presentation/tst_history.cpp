@@ -84,6 +84,15 @@ class TestHistory : public LaunchedTest {
         return read;
     }
 
+    // What a search finds, as the sidebar lists it: each row's name, and where it is read from.
+    QStringList found(Sidebar& bar, const QString& text)
+    {
+        QStringList list;
+        for (const SidebarRow& row : bar.search(text, bar.rows()))
+            list << QStringLiteral("%1 %2 %3").arg(row.name).arg(row.rowId).arg(bool(row.item));
+        return list;
+    }
+
     Item* finished(const QString& title, Date when, Project* in, int elapsed)
     {
         Item* item = app().addItem(title, when);
@@ -197,6 +206,43 @@ private Q_SLOTS:
         QCOMPARE(onDisk.timeCompletedRunning, inMemory.timeCompletedRunning);
         QCOMPARE(dashboard(), dashboardOnDisk);
         QCOMPARE(dashboardOnDisk.first[8], 37);
+    }
+
+    // Typing narrows the last search, which then looks only at what that one found; a deletion,
+    // a new term or a change of the history between keystrokes reads the history again. Each
+    // keystroke finds what a search of the whole history finds.
+    void aSearchTypedFindsWhatAWholeSearchFinds()
+    {
+        Sidebar typing = sidebar();
+        const auto type = [&](const QStringList& texts) {
+            for (const QString& text : texts) {
+                Sidebar whole = sidebar();
+                QCOMPARE(found(typing, text), found(whole, text));
+            }
+        };
+        type({QStringLiteral("w"), QStringLiteral("we"), QStringLiteral("wee"),
+              QStringLiteral("Wéed 1"), QStringLiteral("weed"), QStringLiteral("weed,"),
+              QStringLiteral("weed, b"), QStringLiteral("weed, ba"),
+              QStringLiteral("today, weed 2, ba"), QStringLiteral("weed 2, bake 3"),
+              QStringLiteral("weed")});
+
+        // Narrowing reads nothing: a history that can't be read now is not missed.
+        QSignalSpy told(&library(), &Library::readFailed);
+        QVERIFY(Db(storePath()).exec("ALTER TABLE ReminderInfo RENAME TO Elsewhere"));
+        // Garden, holding them, and eleven weedings.
+        QCOMPARE(found(typing, QStringLiteral("weed 1")).size(), 12);
+        QCOMPARE(told.count(), 0);
+        QVERIFY(found(typing, QStringLiteral("weed")).isEmpty());
+        QCOMPARE(told.count(), 1);
+        QVERIFY(Db(storePath()).exec("ALTER TABLE Elsewhere RENAME TO ReminderInfo"));
+        type({QStringLiteral("weed"), QStringLiteral("weed 1")});
+
+        // Items read into memory are listed from there, once; a project deleted with its history
+        // takes that history out of the next keystroke's results.
+        (void)gardenHistory();
+        type({QStringLiteral("weed 12"), QStringLiteral("b")});
+        services().projectActions.deleteProject(*project(QStringLiteral("Kitchen")));
+        type({QStringLiteral("ba"), QStringLiteral("bake 3")});
     }
 
     void editsAndDeletionsAreNeverListedTwice()

@@ -185,7 +185,7 @@ void ListLines::buildCustomListing(Segment segment)
             entries.push_back(entry);
     }
     std::stable_sort(entries.begin(), entries.end(),
-                     [](const Entry& a, const Entry& b) { return *a.date() > *b.date(); });
+                     [](const Entry& a, const Entry& b) { return b.isEarlierThan(a); });
     m_counted = true;
     if (!upcoming) {
         groupByDay(entries, {});

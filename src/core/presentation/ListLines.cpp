@@ -15,21 +15,54 @@ namespace {
 
 ListLines::Line lineOf(Item* item)
 {
-    ListLines::Line line;
-    line.item = item;
-    line.rowId = item->rowId();
-    line.date = item->effectiveDate();
-    line.used = item->isFinished() ? std::max(0, item->elapsedTime().value_or(0)) : 0;
-    return line;
-}
-
-bool isFinished(const ListLines::Line& line)
-{
-    // A line on disk is history, and history is finished.
-    return !line.item || line.item->isFinished();
+    return ListLines::Line::ofItem(item, item->effectiveDate(),
+                                   item->isFinished() ? std::max(0, item->elapsedTime().value_or(0))
+                                                      : 0);
 }
 
 } // namespace
+
+ListLines::Line ListLines::Line::ofItem(Item* item, std::optional<Date> date, qint32 used)
+{
+    Line line;
+    line.m_held.item = item;
+    if (date)
+        line.m_date = *date;
+    line.m_used = used;
+    return line;
+}
+
+ListLines::Line ListLines::Line::onDisk(qint64 rowId, Date date, qint32 used)
+{
+    Line line;
+    line.m_held.rowId = rowId;
+    line.m_onDisk = 1;
+    line.m_date = date;
+    line.m_used = used;
+    return line;
+}
+
+ListLines::Line ListLines::Line::headingOf(std::optional<Date> day)
+{
+    Line line;
+    line.m_heading = 1;
+    if (day)
+        line.m_date = *day;
+    return line;
+}
+
+qint64 ListLines::Line::rowId() const
+{
+    if (m_onDisk)
+        return m_held.rowId;
+    return m_held.item ? m_held.item->rowId() : 0;
+}
+
+bool ListLines::Line::isFinished() const
+{
+    const Item* held = item();
+    return !held || held->isFinished();
+}
 
 ListLines::ListLines(const Clock& clock, Library& library, HistoryTotals& history,
                      const RunningItem& running)
@@ -73,13 +106,8 @@ std::vector<ListLines::Entry> ListLines::historyEntries(HistoryOnDisk::Part part
     m_library.historyLines(onDisk, part);
     std::vector<Entry> entries;
     entries.reserve(onDisk.size());
-    for (const HistoryOnDisk::Line& line : onDisk) {
-        Entry entry;
-        entry.rowId = line.rowId;
-        entry.date = line.date;
-        entry.used = line.used;
-        entries.push_back(entry);
-    }
+    for (const HistoryOnDisk::Line& line : onDisk)
+        entries.push_back(Line::onDisk(line.rowId, line.date, line.used));
     return entries;
 }
 
@@ -128,9 +156,11 @@ void ListLines::buildGrouped(Project* project)
 void ListLines::groupByDayAscending(std::vector<Entry> dated, const std::vector<Entry>& undated)
 {
     std::stable_sort(dated.begin(), dated.end(), [](const Entry& a, const Entry& b) {
-        if (*a.date != *b.date)
-            return *a.date < *b.date;
-        return !isFinished(a) && isFinished(b);
+        const Date aDate = *a.date();
+        const Date bDate = *b.date();
+        if (aDate != bDate)
+            return aDate < bDate;
+        return !a.isFinished() && b.isFinished();
     });
     groupByDay(dated, undated);
 }
@@ -155,7 +185,7 @@ void ListLines::buildCustomListing(Segment segment)
             entries.push_back(entry);
     }
     std::stable_sort(entries.begin(), entries.end(),
-                     [](const Entry& a, const Entry& b) { return *a.date > *b.date; });
+                     [](const Entry& a, const Entry& b) { return b.isEarlierThan(a); });
     m_counted = true;
     if (!upcoming) {
         groupByDay(entries, {});
@@ -165,7 +195,7 @@ void ListLines::buildCustomListing(Segment segment)
     std::vector<std::vector<Entry>> days;
     std::optional<Date> day;
     for (const Entry& entry : entries) {
-        const Date start = entry.date->dateAtStartOfDay();
+        const Date start = entry.date()->dateAtStartOfDay();
         if (!day || *day != start)
             days.emplace_back();
         day = start;
@@ -184,26 +214,19 @@ void ListLines::groupByDay(const std::vector<Entry>& dated, const std::vector<En
     std::size_t heading = 0;
     std::optional<Date> day;
     for (const Entry& entry : dated) {
-        const Date start = entry.date->dateAtStartOfDay();
+        const Date start = entry.date()->dateAtStartOfDay();
         if (!day || *day != start) {
             day = start;
             heading = m_lines.size();
-            Line line;
-            line.heading = true;
-            line.date = start;
-            m_lines.push_back(line);
+            m_lines.push_back(Line::headingOf(start));
         }
         m_lines.push_back(entry);
-        if (m_counted) {
-            m_lines[heading].count += 1;
-            m_lines[heading].used += entry.used;
-        }
+        if (m_counted)
+            m_lines[heading].addItem(entry);
     }
     if (undated.empty())
         return;
-    Line anytime;
-    anytime.heading = true;
-    m_lines.push_back(anytime);
+    m_lines.push_back(Line::headingOf(std::nullopt));
     m_lines.insert(m_lines.end(), undated.begin(), undated.end());
 }
 
@@ -214,9 +237,10 @@ int ListLines::indexOf(const Item* item) const
     const qint64 rowId = item->rowId();
     for (std::size_t i = 0; i < m_lines.size(); ++i) {
         const Line& line = m_lines[i];
-        if (line.heading)
+        if (line.isHeading())
             continue;
-        if (line.item == item || (rowId && !line.item && line.rowId == rowId))
+        const Item* held = line.item();
+        if (held == item || (rowId && !held && line.rowId() == rowId))
             return int(i);
     }
     return -1;
@@ -224,12 +248,13 @@ int ListLines::indexOf(const Item* item) const
 
 int ListLines::indexOf(const Line& line) const
 {
-    if (line.heading)
+    if (line.isHeading())
         return -1;
-    if (line.item)
-        return indexOf(line.item);
+    if (line.item())
+        return indexOf(line.item());
+    const qint64 rowId = line.rowId();
     for (std::size_t i = 0; i < m_lines.size(); ++i) {
-        if (!m_lines[i].heading && m_lines[i].rowId == line.rowId)
+        if (!m_lines[i].isHeading() && m_lines[i].rowId() == rowId)
             return int(i);
     }
     return -1;
@@ -237,20 +262,22 @@ int ListLines::indexOf(const Line& line) const
 
 Item* ListLines::itemAt(std::size_t index)
 {
-    if (index >= m_lines.size() || m_lines[index].heading)
+    if (index >= m_lines.size() || m_lines[index].isHeading())
         return nullptr;
     Line& line = m_lines[index];
-    if (!line.item)
-        line.item = m_library.bringIn(line.rowId);
-    return line.item;
+    if (!line.item()) {
+        if (Item* item = m_library.bringIn(line.rowId()))
+            line.setItem(item);
+    }
+    return line.item();
 }
 
 TaskStats ListLines::stats() const
 {
     TaskStats::Tally tally(m_clock, m_running);
     for (const Line& line : m_lines) {
-        if (line.item)
-            tally.add(*line.item);
+        if (const Item* item = line.item())
+            tally.add(*item);
     }
     // The lines on disk are counted by the history's sums, which leave out what came into
     // memory.
@@ -267,8 +294,9 @@ std::vector<std::pair<Date, int>> ListLines::usedByDay() const
 {
     std::map<double, int> days;
     for (const Line& line : m_lines) {
-        if (!line.heading && line.date)
-            days[line.date->dateAtStartOfDay().timeIntervalSince1970()] += line.used;
+        const std::optional<Date> date = line.date();
+        if (!line.isHeading() && date)
+            days[date->dateAtStartOfDay().timeIntervalSince1970()] += line.used();
     }
     std::vector<std::pair<Date, int>> ordered;
     ordered.reserve(days.size());

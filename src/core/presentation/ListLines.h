@@ -5,6 +5,9 @@
 #include "core/presentation/TaskStats.h"
 #include "core/store/HistoryOnDisk.h"
 
+#include <cmath>
+#include <limits>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -23,17 +26,63 @@ class RunningItem;
 // hours by day and the head's totals come from the lines and the history's sums, not from texts.
 class ListLines {
 public:
-    struct Line {
-        // An item in memory, or else one on disk by its row.
-        Item* item = nullptr;
-        qint64 rowId = 0;
+    // One row, packed into 24 bytes: a long history lists hundreds of thousands of them.
+    class Line {
+    public:
+        // An item in memory, with its effective date and its time used.
+        static Line ofItem(Item* item, std::optional<Date> date, qint32 used);
+        // An item of the history on disk, by its row.
+        static Line onDisk(qint64 rowId, Date date, qint32 used);
+        // A day's heading; none for the heading of undated items.
+        static Line headingOf(std::optional<Date> day);
+
+        bool isHeading() const { return m_heading != 0; }
+        // The item in memory; none for a heading or an item still on disk.
+        Item* item() const { return m_onDisk ? nullptr : m_held.item; }
+        // The item's row in the store: the one on disk, or the item's own; 0 for a heading.
+        qint64 rowId() const;
+        // Whether the item is finished: one on disk is history, and history is finished.
+        bool isFinished() const;
         // An item's effective date, a heading's day; none for undated items and their heading.
-        std::optional<Date> date;
+        std::optional<Date> date() const
+        {
+            return std::isnan(m_date.timeIntervalSince1970()) ? std::nullopt
+                                                              : std::optional(m_date);
+        }
+        // The order of two dated lines, without unpacking their dates: a long sort's inner loop.
+        bool isEarlierThan(const Line& other) const { return m_date < other.m_date; }
         // Seconds used: an item's, or all its day's for a heading.
-        qint32 used = 0;
+        qint32 used() const { return m_used; }
         // A heading's items, where the list counts them.
-        qint32 count = 0;
-        bool heading = false;
+        qint32 count() const { return qint32(m_count); }
+
+        // The item of a line on disk, now read into memory.
+        void setItem(Item* item)
+        {
+            m_held.item = item;
+            m_onDisk = 0;
+        }
+        // Adds an item's line to this heading's count and time used.
+        void addItem(const Line& line)
+        {
+            m_count += 1;
+            m_used += line.m_used;
+        }
+
+    private:
+        Line() = default;
+
+        // The item in memory (none for a heading), or the row of one on disk.
+        union Held {
+            Item* item;
+            qint64 rowId;
+        } m_held{nullptr};
+        // NaN for none.
+        Date m_date{std::numeric_limits<double>::quiet_NaN()};
+        qint32 m_used = 0;
+        quint32 m_count : 30 = 0;
+        quint32 m_onDisk : 1 = 0;
+        quint32 m_heading : 1 = 0;
     };
 
     ListLines(const Clock& clock, Library& library, HistoryTotals& history,
@@ -88,5 +137,7 @@ private:
     // Which history on disk the list holds: none, all of it, one project's or no project's.
     enum class OnDisk { None, All, Project, NoProject } m_onDisk = OnDisk::None;
 };
+
+static_assert(sizeof(ListLines::Line) <= 24);
 
 } // namespace lullet

@@ -58,11 +58,12 @@ ListRow ListTexts::heading(std::size_t index) const
     const ListLines::Line& line = m_lines.at(index);
     ListRow row;
     row.type = ListRow::DayHeading;
-    row.title = line.date ? ListBuilder::dayHeading(*line.date) : Segments::text(Segment::Anytime);
-    row.countOnDay = line.count;
+    const std::optional<Date> day = line.date();
+    row.title = day ? ListBuilder::dayHeading(*day) : Segments::text(Segment::Anytime);
+    row.countOnDay = line.count();
     if (m_lines.headingsCounted()) {
-        row.timeUsedInSeconds = line.used;
-        row.timeUsed = RowTexts::getStringFromSeconds(line.used);
+        row.timeUsedInSeconds = line.used();
+        row.timeUsed = RowTexts::getStringFromSeconds(line.used());
     }
     return row;
 }
@@ -77,13 +78,13 @@ std::vector<ListRow> ListTexts::makePage(std::size_t number)
     std::vector<qint64> rowIds;
     for (std::size_t i = first; i < end; ++i) {
         const ListLines::Line& line = m_lines.at(i);
-        if (line.heading)
+        if (line.isHeading())
             rows[i - first] = heading(i);
-        else if (line.item)
-            rows[i - first] = RowTexts::makeRow(line.item, m_clock, m_naming);
+        else if (Item* item = line.item())
+            rows[i - first] = RowTexts::makeRow(item, m_clock, m_naming);
         else {
-            onDisk.insert(line.rowId, i - first);
-            rowIds.push_back(line.rowId);
+            onDisk.insert(line.rowId(), i - first);
+            rowIds.push_back(line.rowId());
         }
     }
     m_library.readHistory(rowIds, [&](const Item& scratch) {

@@ -75,17 +75,11 @@ const ListRow& ItemListModel::rowTexts(int row) const
     return m_texts.row(std::size_t(row));
 }
 
-bool ItemListModel::isFinished(const ListLines::Line& line) const
-{
-    // A row on disk is history, and history is finished.
-    return !line.item || line.item->isFinished();
-}
-
 QString ItemListModel::startGlyph(const ListLines::Line& line) const
 {
-    if (isFinished(line))
+    if (line.isFinished())
         return QStringLiteral("✓");
-    return m_services.running.isRunning(line.item) ? QStringLiteral("■") : QStringLiteral("▶");
+    return m_services.running.isRunning(line.item()) ? QStringLiteral("■") : QStringLiteral("▶");
 }
 
 int ItemListModel::rowCount(const QModelIndex& parent) const
@@ -100,7 +94,7 @@ int ItemListModel::columnCount(const QModelIndex& parent) const
 
 QVariant ItemListModel::display(const ListLines::Line& line, const ListRow& row, int column) const
 {
-    if (line.heading) {
+    if (line.isHeading()) {
         if (column != StartColumn)
             return {};
         if (row.countOnDay <= 0)
@@ -131,9 +125,9 @@ QVariant ItemListModel::display(const ListLines::Line& line, const ListRow& row,
 QVariant ItemListModel::font(const ListLines::Line& line, int column)
 {
     QFont font;
-    if (line.heading)
+    if (line.isHeading())
         font.setBold(true);
-    else if (column == TitleColumn && (!line.item || line.item->isFinished()))
+    else if (column == TitleColumn && line.isFinished())
         font.setStrikeOut(true);
     else
         return {};
@@ -147,29 +141,29 @@ QVariant ItemListModel::data(const QModelIndex& index, int role) const
     const ListLines::Line& line = m_lines.at(std::size_t(index.row()));
     switch (role) {
     case ItemRole:
-        return QVariant::fromValue(line.item);
+        return QVariant::fromValue(line.item());
     case DueRole:
         return rowTexts(index.row()).dueOrOverdue;
     case ProjectRole:
         return rowTexts(index.row()).projectName;
     case RunningRole:
-        return m_services.running.isRunning(line.item);
+        return m_services.running.isRunning(line.item());
     case ProgressRole:
-        if (m_services.running.isRunning(line.item))
+        if (m_services.running.isRunning(line.item()))
             return *RunningStatus::progress(m_services.running, m_services.clock);
         return {};
     case FinishedRole:
-        return line.heading ? QVariant() : QVariant(isFinished(line));
+        return line.isHeading() ? QVariant() : QVariant(line.isFinished());
     case Qt::DisplayRole:
         return display(line, rowTexts(index.row()), index.column());
     case Qt::ToolTipRole:
     case Qt::AccessibleTextRole:
-        if (index.column() == StartColumn && !line.heading && !isFinished(line))
-            return m_services.running.isRunning(line.item) ? tr("Stop: it is done") : tr("Start");
+        if (index.column() == StartColumn && !line.isHeading() && !line.isFinished())
+            return m_services.running.isRunning(line.item()) ? tr("Stop: it is done") : tr("Start");
         return {};
     case Qt::ForegroundRole:
         // Due and overdue times stand out in the warning colour.
-        if (index.column() == TimeColumn && !line.heading && rowTexts(index.row()).dueOrOverdue)
+        if (index.column() == TimeColumn && !line.isHeading() && rowTexts(index.row()).dueOrOverdue)
             return QColor(0xFC, 0x72, 0x74);
         return {};
     case Qt::FontRole:

@@ -52,7 +52,7 @@ public:
     int rowOf(const Item* item) const { return m_lines.indexOf(item); }
     // The texts of a row, made now if they are not at hand.
     const ListRow& rowTexts(int row) const;
-    bool isHeading(int row) const { return m_lines.at(std::size_t(row)).heading; }
+    bool isHeading(int row) const { return m_lines.at(std::size_t(row)).isHeading(); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -66,7 +66,6 @@ private:
     QString startGlyph(const ListLines::Line& line) const;
     QVariant display(const ListLines::Line& line, const ListRow& row, int column) const;
     static QVariant font(const ListLines::Line& line, int column);
-    bool isFinished(const ListLines::Line& line) const;
 
     const Services& m_services;
     ListBuilder::Scope m_scope;

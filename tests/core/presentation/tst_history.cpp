@@ -78,7 +78,7 @@ class TestHistory : public LaunchedTest {
         lines.build({Segment::Project, project(QStringLiteral("Garden")), false});
         std::vector<Item*> read;
         for (std::size_t i = 0; i < lines.size(); ++i) {
-            if (!lines.at(i).heading && !lines.at(i).item)
+            if (!lines.at(i).isHeading() && !lines.at(i).item())
                 read.push_back(lines.itemAt(i));
         }
         return read;

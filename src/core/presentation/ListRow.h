@@ -24,6 +24,8 @@ struct ListRow {
     QString projectName;
     // Day headings of the grouped lists: how many rows the day holds.
     int countOnDay = 0;
+
+    bool operator==(const ListRow&) const = default;
 };
 
 } // namespace lullet

@@ -46,6 +46,20 @@ void ListTexts::forgetAll()
     m_recent.clear();
 }
 
+std::vector<std::size_t> ListTexts::refresh()
+{
+    std::vector<std::size_t> changed;
+    for (auto& [number, rows] : m_pages) {
+        std::vector<ListRow> fresh = makePage(number);
+        for (std::size_t i = 0; i < fresh.size(); ++i) {
+            if (i >= rows.size() || !(fresh[i] == rows[i]))
+                changed.push_back(number * pageSize + i);
+        }
+        rows = std::move(fresh);
+    }
+    return changed;
+}
+
 void ListTexts::forget(std::size_t index)
 {
     const std::size_t number = index / pageSize;

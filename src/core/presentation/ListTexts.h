@@ -26,6 +26,9 @@ public:
     // Every text is out of date (the minute passed, the lines were built again), or one row's.
     void forgetAll();
     void forget(std::size_t index);
+    // The minute passed: the rows kept are made again, and the indexes of those whose texts
+    // changed are answered; the others are made afresh when next read.
+    std::vector<std::size_t> refresh();
     // Every row with its texts, in order, for a report; made page by page and kept by the caller.
     std::vector<ListRow> allRows();
 

@@ -47,11 +47,10 @@ void ItemListModel::release()
 
 void ItemListModel::refreshTexts()
 {
-    // Forgotten only: a row's texts are made again when it is next read, which for a long list
-    // is the rows on screen and not the thousands beyond them.
-    m_texts.forgetAll();
-    if (rowCount() > 0)
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    // Only the rows whose texts the minute changed are told, so that an open list repaints those
+    // alone, once a minute; rows off screen have no texts kept, and are made when next read.
+    for (const std::size_t row : m_texts.refresh())
+        Q_EMIT dataChanged(index(int(row), 0), index(int(row), ColumnCount - 1));
 }
 
 void ItemListModel::refreshItem(const Item* item)

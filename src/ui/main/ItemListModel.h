@@ -39,7 +39,7 @@ public:
     void release();
     // Keeps only the items that have been started, or lists all again.
     void setShowRunningOnly(bool only);
-    // The texts of every row are out of date, as the minute passes.
+    // The minute passed: the rows whose texts it changed are told.
     void refreshTexts();
     // The texts of the one item's row are out of date, if it is listed.
     void refreshItem(const Item* item);

@@ -169,6 +169,40 @@ private Q_SLOTS:
         QVERIFY(all[rules]->isFinished());
     }
 
+    // The minute's pass tells only the rows whose texts it changed, so that an open list
+    // repaints those alone: "Due from 5 min" becomes "Due from 6 min", a time of day stays.
+    void theMinuteTellsOnlyTheRowsItChanges()
+    {
+        item(QStringLiteral("Late"), at(2026, 11, 25, 11, 55));
+        item(QStringLiteral("Tonight"), at(2026, 11, 25, 18, 0));
+        ItemListView view(services(), {}, true);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        const QAbstractItemModel& rows = view.model();
+        const auto rowOf = [&rows](const QString& title) {
+            for (int row = 0; row < rows.rowCount(); ++row) {
+                if (rows.index(row, ItemListModel::TitleColumn).data().toString() == title)
+                    return row;
+            }
+            return -1;
+        };
+        const QModelIndex late =
+            rows.index(rowOf(QStringLiteral("Late")), ItemListModel::TimeColumn);
+        const QString before = late.data().toString();
+        QVERIFY(rowOf(QStringLiteral("Tonight")) >= 0);
+        QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
+        app().runUntil(at(2026, 11, 25, 12, 1, 0));
+        QCoreApplication::processEvents();
+        QSet<int> told;
+        for (const QList<QVariant>& signal : changed) {
+            for (int row = signal.at(0).value<QModelIndex>().row();
+                 row <= signal.at(1).value<QModelIndex>().row(); ++row)
+                told.insert(row);
+        }
+        QCOMPARE(told, QSet<int>{late.row()});
+        QVERIFY(late.data().toString() != before);
+    }
+
     // The pointer moving along the rows repaints only a start button it enters or leaves: a
     // repaint of whole rows, or of the whole list as the pointer comes in, at each move would keep
     // the program busy while the user only reads.

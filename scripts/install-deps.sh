@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
   build-essential cmake ninja-build ccache pkg-config git
-  qt6-base-dev qt6-base-dev-tools qt6-l10n-tools qt6-translations-l10n python3
+  qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-l10n-tools qt6-translations-l10n python3
   libicu-dev libsqlite3-dev libgl-dev
   xvfb xauth dbus dbus-x11 fonts-dejavu-core clang-format clang-tidy
   openbox xdotool x11-utils
